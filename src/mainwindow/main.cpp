@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/Startup.h"
+
+int main(int argc, char **argv)
+{
+    return startQuintra(argc, argv);
+}

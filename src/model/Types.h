@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+// Counts and indices of blocks, rows, columns and cells: at most 255 of each.
+using U8 = quint8;
+// Counts and indices of pages: at most 65535.
+using U16 = quint16;

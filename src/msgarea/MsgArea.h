@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QFile;
+
+namespace Ui {
+class MsgArea;
+}
+
+// A window for long texts. In message mode it shows a report; in file mode it edits a small Latin-1 text file.
+// Created per use, with the window it belongs to as parent.
+class MsgArea final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MsgArea(QWidget *parent, bool fileMode);
+    ~MsgArea() override;
+
+    void setEditable(bool editable);
+    // In file mode a path, whose content is shown (empty when it cannot be read); in message mode the text itself.
+    void setText(const QString &textOrPath, bool plain);
+    // Shows the lines, each a paragraph of its own.
+    void setLines(const QStringList &lines);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void on_actionSalva_triggered();
+    void fileModified();
+
+private:
+    std::unique_ptr<Ui::MsgArea> ui;
+    bool m_fileMode;
+    std::unique_ptr<QFile> m_file; // null in message mode until a save picks one
+    bool m_modified = false;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class Cartella;
+
+// Prints a card set to a file, PDF being the one format. Tells progress through status() and appends its report, or
+// the reason of a failure, to the caller's text; it never shows anything.
+class CreateOutputFile final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CreateOutputFile(QObject *parent = nullptr);
+
+    // Chooses the writer by the suffix of fileName. The size of the file in bytes, 0 when the format is not available,
+    // negative on failure. `set` is not owned.
+    int create(const QString &outputFileName, Cartella *set, QString &report);
+    // Writes `fileName` from `cartella`. The size of the file in bytes, -1 on failure.
+    int printPdf(QString &report);
+
+    QString fileName;
+    Cartella *cartella = nullptr; // not owned
+
+signals:
+    void status(const QString &text);
+};

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "personale/PaginaPersonale.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include <memory>
+#include <vector>
+
+class GeneraCartellaPersonale;
+class MsgArea;
+
+namespace Ui {
+class EditPersonale;
+}
+
+// The manual mapping editor: the user ticks which cells of each page are filled, and with what, then creates the pages
+// in the card set. Shows itself when created and deletes itself when closed.
+class EditPersonale final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // `cartella` receives the pages and is not owned. Each of the pageCount pages is a grid of rows x columns.
+    EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 columns, U16 pageCount, int nmin, int nmax,
+                  U8 append);
+    ~EditPersonale() override;
+
+signals:
+    // The user has confirmed closing.
+    void done();
+
+public slots:
+    void on_pageNumSpinBox_valueChanged(int v);
+    void on_checkBox_ordinaNumxColonne_clicked();
+    void on_row_from_spinBox_valueChanged(int v);
+    void on_row_to_spinBox_valueChanged(int v);
+    void on_col_from_spinBox_valueChanged(int v);
+    void on_col_to_spinBox_valueChanged(int v);
+    void on_riempiButton_clicked();
+    void on_svuotaButton_clicked();
+    void on_invertiButton_clicked();
+    void on_setNumTxtImgButton_clicked();
+    void on_creapagineButton_clicked();
+    void on_checkboxChecked(U8 r, U8 c, bool b);
+    void on_checkboxRClicked(U8 r, U8 c);
+    void on_actionSave_triggered();
+    void on_actionEsci_triggered();
+    void on_actionOpen_triggered();
+    void on_actionCreaPagine_triggered();
+    void on_impostaschemacorrenteButton_clicked();
+    void on_impostaDAspinBox_valueChanged(int v);
+    void on_impostaAspinBox_valueChanged(int v);
+    void on_impostasuttute_checkBox_clicked(bool b);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    std::unique_ptr<Ui::EditPersonale> ui;
+    QWidget *m_mainWindow;       // not owned
+    QPointer<MsgArea> m_msgArea; // the last report of a save
+    std::unique_ptr<GeneraCartellaPersonale> m_generatore;
+    Cartella *m_cartella; // not owned
+    U8 m_append;          // kept, not read
+    bool m_mainWasMaximized = false;
+    U16 m_pageCount;
+    U16 m_currentPage = 0; // 0-based
+    int m_nmin;
+    int m_nmax;
+    int m_available;
+    int m_tickedNumbers = 0; // of the page on display, see the settings check
+    std::vector<PaginaPersonale> m_pages;
+};

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class FormatSelection;
+}
+
+// The first-start dialog: choice of the language, direct editing of config.ini.
+class FormatSelection final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FormatSelection(QWidget *parent = nullptr);
+    ~FormatSelection() override;
+
+signals:
+    // "OK" was pressed, or the dialog was closed.
+    void done();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void on_procedi_clicked();
+    void on_default_settings_clicked();
+    void on_lang_selection_currentIndexChanged(int index);
+
+private:
+    std::unique_ptr<Ui::FormatSelection> ui;
+};
