@@ -53,6 +53,8 @@ private:
 
 // The next number of the seeded generator, 0 to RAND_MAX: the one place that calls qrand().
 int nextRandom();
+// Starts the generator of the calling thread anew: one seed gives one sequence.
+void seedRandom(unsigned seed);
 
 // Set by the start-up routine, which owns the object.
 extern GUtils *globalUtils;

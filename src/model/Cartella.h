@@ -80,8 +80,9 @@ public:
 
     // Appends a page of empty cells. False without blocks.
     bool generateBlock(U8 nBlocchi, U8 nRighe, U8 nCelle);
-    // Appends one page per index. False when a vector's length differs from that of nBlocchi at the first call in the
-    // life of the program; a page that cannot be built is skipped and does not make the result false.
+    // Appends one page per index. False when the length of nRighe or nCelle differs from that of nBlocchi at the first
+    // call in the life of the program, or nBlocchi is shorter than that; a page that cannot be built is skipped and
+    // does not make the result false.
     bool generateBlocks(const QVector<U8> &nBlocchi, const QVector<U8> &nRighe, const QVector<U8> &nCelle);
 
     int getNumPages() const;
@@ -97,7 +98,7 @@ public:
     // Translated display name. An unknown type stops the program.
     QString cellType2String(CELL_VALUE type) const;
 
-    // The set takes ownership of p. An index beyond the end appends.
+    // The set takes ownership of p; false for a null one. An index beyond the end appends.
     bool appendPage(Pagina *p);
     bool insertPage(Pagina *p, quint16 index);
     bool prependPage(Pagina *p);
