@@ -1,2 +1,105 @@
 // SPDX-License-Identifier: MIT
 #include "output/CreateOutputFile.h"
+
+#include "generation/GUtils.h"
+#include "model/Cartella.h"
+#include "output/PagePainter.h"
+#include "settings/Config.h"
+#include "settings/Product.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPrinter>
+
+namespace {
+constexpr int pdfFormatId = 0;
+constexpr int noFormatId = -1;
+constexpr int failure = -1;
+constexpr double megabytesPerByte = 9.536743e-07;
+
+void setUpPrinter(QPrinter &printer, const QString &fileName, const Cartella &set)
+{
+    printer.setDocName(Product::nameAndRelease());
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(fileName);
+    printer.setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(set.formato)));
+    printer.setPageMargins(
+        QMarginsF(set.margineSinistro, set.margineSuperiore, set.margineDestro, set.margineInferiore),
+        QPageLayout::Millimeter);
+}
+
+Sheet sheetOf(const QPrinter &printer, const Cartella &set)
+{
+    const QSizeF millimetres = printer.pageLayout().pageSize().size(QPageSize::Millimeter);
+    return {printer.pageLayout().fullRectPixels(printer.resolution()),
+            millimetres.width(),
+            millimetres.height(),
+            set.margineSinistro,
+            set.margineSuperiore,
+            set.margineDestro,
+            set.margineInferiore};
+}
+} // namespace
+
+CreateOutputFile::CreateOutputFile(QObject *parent)
+    : QObject(parent)
+{
+}
+
+int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QString &report)
+{
+    fileName = outputFileName;
+    cartella = set;
+
+    const QString suffix = QFileInfo(fileName).suffix().toUpper();
+    const int id = globalConfig->outputFormatId;
+    if (suffix != globalConfig->outputFormatName || id == noFormatId) {
+        report += tr("Formato file sconosciuto!");
+        return failure;
+    }
+    if (id != pdfFormatId) {
+        report += tr("Formato %1 non disponibile. Creazione annullata.").arg(globalConfig->formatName(id));
+        return 0;
+    }
+    return printPdf(report);
+}
+
+int CreateOutputFile::printPdf(QString &report)
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    setUpPrinter(printer, fileName, *cartella);
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        report += tr("Impossibile scrivere sul file!");
+        return failure;
+    }
+    const PagePainter pages(&painter, documentLayout(sheetOf(printer, *cartella)));
+    const int count = cartella->getNumPages();
+    for (int p = 0; p < count; ++p) {
+        emit status(tr("PDF: Stampa pagina %1 di %2 (%3%) in corso...").arg(p + 1).arg(count).arg(p * 100 / count));
+        pages.paintPage(*cartella->pagine.at(p));
+        if (p < count - 1 && !printer.newPage()) {
+            report += tr("Impossibile continuare a scrivere sul file!");
+            return failure;
+        }
+    }
+    if (!painter.end()) {
+        report += tr("Impossibile continuare a scrivere sul file!");
+        return failure;
+    }
+    const qint64 bytes = QFileInfo(fileName).size();
+    report += successReport(bytes);
+    emit status(tr("Stampa PDF completata!"));
+    return static_cast<int>(bytes);
+}
+
+QString CreateOutputFile::successReport(qint64 bytes) const
+{
+    const QFileInfo file(fileName);
+    return tr("File creato con successo!\n\nNome: %1\nPercorso: %2\n\nPagine: %3\nDimensione: %4 Bytes (%5 MB)\n"
+              "----------------------------------------\n\nDimensioni pagina: %6")
+        .arg(file.completeBaseName(), file.absolutePath(), QString::number(cartella->getNumPages()),
+             QString::number(bytes), QString::number(static_cast<double>(bytes) * megabytesPerByte, 'f', 2),
+             GUtils::paperFormatName(cartella->formato));
+}

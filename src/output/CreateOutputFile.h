@@ -26,4 +26,7 @@ public:
 
 signals:
     void status(const QString &text);
+
+private:
+    QString successReport(qint64 bytes) const;
 };
