@@ -2,6 +2,8 @@
 #include "output/PagePainter.h"
 
 #include "model/Cartella.h"
+#include "output/BlockNumbers.h"
+#include "output/NumberShapes.h"
 
 #include <QPainter>
 
@@ -33,13 +35,32 @@ QLineF topEdge(const BlockLayout &block, const RowLayout &row)
 {
     return {QPointF(block.left, row.top), QPointF(block.left + block.width, row.top)};
 }
+
+QVector<QLineF> separators(const Blocco &block, const BlockLayout &layout)
+{
+    QVector<QLineF> lines;
+    for (int r = 0; r < block.nRighe; ++r) {
+        const int cells = block.righe[static_cast<size_t>(r)].nCelle;
+        const RowLayout row = rowLayout(layout, r, cells);
+        for (int c = 1; c < cells; ++c) {
+            lines.append(leftEdge(row.cellRect(c)));
+        }
+        if (r > 0) {
+            lines.append(topEdge(layout, row));
+        }
+    }
+    return lines;
+}
 } // namespace
 
 PagePainter::PagePainter(QPainter *painter, const DocumentLayout &document)
     : m_painter(painter)
     , m_document(document)
+    , m_shapes(std::make_unique<NumberShapes>(painter))
 {
 }
+
+PagePainter::~PagePainter() = default;
 
 void PagePainter::paintPage(const Pagina &page) const
 {
@@ -53,6 +74,31 @@ void PagePainter::paintPage(const Pagina &page) const
 
 void PagePainter::paintBlock(const Blocco &block, const BlockLayout &layout, const QColor &pageColor) const
 {
+    if (const auto numbers = numbersApartFromLines(block, layout, pageColor, *m_shapes)) {
+        paintTogether(*numbers, block, layout);
+    } else {
+        paintCellByCell(block, layout, pageColor);
+    }
+    m_painter->setPen(outerPen(block));
+    m_painter->drawRect(layout.rect());
+}
+
+void PagePainter::paintTogether(const QVector<PlacedNumber> &numbers, const Blocco &block,
+                                const BlockLayout &layout) const
+{
+    for (const PlacedNumber &number : numbers) {
+        m_painter->setPen(number.color);
+        m_painter->drawGlyphRun(number.corner, number.glyphs);
+    }
+    const QVector<QLineF> lines = separators(block, layout);
+    if (!lines.isEmpty()) {
+        m_painter->setPen(innerPen(block));
+        m_painter->drawLines(lines);
+    }
+}
+
+void PagePainter::paintCellByCell(const Blocco &block, const BlockLayout &layout, const QColor &pageColor) const
+{
     for (int r = 0; r < block.nRighe; ++r) {
         const Riga &row = block.righe[static_cast<size_t>(r)];
         const RowLayout rowPlace = rowLayout(layout, r, row.nCelle);
@@ -62,8 +108,6 @@ void PagePainter::paintBlock(const Blocco &block, const BlockLayout &layout, con
             m_painter->drawLine(topEdge(layout, rowPlace));
         }
     }
-    m_painter->setPen(outerPen(block));
-    m_painter->drawRect(layout.rect());
 }
 
 void PagePainter::paintRow(const Riga &row, const RowLayout &layout, const Blocco &block, const QColor &pageColor) const
@@ -94,7 +138,7 @@ void PagePainter::paintCell(const Cella &cell, const QRectF &rect, const QColor 
         m_painter->drawText(rect, Qt::AlignCenter, cell.testo);
         break;
     case CELL_NUMERO:
-        m_painter->drawText(rect, Qt::AlignCenter, QString::number(cell.numero));
+        m_painter->drawText(rect, Qt::AlignCenter, QString::number(static_cast<int>(cell.numero)));
         break;
     case CELL_VUOTA:
         break;
