@@ -1,2 +1,463 @@
 // SPDX-License-Identifier: MIT
 #include "personale/EditPersonale.h"
+
+#include "mainwindow/WaitCursor.h"
+#include "msgarea/MsgArea.h"
+#include "personale/GeneraCartellaPersonale.h"
+#include "resources/Resources.h"
+#include "settings/Product.h"
+#include "ui_EditPersonale.h"
+
+#include <QCloseEvent>
+#include <QMessageBox>
+
+namespace {
+size_t cellCount(const PaginaPersonale &page)
+{
+    return static_cast<size_t>(page.nRighe * page.nColonne);
+}
+
+CELL_VALUE nextType(CELL_VALUE tipo)
+{
+    switch (tipo) {
+    case CELL_NUMERO:
+        return CELL_TESTO;
+    case CELL_TESTO:
+        return CELL_IMMAGINE;
+    case CELL_IMMAGINE:
+        return CELL_VUOTA;
+    case CELL_VUOTA:
+        return CELL_NUMERO;
+    }
+    return CELL_VUOTA;
+}
+
+int countNumbers(const PaginaPersonale &page)
+{
+    int count = 0;
+    for (size_t i = 0; i < cellCount(page); ++i) {
+        count += page.chk[i].isChecked() && page.chk[i].tipo == CELL_NUMERO ? 1 : 0;
+    }
+    return count;
+}
+} // namespace
+
+EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 columns, U16 pageCount, int nmin,
+                             int nmax, U8 append)
+    : QMainWindow(parent, Qt::Window)
+    , ui(std::make_unique<Ui::EditPersonale>())
+    , m_mainWindow(parent)
+    , m_cartella(cartella)
+    , m_append(append)
+    , m_mainWasMaximized(parent != nullptr && parent->isMaximized())
+    , m_pageCount(pageCount)
+    , m_nmin(nmin)
+    , m_nmax(nmax)
+    , m_available(nmax - nmin + 1)
+{
+    initQuintraResources();
+    ui->setupUi(this);
+    ui->boxesGridLayout->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    if (m_pageCount == 0) {
+        QMessageBox::warning(this, Product::titleFor(tr("Mappatura manuale")), tr("Non vi sono pagine da creare!"));
+        close();
+        return;
+    }
+    m_generatore = std::make_unique<GeneraCartellaPersonale>();
+    m_pages.resize(m_pageCount);
+    for (PaginaPersonale &page : m_pages) {
+        buildBoxes(page, rows, columns, RightClick::CyclesType);
+    }
+    displayPage(0);
+    ui->pageNumSpinBox->setValue(1);
+    ui->pageNumDisplay->display(m_pageCount);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocusedCell(now); });
+    setWindowTitle(Product::nameAndRelease() + QStringLiteral(" - ") + tr("MAPPATURA MANUALE"));
+    checkSettings();
+    setWindowModality(Qt::ApplicationModal); // without effect once the window is shown
+    m_open = true;
+    show();
+}
+
+EditPersonale::~EditPersonale()
+{
+    m_open = false;
+    takeDisplayedBoxes();
+}
+
+void EditPersonale::buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick)
+{
+    page.nRighe = rows;
+    page.nColonne = columns;
+    page.chk = std::make_unique<PersonaleChkBox[]>(cellCount(page));
+    // Boxes are polished when they are shown. Requests left waiting would make deleting many boxes very slow.
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
+    PersonaleChkBox *box = page.chk.get();
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column, ++box) {
+            box->setPosition(static_cast<U8>(row), static_cast<U8>(column));
+            connect(box, &PersonaleChkBox::schecked, this, &EditPersonale::on_checkboxChecked);
+            if (rightClick == RightClick::CyclesType) {
+                connect(box, &PersonaleChkBox::rclicked, this, &EditPersonale::on_checkboxRClicked);
+            }
+        }
+    }
+}
+
+// Makes the boxes of the grid parentless: only their page owns them.
+void EditPersonale::takeDisplayedBoxes()
+{
+    ui->boxesWidget->hide(); // all at once, instead of a new layout for each box
+    while (QLayoutItem *item = ui->boxesGridLayout->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->setParent(nullptr);
+        delete item;
+    }
+}
+
+void EditPersonale::displayPage(U16 page)
+{
+    PaginaPersonale &shown = m_pages[page];
+    ui->boxesWidget->hide();
+    for (size_t i = 0; i < cellCount(shown); ++i) {
+        PersonaleChkBox &box = shown.chk[i];
+        ui->boxesGridLayout->addWidget(&box, box.riga, box.colonna);
+        box.show();
+    }
+    ui->boxesWidget->show();
+}
+
+void EditPersonale::switchToPage(U16 page)
+{
+    takeDisplayedBoxes();
+    displayPage(page);
+    ui->checkBox_ordinaNumxColonne->setChecked(m_pages[page].ordinaPerColonne != 0);
+    repaint();
+    m_currentPage = page;
+}
+
+void EditPersonale::showFocusedCell(QWidget *focused)
+{
+    if (focused != nullptr && focused->parentWidget() == ui->boxesWidget) {
+        ui->boxesScrollArea->ensureWidgetVisible(focused);
+    }
+}
+
+PaginaPersonale *EditPersonale::displayedPage()
+{
+    return m_currentPage < m_pages.size() ? &m_pages[m_currentPage] : nullptr;
+}
+
+U8 EditPersonale::displayedRows()
+{
+    const PaginaPersonale *page = displayedPage();
+    return page != nullptr ? page->nRighe : U8(0);
+}
+
+U8 EditPersonale::displayedColumns()
+{
+    const PaginaPersonale *page = displayedPage();
+    return page != nullptr ? page->nColonne : U8(0);
+}
+
+int EditPersonale::clampedPage(int page) const
+{
+    return qBound(1, page, qMax<int>(1, m_pageCount));
+}
+
+void EditPersonale::on_pageNumSpinBox_valueChanged(int v)
+{
+    const int number = clampedPage(v);
+    const auto page = static_cast<U16>(number - 1);
+    if (page != m_currentPage) {
+        const WaitCursor wait(this);
+        switchToPage(page);
+    }
+    checkSettings();
+    ui->pageNumSpinBox->setValue(number);
+}
+
+void EditPersonale::on_checkBox_ordinaNumxColonne_clicked()
+{
+    if (PaginaPersonale *page = displayedPage()) {
+        page->ordinaPerColonne = ui->checkBox_ordinaNumxColonne->isChecked() ? 1 : 0;
+    }
+}
+
+void EditPersonale::on_row_from_spinBox_valueChanged(int v)
+{
+    if (v > displayedRows()) {
+        ui->row_from_spinBox->setValue(displayedRows());
+    }
+    if (v > ui->row_to_spinBox->value()) {
+        ui->row_to_spinBox->setValue(v);
+    }
+}
+
+void EditPersonale::on_row_to_spinBox_valueChanged(int v)
+{
+    if (v > displayedRows()) {
+        ui->row_to_spinBox->setValue(displayedRows());
+    }
+    if (v < ui->row_from_spinBox->value()) {
+        ui->row_from_spinBox->setValue(v);
+    }
+}
+
+void EditPersonale::on_col_from_spinBox_valueChanged(int v)
+{
+    if (v > displayedColumns()) {
+        ui->col_from_spinBox->setValue(displayedColumns());
+    }
+    if (v > ui->col_to_spinBox->value()) {
+        ui->col_to_spinBox->setValue(v);
+    }
+}
+
+void EditPersonale::on_col_to_spinBox_valueChanged(int v)
+{
+    if (v > displayedColumns()) {
+        ui->col_to_spinBox->setValue(displayedColumns());
+    }
+    if (v < ui->col_from_spinBox->value()) {
+        ui->col_from_spinBox->setValue(v);
+    }
+}
+
+// The whole page, or the rectangle of the spin boxes as far as the page reaches.
+void EditPersonale::forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action)
+{
+    PaginaPersonale *page = displayedPage();
+    if (page == nullptr) {
+        return;
+    }
+    const bool all = ui->selezione_tutte_ckbox->isChecked();
+    const int firstRow = all ? 0 : ui->row_from_spinBox->value() - 1;
+    const int endRow = all ? page->nRighe : qMin<int>(ui->row_to_spinBox->value(), page->nRighe);
+    const int firstColumn = all ? 0 : ui->col_from_spinBox->value() - 1;
+    const int endColumn = all ? page->nColonne : qMin<int>(ui->col_to_spinBox->value(), page->nColonne);
+    for (int row = firstRow; row < endRow; ++row) {
+        for (int column = firstColumn; column < endColumn; ++column) {
+            action(page->chk[static_cast<size_t>(row * page->nColonne + column)]);
+        }
+    }
+}
+
+void EditPersonale::on_riempiButton_clicked()
+{
+    forEachCellInScope([](PersonaleChkBox &box) { box.setChecked(true); });
+}
+
+void EditPersonale::on_svuotaButton_clicked()
+{
+    forEachCellInScope([](PersonaleChkBox &box) { box.setChecked(false); });
+}
+
+void EditPersonale::on_invertiButton_clicked()
+{
+    forEachCellInScope([](PersonaleChkBox &box) { box.setChecked(!box.isChecked()); });
+}
+
+CELL_VALUE EditPersonale::chosenType() const
+{
+    if (ui->txt_radioButton->isChecked()) {
+        return CELL_TESTO;
+    }
+    if (ui->img_radioButton->isChecked()) {
+        return CELL_IMMAGINE;
+    }
+    return ui->num_radioButton->isChecked() ? CELL_NUMERO : CELL_VUOTA;
+}
+
+void EditPersonale::on_setNumTxtImgButton_clicked()
+{
+    const CELL_VALUE tipo = chosenType();
+    forEachCellInScope([tipo](PersonaleChkBox &box) { box.setTipo(tipo); });
+    recountNumbers();
+    checkSettings();
+}
+
+// Also told of boxes of other pages, whose positions the page on display may not have.
+void EditPersonale::on_checkboxChecked(U8 r, U8 c, bool b)
+{
+    const PaginaPersonale *page = displayedPage();
+    if (page != nullptr && r < page->nRighe && c < page->nColonne &&
+        page->chk[static_cast<size_t>(r * page->nColonne + c)].tipo == CELL_NUMERO) {
+        m_tickedNumbers += b ? 1 : -1;
+    }
+    checkSettings();
+}
+
+void EditPersonale::on_checkboxRClicked(U8 r, U8 c)
+{
+    PaginaPersonale *page = displayedPage();
+    if (page == nullptr || r >= page->nRighe || c >= page->nColonne) {
+        return;
+    }
+    PersonaleChkBox &box = page->chk[static_cast<size_t>(r * page->nColonne + c)];
+    box.setTipo(nextType(box.tipo));
+    recountNumbers();
+    checkSettings();
+    ui->statusBar->showMessage(tr("Tipo cambiato in: %1").arg(m_cartella->cellType2String(box.tipo)));
+}
+
+void EditPersonale::recountNumbers()
+{
+    const PaginaPersonale *page = displayedPage();
+    m_tickedNumbers = page != nullptr ? countNumbers(*page) : 0;
+}
+
+// Runs for every single tick: the icon is only loaded when the verdict changes.
+void EditPersonale::checkSettings()
+{
+    const Verdict verdict = m_tickedNumbers <= m_available ? Verdict::Correct : Verdict::TooManyNumbers;
+    if (verdict == Verdict::TooManyNumbers) {
+        ui->status_label->setToolTip(tr("I numeri da generare (%1) sono maggiori di quelli disponibili (%2).")
+                                         .arg(m_tickedNumbers)
+                                         .arg(m_available));
+    }
+    if (verdict == m_shownVerdict) {
+        return;
+    }
+    m_shownVerdict = verdict;
+    const bool correct = verdict == Verdict::Correct;
+    if (correct) {
+        ui->status_label->setToolTip(tr("Impostazioni corrette"));
+    }
+    ui->status_label->setPixmap(QPixmap(correct ? QStringLiteral(":/Images/resources/img/ok.png")
+                                                : QStringLiteral(":/Images/resources/img/warning.png")));
+    ui->actionCreaPagine->setEnabled(correct);
+    ui->creapagineButton->setEnabled(correct);
+}
+
+void EditPersonale::on_impostaschemacorrenteButton_clicked()
+{
+    if (!ask(Product::nameText(),
+             tr("Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?"))) {
+        return;
+    }
+    if (const PaginaPersonale *scheme = displayedPage()) {
+        const WaitCursor wait(this);
+        const int end = qMin<int>(ui->impostaAspinBox->value(), m_pageCount);
+        for (int page = ui->impostaDAspinBox->value() - 1; page < end; ++page) {
+            if (page != m_currentPage) {
+                copyScheme(*scheme, m_pages[static_cast<size_t>(page)]);
+            }
+        }
+    }
+    recountNumbers(); // the ticks of the other pages were counted too
+    checkSettings();
+    ui->statusBar->showMessage(tr("Copia schema effettuata!"));
+}
+
+void EditPersonale::copyScheme(const PaginaPersonale &from, PaginaPersonale &to)
+{
+    if (to.nRighe != from.nRighe || to.nColonne != from.nColonne) {
+        buildBoxes(to, from.nRighe, from.nColonne, RightClick::CyclesType);
+    }
+    to.ordinaPerColonne = from.ordinaPerColonne;
+    for (size_t i = 0; i < cellCount(from); ++i) {
+        to.chk[i].setChecked(from.chk[i].isChecked());
+        to.chk[i].setTipo(from.chk[i].tipo);
+    }
+}
+
+void EditPersonale::on_impostaDAspinBox_valueChanged(int v)
+{
+    ui->impostaDAspinBox->setValue(qMin(clampedPage(v), ui->impostaAspinBox->value()));
+}
+
+void EditPersonale::on_impostaAspinBox_valueChanged(int v)
+{
+    ui->impostaAspinBox->setValue(qMax(clampedPage(v), ui->impostaDAspinBox->value()));
+}
+
+void EditPersonale::on_impostasuttute_checkBox_clicked(bool b)
+{
+    ui->impostaDAspinBox->setEnabled(!b);
+    ui->impostaAspinBox->setEnabled(!b);
+    if (b) {
+        ui->impostaDAspinBox->setValue(1);
+        ui->impostaAspinBox->setValue(m_pageCount);
+    }
+}
+
+void EditPersonale::on_creapagineButton_clicked()
+{
+    createPages();
+}
+
+void EditPersonale::on_actionCreaPagine_triggered()
+{
+    createPages();
+}
+
+void EditPersonale::createPages()
+{
+    QString errore;
+    bool created = false;
+    {
+        const WaitCursor wait(this);
+        created = m_generatore->generaPagine(m_pageCount, m_pages, m_cartella, m_nmin, m_nmax, errore);
+    }
+    const QString title = Product::titleFor(tr("Mappatura manuale"));
+    if (created) {
+        QMessageBox::information(this, title, tr("Pagine create e aggiunte alla cartella principale!"));
+    } else {
+        QMessageBox::warning(this, title, tr("Errore durante la creazione delle pagine!\n\n%1").arg(errore));
+    }
+}
+
+void EditPersonale::on_actionEsci_triggered()
+{
+    close();
+}
+
+bool EditPersonale::ask(const QString &title, const QString &question)
+{
+    return QMessageBox::question(this, title, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
+void EditPersonale::closeEvent(QCloseEvent *event)
+{
+    if (m_open) {
+        if (!ask(Product::titleFor(tr("Mappatura manuale")), tr("Sei sicuro di voler chiudere?"))) {
+            event->ignore();
+            return;
+        }
+        m_open = false; // the main window stays as it is from here on
+        restoreMainWindow();
+        emit done();
+    }
+    event->accept();
+    deleteLater();
+}
+
+// The main window steps aside together with the editor and comes back with it.
+void EditPersonale::changeEvent(QEvent *event)
+{
+    const bool activation = event->type() == QEvent::ActivationChange;
+    const bool state = event->type() == QEvent::WindowStateChange;
+    if (m_open && m_mainWindow != nullptr && (activation || state)) {
+        const bool stepAside = activation ? !isActiveWindow() : isMinimized();
+        if (stepAside) {
+            m_mainWindow->showMinimized();
+        } else {
+            restoreMainWindow();
+        }
+    }
+    event->accept();
+}
+
+void EditPersonale::restoreMainWindow()
+{
+    if (m_mainWindow == nullptr) {
+        return;
+    }
+    if (m_mainWasMaximized) {
+        m_mainWindow->showMaximized();
+    } else {
+        m_mainWindow->showNormal();
+    }
+}

@@ -6,11 +6,16 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 class GeneraCartellaPersonale;
 class MsgArea;
+
+namespace MappingFile {
+struct SchemaPagina;
+}
 
 namespace Ui {
 class EditPersonale;
@@ -60,18 +65,50 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    enum class RightClick { CyclesType, Ignored };
+    enum class Verdict { Unknown, Correct, TooManyNumbers };
+
+    void buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick);
+    void takeDisplayedBoxes();
+    void displayPage(U16 page);
+    void switchToPage(U16 page);
+    void showFocusedCell(QWidget *focused);
+    // The page on display; null in an editor without pages.
+    PaginaPersonale *displayedPage();
+    U8 displayedRows();
+    U8 displayedColumns();
+    void forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action);
+    void copyScheme(const PaginaPersonale &from, PaginaPersonale &to);
+    CELL_VALUE chosenType() const;
+    void recountNumbers();
+    void checkSettings();
+    int clampedPage(int page) const;
+    void updatePageRange();
+    void createPages();
+    void restoreMainWindow();
+    bool ask(const QString &title, const QString &question);
+
+    void rememberFolder(const QString &fileName);
+    void writeMapping(const QString &fileName);
+    void showSaveReport(const QString &fileName);
+    void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);
+    void loadPage(PaginaPersonale &page, const MappingFile::SchemaPagina &scheme);
+    void showReport(const QString &text);
+
     std::unique_ptr<Ui::EditPersonale> ui;
-    QWidget *m_mainWindow;       // not owned
-    QPointer<MsgArea> m_msgArea; // the last report of a save
+    QPointer<QWidget> m_mainWindow;
+    QPointer<MsgArea> m_msgArea; // the last report
     std::unique_ptr<GeneraCartellaPersonale> m_generatore;
     Cartella *m_cartella; // not owned
     U8 m_append;          // kept, not read
     bool m_mainWasMaximized = false;
+    bool m_open = false; // shown to the user and not yet closed for good
     U16 m_pageCount;
     U16 m_currentPage = 0; // 0-based
     int m_nmin;
     int m_nmax;
     int m_available;
-    int m_tickedNumbers = 0; // of the page on display, see the settings check
+    int m_tickedNumbers = 0; // not taken anew when the page is switched
+    Verdict m_shownVerdict = Verdict::Unknown;
     std::vector<PaginaPersonale> m_pages;
 };

@@ -1,2 +1,172 @@
 // SPDX-License-Identifier: MIT
 #include "personale/EditPersonale.h"
+
+#include "mainwindow/WaitCursor.h"
+#include "msgarea/MsgArea.h"
+#include "personale/MappingFile.h"
+#include "settings/Config.h"
+#include "settings/Product.h"
+#include "ui_EditPersonale.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QTextStream>
+
+namespace {
+const QString &fileSuffix()
+{
+    static const QString suffix = QStringLiteral("QcF");
+    return suffix;
+}
+
+QString fileFilter()
+{
+    return fileSuffix() + QStringLiteral(" (*.") + fileSuffix() + QStringLiteral(");;");
+}
+
+// The suffix counts only in its exact case.
+QString withSuffix(const QString &fileName)
+{
+    return QFileInfo(fileName).suffix() == fileSuffix() ? fileName : fileName + QLatin1Char('.') + fileSuffix();
+}
+
+MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
+{
+    MappingFile::SchemaPagina scheme{page.nRighe, page.nColonne, {}};
+    const auto cells = static_cast<size_t>(page.nRighe * page.nColonne);
+    scheme.celle.reserve(cells);
+    for (size_t i = 0; i < cells; ++i) {
+        scheme.celle.push_back({page.chk[i].tipo, page.chk[i].isChecked()});
+    }
+    return scheme;
+}
+} // namespace
+
+void EditPersonale::rememberFolder(const QString &fileName)
+{
+    const QString folder = QFileInfo(fileName).path();
+    if (QDir(folder).exists()) {
+        globalConfig->defaultSaveDir = folder;
+    }
+}
+
+void EditPersonale::on_actionSave_triggered()
+{
+    QString fileName =
+        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, fileFilter());
+    if (fileName.isEmpty()) {
+        ui->statusBar->showMessage(tr("Creazione file annullata!"));
+        return;
+    }
+    fileName = withSuffix(fileName);
+    rememberFolder(fileName);
+    const WaitCursor wait(this);
+    writeMapping(fileName);
+    showSaveReport(fileName);
+}
+
+// Whether the file could be opened is told by the size in the report.
+void EditPersonale::writeMapping(const QString &fileName)
+{
+    QFile file(fileName);
+    file.open(QIODevice::WriteOnly | QIODevice::Text);
+    QTextStream stream(&file);
+    int saved = 0;
+    for (const PaginaPersonale &page : m_pages) {
+        MappingFile::writePage(stream, schemeOf(page));
+        ui->statusBar->showMessage(tr("Pagina %1 di %2 salvata").arg(++saved).arg(m_pageCount));
+    }
+}
+
+void EditPersonale::showSaveReport(const QString &fileName)
+{
+    constexpr float megabytesPerByte = 9.536743e-07F;
+    const QFileInfo info(fileName);
+    const qint64 size = info.size();
+    const float megabytes = static_cast<float>(size) * megabytesPerByte;
+    showReport(tr("File creato con successo!\n\nNome: %1\nEstensione: %2\nPercorso: %3\n\nPagine: %4\nDimensione: "
+                  "%5 Bytes (%6 MB)\n")
+                   .arg(info.completeBaseName(), info.suffix(), info.absolutePath())
+                   .arg(m_pageCount)
+                   .arg(size)
+                   .arg(static_cast<double>(megabytes), 0, 'f', 2));
+}
+
+void EditPersonale::showReport(const QString &text)
+{
+    m_msgArea = new MsgArea(this, false);
+    m_msgArea->setAttribute(Qt::WA_DeleteOnClose);
+    m_msgArea->setWindowModality(Qt::WindowModal);
+    m_msgArea->setText(text, true);
+    m_msgArea->show();
+}
+
+void EditPersonale::on_actionOpen_triggered()
+{
+    if (!ask(Product::nameText(),
+             tr("Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?"))) {
+        return;
+    }
+    const QString fileName =
+        QFileDialog::getOpenFileName(this, tr("Apre un file di cartelle"), globalConfig->defaultSaveDir, fileFilter());
+    if (fileName.isEmpty()) {
+        ui->statusBar->showMessage(tr("Apertura file annullata!"));
+        return;
+    }
+    rememberFolder(fileName);
+    const WaitCursor wait(this);
+    QFile file(fileName);
+    file.open(QIODevice::ReadOnly | QIODevice::Text);
+    QTextStream stream(&file);
+    const MappingFile::Lettura reading = MappingFile::read(
+        stream, [this](int lines) { ui->statusBar->showMessage(tr("Sto leggendo la pagina %1").arg(lines)); });
+    replacePages(reading.pagine);
+    ui->statusBar->showMessage(tr("Apertura completata!"));
+    if (!reading.saltate.empty()) {
+        showReport(MappingFile::describe(reading.saltate));
+    }
+}
+
+void EditPersonale::replacePages(const std::vector<MappingFile::SchemaPagina> &schemes)
+{
+    takeDisplayedBoxes();
+    m_pages.clear();
+    m_pages.resize(schemes.size());
+    m_tickedNumbers = 0;
+    m_currentPage = 0;
+    m_pageCount = static_cast<U16>(schemes.size());
+    for (size_t page = 0; page < schemes.size(); ++page) {
+        ui->statusBar->showMessage(tr("Sto caricando la pagina %1 di %2").arg(page + 1).arg(m_pageCount));
+        loadPage(m_pages[page], schemes[page]);
+    }
+    recountNumbers();
+    if (!m_pages.empty()) {
+        displayPage(0);
+    }
+    checkSettings();
+    ui->pageNumSpinBox->setValue(1);
+    ui->pageNumDisplay->display(m_pageCount);
+    updatePageRange();
+}
+
+void EditPersonale::loadPage(PaginaPersonale &page, const MappingFile::SchemaPagina &scheme)
+{
+    buildBoxes(page, scheme.nRighe, scheme.nColonne, RightClick::Ignored);
+    for (size_t i = 0; i < scheme.celle.size(); ++i) {
+        page.chk[i].setChecked(scheme.celle[i].spuntata);
+        page.chk[i].setTipo(scheme.celle[i].tipo);
+    }
+}
+
+// The pages to copy to and the commands that need a page follow the new page count.
+void EditPersonale::updatePageRange()
+{
+    const bool all = ui->impostasuttute_checkBox->isChecked();
+    ui->impostaDAspinBox->setValue(clampedPage(all ? 1 : ui->impostaDAspinBox->value()));
+    ui->impostaAspinBox->setValue(clampedPage(all ? m_pageCount : ui->impostaAspinBox->value()));
+    const bool pages = m_pageCount > 0;
+    for (QWidget *group : {ui->paginaGroup, ui->selezioneGroup, ui->tipoGroup, ui->copiaGroup}) {
+        group->setEnabled(pages);
+    }
+}

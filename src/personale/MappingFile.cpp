@@ -1,2 +1,162 @@
 // SPDX-License-Identifier: MIT
 #include "personale/MappingFile.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <QTextStream>
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <optional>
+
+namespace MappingFile {
+namespace {
+constexpr int rowCountBase = 32;   // a page of n rows starts with the character of code n + 32
+constexpr int lengthModulus = 256; // of a line's length only the low 8 bits give the column count
+constexpr size_t mostPages = std::numeric_limits<U16>::max();
+constexpr size_t mostEntriesDescribed = 500;
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(MappingFile)
+};
+
+QChar lowerLetterOf(CELL_VALUE tipo)
+{
+    switch (tipo) {
+    case CELL_NUMERO:
+        return QLatin1Char('n');
+    case CELL_TESTO:
+        return QLatin1Char('s');
+    case CELL_IMMAGINE:
+        return QLatin1Char('i');
+    case CELL_VUOTA:
+        return QLatin1Char('o');
+    }
+    return QLatin1Char('?');
+}
+
+// Fills `pagina` from a line; the reason when the line gives none.
+std::optional<Motivo> decode(const QString &line, SchemaPagina &pagina)
+{
+    if (line.isEmpty()) {
+        return Motivo::Vuota;
+    }
+    const auto code = static_cast<quint8>(line.at(0).toLatin1()); // 0 above U+00FF
+    if (line.at(0).unicode() <= rowCountBase) {
+        return Motivo::SenzaRighe;
+    }
+    const int letters = line.size() - 1;
+    pagina.nRighe = static_cast<U8>(code - rowCountBase);
+    if (letters < pagina.nRighe) {
+        return Motivo::TroppoCorta;
+    }
+    pagina.nColonne = static_cast<U8>(letters % lengthModulus / pagina.nRighe);
+    const int cells = pagina.nRighe * pagina.nColonne;
+    pagina.celle.reserve(static_cast<size_t>(cells));
+    std::transform(line.cbegin() + 1, line.cbegin() + 1 + cells, std::back_inserter(pagina.celle), cellOf);
+    return std::nullopt;
+}
+
+void skip(std::vector<RigheSaltate> &saltate, int line, Motivo motivo)
+{
+    if (!saltate.empty() && saltate.back().ultima == line - 1 && saltate.back().motivo == motivo) {
+        saltate.back().ultima = line;
+    } else {
+        saltate.push_back({line, line, motivo});
+    }
+}
+
+QString reasonText(Motivo motivo)
+{
+    switch (motivo) {
+    case Motivo::Vuota:
+        return Text::tr("riga vuota");
+    case Motivo::SenzaRighe:
+        return Text::tr("il primo carattere non indica il numero di righe della pagina");
+    case Motivo::TroppoCorta:
+        return Text::tr("troppo corta per le celle della pagina");
+    case Motivo::TroppePagine:
+        return Text::tr("oltre il massimo di %1 pagine").arg(mostPages);
+    }
+    return QString();
+}
+} // namespace
+
+QChar letterOf(const CellaSchema &cella)
+{
+    const QChar letter = lowerLetterOf(cella.tipo);
+    return cella.spuntata ? letter.toUpper() : letter;
+}
+
+CellaSchema cellOf(QChar letter)
+{
+    switch (letter.unicode()) {
+    case u'N':
+        return {CELL_NUMERO, true};
+    case u'S':
+        return {CELL_TESTO, true};
+    case u'I':
+        return {CELL_IMMAGINE, true};
+    case u'O':
+        return {CELL_VUOTA, true};
+    case u'n':
+        return {CELL_NUMERO, false};
+    case u's':
+        return {CELL_TESTO, false};
+    case u'i':
+        return {CELL_IMMAGINE, false};
+    default:
+        return {CELL_VUOTA, false};
+    }
+}
+
+void writePage(QTextStream &stream, const SchemaPagina &pagina)
+{
+    QString line(QChar(pagina.nRighe + rowCountBase));
+    for (const CellaSchema &cella : pagina.celle) {
+        line.append(letterOf(cella));
+    }
+    stream << line << '\n';
+}
+
+Lettura read(QTextStream &stream, const std::function<void(int)> &lineRead)
+{
+    Lettura result;
+    int number = 0;
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        ++number;
+        SchemaPagina pagina;
+        auto reason = decode(line, pagina);
+        if (!reason && result.pagine.size() == mostPages) {
+            reason = Motivo::TroppePagine;
+        }
+        if (reason) {
+            skip(result.saltate, number, *reason);
+        } else {
+            result.pagine.push_back(std::move(pagina));
+        }
+        lineRead(number);
+    }
+    return result;
+}
+
+QString describe(const std::vector<RigheSaltate> &saltate)
+{
+    QStringList lines(Text::tr("Queste righe del file non descrivono una pagina e sono state saltate:"));
+    for (size_t i = 0; i < std::min(saltate.size(), mostEntriesDescribed); ++i) {
+        const RigheSaltate &some = saltate[i];
+        const QString reason = reasonText(some.motivo);
+        lines << (some.prima == some.ultima
+                      ? Text::tr("Riga %1: %2.").arg(some.prima).arg(reason)
+                      : Text::tr("Righe da %1 a %2: %3.").arg(some.prima).arg(some.ultima).arg(reason));
+    }
+    if (saltate.size() > mostEntriesDescribed) {
+        lines << Text::tr("L'elenco continua fino alla riga %1.").arg(saltate.back().ultima);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace MappingFile

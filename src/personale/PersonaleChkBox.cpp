@@ -1,2 +1,152 @@
 // SPDX-License-Identifier: MIT
 #include "personale/PersonaleChkBox.h"
+
+#include <QGridLayout>
+#include <QHash>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace {
+constexpr int tilePadding = 4; // pixels between the edge of a cell and its content
+
+// Boxes at the same place of different pages share one text.
+const QString &positionText(U8 row, U8 column)
+{
+    static QHash<quint32, QString> texts;
+    QString &text = texts[row * 256U + column];
+    if (text.isNull()) {
+        text = QStringLiteral("%1,%2").arg(row + 1).arg(column + 1);
+    }
+    return text;
+}
+
+// Translucent, so that it suits light and dark palettes.
+QColor tileColor(CELL_VALUE tipo, bool ticked)
+{
+    QColor color(Qt::gray);
+    switch (tipo) {
+    case CELL_NUMERO:
+        color = QColor(0x2f, 0x74, 0xd8);
+        break;
+    case CELL_TESTO:
+        color = QColor(0x2c, 0x9c, 0x50);
+        break;
+    case CELL_IMMAGINE:
+        color = QColor(0xe0, 0x8a, 0x18);
+        break;
+    case CELL_VUOTA:
+        break;
+    }
+    color.setAlpha(ticked ? 130 : 35);
+    return color;
+}
+} // namespace
+
+PersonaleChkBox::PersonaleChkBox()
+    : tipo(CELL_VUOTA)
+{
+    setPosition(0, 0);
+    setStatusTip(typeName(tipo));
+    connect(this, &QCheckBox::toggled, this, &PersonaleChkBox::checked);
+}
+
+QString PersonaleChkBox::typeName(CELL_VALUE value)
+{
+    switch (value) {
+    case CELL_NUMERO:
+        return tr("Numero");
+    case CELL_TESTO:
+        return tr("Testo");
+    case CELL_IMMAGINE:
+        return tr("Immagine");
+    case CELL_VUOTA:
+        return tr("Vuota");
+    }
+    qFatal("CELL_TYPE UNKNOWN");
+}
+
+void PersonaleChkBox::setTipo(CELL_VALUE value)
+{
+    if (value == tipo) {
+        return;
+    }
+    setStatusTip(typeName(value));
+    tipo = value;
+    update();
+}
+
+void PersonaleChkBox::setPosition(U8 row, U8 column)
+{
+    riga = row;
+    colonna = column;
+    setToolTip(positionText(row, column));
+}
+
+QSize PersonaleChkBox::sizeHint() const
+{
+    const int line = fontMetrics().height();
+    const QSize empty(3 * line, line + 3 * tilePadding);
+    const QSize content = QCheckBox::sizeHint() + QSize(2 * tilePadding + line, 0);
+    return content.expandedTo(empty);
+}
+
+void PersonaleChkBox::checked(bool b)
+{
+    emit schecked(riga, colonna, b);
+}
+
+void PersonaleChkBox::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        emit rclicked(riga, colonna);
+        return;
+    }
+    QCheckBox::mousePressEvent(event);
+}
+
+void PersonaleChkBox::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return moveFocus(-1, 0);
+    case Qt::Key_Down:
+        return moveFocus(1, 0);
+    case Qt::Key_Left:
+        return moveFocus(0, -1);
+    case Qt::Key_Right:
+        return moveFocus(0, 1);
+    default:
+        QCheckBox::keyPressEvent(event);
+    }
+}
+
+// At an edge of the grid the focus stays.
+void PersonaleChkBox::moveFocus(int rows, int columns)
+{
+    const QWidget *page = parentWidget();
+    const auto *grid = page != nullptr ? qobject_cast<const QGridLayout *>(page->layout()) : nullptr;
+    QLayoutItem *neighbour = grid != nullptr ? grid->itemAtPosition(riga + rows, colonna + columns) : nullptr;
+    if (neighbour != nullptr) {
+        neighbour->widget()->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void PersonaleChkBox::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(hasFocus() ? QPen(palette().highlight(), 2) : QPen(tileColor(tipo, true), 1));
+    painter.setBrush(tileColor(tipo, isChecked()));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), tilePadding, tilePadding);
+
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.state.setFlag(QStyle::State_HasFocus, false); // told by the frame above
+    option.rect.adjust(tilePadding, 0, -tilePadding, 0);
+    painter.drawControl(QStyle::CE_CheckBox, option);
+
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(option.rect, Qt::AlignRight | Qt::AlignVCenter, statusTip().left(1));
+}

@@ -5,7 +5,8 @@
 
 #include <QCheckBox>
 
-// One cell of a hand-drawn page: the tick says whether it is filled, `tipo` with what.
+// One cell of a hand-drawn page: the tick says whether it is filled, `tipo` with what. Its colour and the first letter
+// of its type show at a glance what it is; arrow keys move to the neighbours of the grid that holds it.
 class PersonaleChkBox final : public QCheckBox
 {
     Q_OBJECT
@@ -15,6 +16,10 @@ public:
 
     // Stores another type and names it in the status tip. A value outside the enumeration stops the program.
     void setTipo(CELL_VALUE value);
+    // Sets `riga` and `colonna` (0-based) and the tool tip, which tells them counted from 1.
+    void setPosition(U8 row, U8 column);
+
+    QSize sizeHint() const override;
 
     CELL_VALUE tipo;
     U8 riga = 0; // position in the page grid, 0-based
@@ -30,4 +35,10 @@ public slots:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    static QString typeName(CELL_VALUE value);
+    void moveFocus(int rows, int columns);
 };
