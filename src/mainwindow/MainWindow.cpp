@@ -1,2 +1,236 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
+
+#include "generation/GUtils.h"
+#include "generation/GeneraCartellaClassica.h"
+#include "mainwindow/WaitCursor.h"
+#include "msgarea/MsgArea.h"
+#include "output/CreateOutputFile.h"
+#include "resources/Resources.h"
+#include "settings/Config.h"
+#include "settings/Options.h"
+#include "settings/Product.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTableWidget>
+
+namespace {
+constexpr int startFontPoints = 30;
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , ui(std::make_unique<Ui::MainWindow>())
+{
+    initQuintraResources();
+    ui->setupUi(this);
+    setWindowTitle(Product::nameAndRelease());
+    welcome();
+    setupParameters();
+    replaceCardSet(std::make_unique<Cartella>());
+    m_generatore = std::make_unique<GeneraCartellaClassica>();
+    setupPageView();
+    setupColorDialog();
+    setupPaperFormats();
+    connect(ui->statusBar, &QStatusBar::messageChanged, this, &MainWindow::setStatusBarStyle);
+    setStatusBarStyle(); // the welcome was shown before
+    showMaximized();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::welcome()
+{
+    updateStatusBar(tr("Welcome to %1 %2!").arg(Product::nameText(), Product::releaseText()));
+}
+
+void MainWindow::setupParameters()
+{
+    loadDefaultParameters();
+    enableParameters(false);
+    checkParameters(nullptr, false);
+}
+
+void MainWindow::setupPageView()
+{
+    ui->pagine_lcdNumber->display(m_cartella->getNumPages());
+    ui->buttSelezionaImmagine->setEnabled(false);
+    ui->pagina_corrente_spinBox->setValue(0);
+    m_currentFont = QFont(QStringLiteral("Arial"), startFontPoints);
+
+    m_table = new QTableWidget(ui->centralwidget);
+    m_table->setObjectName(QStringLiteral("tableWidget"));
+    ui->gridLayout->addWidget(m_table);
+    ui->gridLayout->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+}
+
+void MainWindow::setupColorDialog()
+{
+    m_colorDialog = new QColorDialog(this);
+    m_colorDialog->hide();
+    m_colorDialog->setWindowModality(Qt::ApplicationModal);
+}
+
+void MainWindow::setupPaperFormats()
+{
+    for (int format = 0; format < GUtils::selectablePaperFormats; ++format) {
+        ui->pagina_formato->addItem(GUtils::paperFormatName(format), format);
+    }
+}
+
+void MainWindow::replaceCardSet(std::unique_ptr<Cartella> cartella)
+{
+    m_cartella = std::move(cartella);
+    connect(m_cartella.get(), &Cartella::checkForEqualBlocksStatus, this, &MainWindow::updateStatusBar);
+}
+
+void MainWindow::updateStatusBar(const QString &msg)
+{
+    ui->statusBar->showMessage(msg);
+    ui->statusBar->repaint(); // long operations run no event loop
+}
+
+void MainWindow::setStatusBarStyle()
+{
+    const QString message = ui->statusBar->currentMessage();
+    QString style = QStringLiteral("color: black");
+    if (message.endsWith(QLatin1Char('!'))) {
+        style = QStringLiteral("color: #FF0000");
+    } else if (message.endsWith(QLatin1Char('.'))) {
+        style = QStringLiteral("color: #00FF00");
+    } else if (message.endsWith(QLatin1Char('?'))) {
+        style = QStringLiteral("color: #0000FF");
+    }
+    if (ui->statusBar->styleSheet() != style) {
+        ui->statusBar->setStyleSheet(style);
+    }
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    // Messages stay until the next one: menus and buttons must not put their own in between.
+    if (event->type() == QEvent::StatusTip) {
+        return true;
+    }
+    return QMainWindow::event(event);
+}
+
+void MainWindow::on_butt_stampa_clicked()
+{
+    if (!m_generated || m_cartella->getNumPages() == 0) {
+        QMessageBox::warning(this, boxTitle(), tr("La cartella non contiene pagine!"));
+        updateStatusBar(tr("Aggiungere pagine alla cartella prima di proseguire."));
+        return;
+    }
+    const QString fileName = askPrintFileName();
+    if (fileName.isEmpty()) {
+        updateStatusBar(tr("Creazione file annullata!"));
+        return;
+    }
+    QString report;
+    if (!writeOutputFile(fileName, report)) {
+        QMessageBox box(QMessageBox::Warning, boxTitle(), tr("Errore nella creazione del file:\n%1").arg(fileName),
+                        QMessageBox::Ok, this);
+        box.setInformativeText(report);
+        box.exec();
+        return;
+    }
+    MsgArea *window = openMsgArea();
+    window->setText(report, true);
+    window->show();
+}
+
+// The file to print to, with its suffix; empty when the user gave none that can be. The folder is remembered.
+QString MainWindow::askPrintFileName()
+{
+    const QString suffix = globalConfig->outputFormatName.toLower();
+    const QString filter = QStringLiteral("%1 (*.%2);;").arg(globalConfig->outputFormatName, suffix);
+    const QString chosen =
+        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, filter);
+    const QFileInfo file(chosen);
+    if (chosen.isEmpty() || !file.dir().exists()) {
+        return QString();
+    }
+    globalConfig->defaultSaveDir = file.absolutePath();
+    return file.fileName().contains(QLatin1Char('.')) ? chosen : chosen + QLatin1Char('.') + suffix;
+}
+
+bool MainWindow::writeOutputFile(const QString &fileName, QString &report)
+{
+    const WaitCursor wait(this);
+    CreateOutputFile output(this);
+    connect(&output, &CreateOutputFile::status, this, &MainWindow::updateStatusBar);
+    return output.create(fileName, m_cartella.get(), report) >= 0;
+}
+
+// A message window over this one, that deletes itself when closed. The caller fills and shows it.
+MsgArea *MainWindow::openMsgArea()
+{
+    auto *window = new MsgArea(this, false);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowModality(Qt::WindowModal);
+    window->setEditable(false);
+    return window;
+}
+
+QString MainWindow::boxTitle()
+{
+    return Product::titleFor(tr("Cartella classica"));
+}
+
+void MainWindow::on_pagina_formato_currentIndexChanged(int index)
+{
+    m_cartella->formato = index;
+}
+
+void MainWindow::on_actionEsci_triggered()
+{
+    close();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_leaving) {
+        event->accept();
+        return;
+    }
+    const auto answer = QMessageBox::question(this, Product::nameText(), tr("Sei sicuro di voler uscire?"),
+                                              QMessageBox::Yes | QMessageBox::No);
+    if (answer != QMessageBox::Yes) {
+        event->ignore();
+        return;
+    }
+    m_leaving = true;
+    emit done();
+    event->accept();
+}
+
+void MainWindow::on_actionOpzioni_triggered()
+{
+    m_options = new Options(this);
+    m_options->setAttribute(Qt::WA_DeleteOnClose);
+    // It has no parent, and more than one may be open: none outlives this window.
+    Options *options = m_options;
+    connect(this, &QObject::destroyed, options, [options]() { delete options; });
+}
+
+// Mapping files are opened and saved by the manual mapping editor.
+void MainWindow::on_actionOpen_triggered() {}
+
+void MainWindow::on_actionSave_triggered() {}
+
+void MainWindow::on_actionInformazioni_triggered()
+{
+    QString description = tr("Generatore di cartelle per la Quintra.\nAdvanced Bingo cards generator.");
+    description.replace(QLatin1Char('\n'), QStringLiteral("<br/>"));
+    m_about = openMsgArea();
+    m_about->setWindowTitle(Product::titleFor(tr("Informazioni")));
+    m_about->setText(
+        QStringLiteral("<h1>%1</h1><p>%2</p><p>%3</p>").arg(Product::nameText(), Product::releaseText(), description),
+        false);
+    m_about->show();
+}

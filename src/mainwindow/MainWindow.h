@@ -36,6 +36,8 @@ public:
     // Validates the parameters now set, shows the verdict in the status icon, and appends the text of an error or
     // warning to *message, which may be null. 1 correct, 0 warning, -1 error.
     int checkParameters(QString *message, bool append);
+    // Tells the user of an error, asks about a warning; whether to go on. A verdict that is none stops the program.
+    bool confirmVerdict(int verdict, const QString &message);
     // Creates a new card set, or appends pages to the present one; with "Mappatura manuale" opens the editor instead.
     // False when the user or the validation cancelled.
     bool generate(bool append);
@@ -102,7 +104,37 @@ public slots:
     void on_actionSave_triggered();
     void on_actionInformazioni_triggered();
 
+private:
+    // Construction.
+    void welcome();
+    void setupParameters();
+    void setupPageView();
+    void setupColorDialog();
+    void setupPaperFormats();
+
+    // Parameters.
+    void loadDefaultParameters();
+    void enableParameters(bool byHand);
+    CardParameters parameters() const;
+    void showSettingStatus(ParameterRules::Verdict verdict, const QString &toolTip);
+
+    // Generation.
+    void replaceCardSet(std::unique_ptr<Cartella> cartella);
+    void generateUndisturbed(bool append);
+    void createEmptyPages(const CardParameters &requested);
+    bool appendEmptyPages(const CardParameters &requested);
+    void fillPages(int first, const CardParameters &requested);
+    void showFirstPage();
+    void openEditor(bool append);
+
+    // Boxes, report windows, printing.
+    static QString boxTitle();
+    MsgArea *openMsgArea();
+    QString askPrintFileName();
+    bool writeOutputFile(const QString &fileName, QString &report);
+
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -117,6 +149,8 @@ private:
     QPointer<MsgArea> m_about;
     QPointer<EditPersonale> m_editor; // deletes itself when closed
     int m_pageShown = 0;              // 1-based, 0 for none
+    int m_pagesBeforeEditor = 0;      // page count when the editor was opened
+    bool m_leaving = false;           // the user has confirmed leaving
     bool m_generated = false;         // a card set has been generated
     bool m_editGuard = false;         // while set, changes of table items are not edits
 };

@@ -1,2 +1,188 @@
 // SPDX-License-Identifier: MIT
+#include "generation/GeneraCartellaClassica.h"
 #include "mainwindow/MainWindow.h"
+#include "mainwindow/WaitCursor.h"
+#include "personale/EditPersonale.h"
+#include "ui_MainWindow.h"
+
+#include <QMessageBox>
+#include <QScopeGuard>
+
+namespace {
+std::unique_ptr<Cartella> emptyCardSet(const CardParameters &p)
+{
+    return std::make_unique<Cartella>(static_cast<quint16>(p.pages), static_cast<U8>(p.blocks), static_cast<U8>(p.rows),
+                                      static_cast<U8>(p.columns));
+}
+} // namespace
+
+void MainWindow::on_butt_aggiungi_pagine_clicked()
+{
+    generateUndisturbed(m_generated);
+}
+
+void MainWindow::on_actionCrea_triggered()
+{
+    if (m_generated) {
+        const auto answer = QMessageBox::question(this, boxTitle(),
+                                                  tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
+                                                  QMessageBox::Yes | QMessageBox::No);
+        if (answer != QMessageBox::Yes) {
+            return;
+        }
+    }
+    generateUndisturbed(false);
+    ui->pagina_corrente_spinBox->setValue(0);
+}
+
+// No second generation and no comparison can start from a box that a generation shows.
+void MainWindow::generateUndisturbed(bool append)
+{
+    const auto setEnabled = [this](bool enabled) {
+        ui->actionConfronta_blocchi->setEnabled(enabled);
+        ui->butt_aggiungi_pagine->setEnabled(enabled);
+    };
+    setEnabled(false);
+    const auto enableAgain = qScopeGuard([&]() { setEnabled(true); });
+    generate(append);
+}
+
+bool MainWindow::generate(bool append)
+{
+    if (ui->MappaManuale->isChecked()) {
+        openEditor(append);
+        return true;
+    }
+    QString message;
+    const int verdict = checkParameters(&message, append);
+    if (!confirmVerdict(verdict, message)) {
+        updateStatusBar(tr("Creazione annullata."));
+        return false;
+    }
+    const CardParameters requested = parameters();
+    if (append) {
+        if (!appendEmptyPages(requested)) {
+            return false;
+        }
+    } else {
+        createEmptyPages(requested);
+    }
+    updateStatusBar(tr("Cartella di %1 pagine, %2 blocchi %3X%4 generata")
+                        .arg(requested.pages)
+                        .arg(requested.blocks)
+                        .arg(requested.rows)
+                        .arg(requested.columns));
+    m_cellsInMemory += ParameterRules::cellsRequested(requested);
+    fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
+    m_generated = true;
+    ui->pagine_lcdNumber->display(m_cartella->getNumPages());
+    if (!append) {
+        showFirstPage();
+    }
+    return true;
+}
+
+bool MainWindow::confirmVerdict(int verdict, const QString &message)
+{
+    switch (verdict) {
+    case ParameterRules::Error:
+        QMessageBox::warning(this, boxTitle(), tr("Problemi di impostazione parametri: non posso proseguire!"));
+        return false;
+    case ParameterRules::Warning:
+        return QMessageBox::question(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message),
+                                     QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    case ParameterRules::Correct:
+        return true;
+    default:
+        qFatal("MainWindow::generate: Check STATUS type not defined!");
+    }
+}
+
+void MainWindow::createEmptyPages(const CardParameters &requested)
+{
+    updateStatusBar(tr("Sto cancellando la precedente cartella..."));
+    {
+        const WaitCursor wait(this);
+        // The old set goes before the new one comes: both may not fit the memory together.
+        replaceCardSet(std::make_unique<Cartella>());
+    }
+    m_cellsInMemory = 0;
+    updateStatusBar(tr("Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...")
+                        .arg(requested.pages)
+                        .arg(requested.blocks)
+                        .arg(requested.rows)
+                        .arg(requested.columns));
+    const WaitCursor wait(this);
+    replaceCardSet(emptyCardSet(requested));
+    m_cartella->formato = ui->pagina_formato->currentIndex(); // what the user sees chosen
+}
+
+bool MainWindow::appendEmptyPages(const CardParameters &requested)
+{
+    const WaitCursor wait(this);
+    const std::unique_ptr<Cartella> added = emptyCardSet(requested);
+    added->pagineEsterne = 1;
+    for (int i = 0; i < added->getNumPages(); ++i) {
+        if (!m_cartella->appendPage(added->pagine[i])) {
+            QMessageBox::critical(this, boxTitle(),
+                                  tr("Generazione numeri:\nErrore durante l'aggiunta della pagina %i.").arg(i));
+            added->pagine.remove(0, i); // these belong to the window's set by now
+            added->pagineEsterne = 0;
+            return false;
+        }
+    }
+    return true;
+}
+
+// Fills the pages from `first` (0-based) to the last.
+void MainWindow::fillPages(int first, const CardParameters &p)
+{
+    if (p.drawn + p.jolly + p.scritte == 0) {
+        showSettingStatus(ParameterRules::Warning, tr("Sono state create solo pagine vuote!"));
+        return;
+    }
+    const WaitCursor wait(this);
+    for (int page = first; page < m_cartella->getNumPages(); ++page) {
+        const U8 columns = m_cartella->getMaxPageColSize(static_cast<quint16>(page));
+        if (!m_generatore->generate(m_cartella->pagine[page], columns, static_cast<U8>(p.drawn),
+                                    static_cast<U8>(p.jolly), static_cast<U8>(p.scritte), p.minimum, p.maximum)) {
+            QMessageBox::critical(this, boxTitle(),
+                                  tr("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(page));
+        }
+    }
+}
+
+void MainWindow::showFirstPage()
+{
+    m_pageShown = 0;
+    ui->pagina_corrente_spinBox->setValue(1);
+    if (m_pageShown == 0) {
+        on_pagina_corrente_spinBox_valueChanged(1); // the box already stood there and told nothing
+    }
+}
+
+void MainWindow::openEditor(bool append)
+{
+    updateStatusBar(tr("Sto creando l'ambiente per la mappatura manuale, attendere..."));
+    m_pagesBeforeEditor = m_cartella->getNumPages();
+    {
+        const WaitCursor wait(this);
+        const CardParameters p = parameters();
+        m_editor = new EditPersonale(this, m_cartella.get(), static_cast<U8>(p.rows), static_cast<U8>(p.columns),
+                                     static_cast<U16>(p.pages), p.minimum, p.maximum, append ? 1 : 0);
+        connect(m_editor, &EditPersonale::done, this, &MainWindow::generatePersDone);
+    }
+    updateStatusBar(tr("Ambiente per la mappatura manuale creato."));
+    m_editor->setWindowModality(Qt::ApplicationModal); // the editor was so already when it showed itself
+}
+
+void MainWindow::generatePersDone()
+{
+    const int pages = m_cartella->getNumPages();
+    if (pages == 0 || pages == m_pagesBeforeEditor) {
+        return;
+    }
+    m_generated = true;
+    ui->pagine_lcdNumber->display(pages);
+    ui->pagina_corrente_spinBox->setValue(m_pageShown + 1);
+}

@@ -1,2 +1,61 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/Startup.h"
+
+#include "generation/GUtils.h"
+#include "mainwindow/MainWindow.h"
+#include "settings/Config.h"
+#include "settings/FormatSelection.h"
+
+#include <QApplication>
+#include <QEventLoop>
+
+#include <memory>
+
+QEventLoop *globalEventLoop = nullptr;
+
+namespace {
+// Shows nothing itself: a window that is not visible when created must be shown by the caller.
+template<class Window>
+void runUntilDone(const Window &window)
+{
+    QObject::connect(&window, &Window::done, globalEventLoop, &QEventLoop::quit);
+    globalEventLoop->exec();
+}
+
+void runFirstStartDialog()
+{
+    FormatSelection dialog;
+    dialog.show();
+    runUntilDone(dialog);
+}
+} // namespace
+
+int startQuintra(int &argc, char **argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    // Otherwise closing the first-start dialog would also end the main window's run of the loop.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    // Declared in the reverse order of creation, so that the loop goes first and the configuration last.
+    std::unique_ptr<Config> config;
+    std::unique_ptr<GUtils> utils;
+    std::unique_ptr<QEventLoop> loop;
+
+    utils = std::make_unique<GUtils>(qApp);
+    globalUtils = utils.get();
+    config = std::make_unique<Config>(qApp);
+    globalConfig = config.get();
+    loop = std::make_unique<QEventLoop>();
+    globalEventLoop = loop.get();
+
+    if (config->isFirstStart()) {
+        runFirstStartDialog();
+    }
+    {
+        const MainWindow window;
+        runUntilDone(window);
+    }
+    return 0;
+}
