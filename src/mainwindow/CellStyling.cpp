@@ -1,2 +1,67 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/CellStyling.h"
+
+#include "mainwindow/PageTable.h"
+
+#include <algorithm>
+
+namespace {
+void colourBlock(const Blocco &block, const QColor &colour)
+{
+    for (size_t row = 0; row < block.nRighe; ++row) {
+        const Riga &cells = block.righe[row];
+        for (size_t column = 0; column < cells.nCelle; ++column) {
+            cells.celle[column].coloreSfondo = colour;
+        }
+    }
+}
+
+QVector<TablePosition> withCell(Pagina &page, QVector<TablePosition> positions)
+{
+    const auto isFiller = [&page](const TablePosition &place) {
+        return cellAt(page, place.row, place.column) == nullptr;
+    };
+    positions.erase(std::remove_if(positions.begin(), positions.end(), isFiller), positions.end());
+    return positions;
+}
+} // namespace
+
+QVector<Pagina *> reachedPages(const QVector<Pagina *> &pages, int shown, bool allPages)
+{
+    if (allPages) {
+        return pages;
+    }
+    return pages.mid(shown, shown < 0 ? 0 : 1);
+}
+
+void colourBlocks(const QVector<Pagina *> &pages, int block, bool allBlocks, const QColor &colour)
+{
+    for (const Pagina *page : pages) {
+        for (int i = 0; i < page->nBlocchi; ++i) {
+            if (allBlocks || i == block) {
+                colourBlock(page->blocchi[static_cast<size_t>(i)], colour);
+            }
+        }
+    }
+}
+
+bool changeCells(const QVector<Pagina *> &pages, int shown, const QVector<TablePosition> &positions, bool allPages,
+                 const std::function<void(Cella &)> &change)
+{
+    if (shown < 0 || shown >= pages.size()) {
+        return true;
+    }
+    const QVector<TablePosition> places = withCell(*pages[shown], positions);
+    bool complete = true;
+    for (Pagina *page : reachedPages(pages, shown, allPages)) {
+        for (const TablePosition &place : places) {
+            Cella *cell = cellAt(*page, place.row, place.column);
+            if (cell != nullptr) {
+                change(*cell);
+            } else {
+                complete = false;
+            }
+        }
+    }
+    return complete;
+}

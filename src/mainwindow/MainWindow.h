@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mainwindow/CellStyling.h"
 #include "mainwindow/ParameterRules.h"
 #include "model/Cartella.h"
 
@@ -138,12 +139,43 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    // The page table.
+    QTableWidget *replaceTable();
+    Pagina *shownPage() const;
+    void resetSelectionPanels(int blocks);
+    void describeNoSelection();
+    void describeItem(const QTableWidgetItem *item);
+    void describeItems(const QList<QTableWidgetItem *> &items);
+    void enableBlockColours(bool enabled);
+    void showFont(const QFont &font);
+    void showFontText(const QString &text);
+
+    // Cell editing.
+    void setTypedText(Cella *cell, const QString &text);
+    Cella *selectedImageCell() const;
+    bool confirmImage(const QString &question, const QImage &image);
+
+    // Styling.
+    QVector<Pagina *> pagesInRange() const;
+    QVector<TablePosition> selectedPositions() const;
+    bool refusesWithoutPages();
+    bool refusesWithoutSelection();
+    bool refusesWithoutBlock();
+    void openColourPicker(void (MainWindow::*colouringSlot)(QColor));
+    void closeColourPicker();
+    void recolour(const std::function<void()> &change);
+    void recolourCells(QColor Cella::*part, const QColor &colour, const QString &done);
+    bool changeSelectedCells(const std::function<void(Cella &)> &change);
+    void warnOfSkippedCells(bool complete);
+    void showEqualBlocks(qint64 pairs);
+
     std::unique_ptr<Ui::MainWindow> ui;
     QPointer<Options> m_options; // the last one opened
     std::unique_ptr<GeneraCartellaClassica> m_generatore;
     quint64 m_cellsInMemory = 0; // deleting pages does not lower it
     std::unique_ptr<Cartella> m_cartella;
     QTableWidget *m_table = nullptr;       // child of the central widget, rebuilt for every page
+    QTableWidget *m_tableAsking = nullptr; // the one whose item the user is being asked about
     QColorDialog *m_colorDialog = nullptr; // child, shared by all colour commands
     QFont m_currentFont;
     QPointer<MsgArea> m_about;

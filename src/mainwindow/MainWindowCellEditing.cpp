@@ -1,2 +1,145 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
+
+#include "generation/CellImage.h"
+#include "mainwindow/PageTable.h"
+#include "settings/Config.h"
+#include "settings/Product.h"
+#include "ui_MainWindow.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QTableWidget>
+
+namespace {
+// A picture as the icon of a message box, at most this large in both directions (pixels).
+QPixmap iconOf(const QImage &image)
+{
+    constexpr int largest = 256;
+    if (image.width() <= largest && image.height() <= largest) {
+        return QPixmap::fromImage(image);
+    }
+    return QPixmap::fromImage(image.scaled(largest, largest, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+} // namespace
+
+void MainWindow::tableItemChanged(QTableWidgetItem *item)
+{
+    if (m_editGuard) {
+        return;
+    }
+    const QString title = Product::titleFor(tr("Modifica valori"));
+    Pagina *page = shownPage();
+    if (page == nullptr) {
+        QMessageBox::critical(this, title, tr("Errore durante la modifica del valore nella tabella."));
+        return;
+    }
+    if (item == nullptr || item->tableWidget() == nullptr || item->row() < 0) {
+        QMessageBox::warning(this, title, tr("Problema durante la modifica del valore nella tabella."));
+        return;
+    }
+    Cella *cell = cellAt(*page, item->row(), item->column());
+    if (cell == nullptr) { // a filler
+        return;
+    }
+
+    QTableWidget *const table = m_table;
+    const CELL_VALUE before = cell->tipo;
+    {
+        const QScopedValueRollback<QTableWidget *> asking(m_tableAsking, table);
+        setTypedText(cell, item->text());
+    }
+    if (m_table != table) { // the page was loaded anew meanwhile: the item's table is not shown any more
+        table->deleteLater();
+        return;
+    }
+    if (cell->tipo != before || item->text().isEmpty()) {
+        const QScopedValueRollback<bool> guard(m_editGuard, true);
+        item->setText(cellText(*cell, globalConfig->defaultCellText));
+    }
+    if (item->isSelected()) {
+        tableItemSelectionChanged();
+    }
+}
+
+// A number is taken at once; of anything else the user says what it is to be.
+void MainWindow::setTypedText(Cella *cell, const QString &text)
+{
+    if (const std::optional<quint32> number = typedNumber(text)) {
+        cell->tipo = CELL_NUMERO;
+        cell->numero = *number;
+        return;
+    }
+    const QString title = Product::titleFor(tr("Modifica valori"));
+    if (QMessageBox::question(this, title, tr("Vuoi impostare il valore come STRINGA?")) == QMessageBox::Yes) {
+        cell->tipo = CELL_TESTO;
+        cell->testo = text;
+        return;
+    }
+    if (QMessageBox::question(this, title, tr("Vuoi impostare il valore come CELLA VUOTA?")) == QMessageBox::Yes) {
+        cell->tipo = CELL_VUOTA;
+        return;
+    }
+    QMessageBox::information(this, title,
+                             tr("Cella impostata come IMMAGINE.\nIl percorso dell'immagine deve essere scelto tramite "
+                                "il pannello a lato."));
+    cell->tipo = CELL_IMMAGINE;
+    cell->immagine = defaultCellImage();
+}
+
+void MainWindow::on_buttSelezionaImmagine_clicked()
+{
+    Cella *cell = selectedImageCell();
+    if (cell == nullptr) {
+        return;
+    }
+    if (!cell->immagine.isNull() &&
+        !confirmImage(tr("L'immagine per la cella selezionata è quella visibile. La si vuole Cambiare?"),
+                      cell->immagine)) {
+        return;
+    }
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Apre un'immagine da inserire nella cella"), QFileInfo(globalConfig->defaultCellImage).absolutePath(),
+        tr("JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)"));
+    if (path.isEmpty()) {
+        qWarning("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");
+        return;
+    }
+    const QImage image = loadCellImage(path);
+    if (confirmImage(tr("L'immagine per la cella selezionata è quella visisbile. Proseguire?"), image)) {
+        cell->immagine = image;
+        updateStatusBar(tr("Immagine impostata correttamente."));
+    }
+}
+
+// The one selected cell, an image cell; null, and a warning logged, when the selection is anything else.
+Cella *MainWindow::selectedImageCell() const
+{
+    const QVector<TablePosition> selected = selectedPositions();
+    if (selected.size() != 1) {
+        qWarning("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE ONLY ONE ITEM SELECTED!!!");
+        return nullptr;
+    }
+    Pagina *page = shownPage();
+    Cella *cell = page != nullptr ? cellAt(*page, selected.first().row, selected.first().column) : nullptr;
+    if (cell == nullptr || cell->tipo != CELL_IMMAGINE) {
+        qWarning("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE A CELL-IMAGE TYPE!!!");
+        return nullptr;
+    }
+    return cell;
+}
+
+// An unreadable picture is asked about without one.
+bool MainWindow::confirmImage(const QString &question, const QImage &image)
+{
+    QMessageBox box(this);
+    box.setWindowTitle(Product::titleFor(tr("Modifica valori")));
+    box.setText(tr("Selezione immagine cella"));
+    box.setInformativeText(question);
+    box.setIconPixmap(iconOf(image));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}

@@ -1,2 +1,254 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
+
+#include "mainwindow/PageTable.h"
+#include "mainwindow/WaitCursor.h"
+#include "settings/Config.h"
+#include "settings/Product.h"
+#include "ui_MainWindow.h"
+
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace {
+void setUpHeaders(QTableWidget *table)
+{
+    constexpr int defaultWidth = 70; // pixels
+    constexpr int minimumWidth = 30;
+    for (QHeaderView *header : {table->horizontalHeader(), table->verticalHeader()}) {
+        header->setVisible(true);
+        header->setCascadingSectionResizes(true);
+        header->setSortIndicatorShown(false);
+        header->setStretchLastSection(false);
+    }
+    table->horizontalHeader()->setDefaultSectionSize(defaultWidth);
+    table->horizontalHeader()->setMinimumSectionSize(minimumWidth);
+}
+
+// The text colour follows, for the editor of a cell is drawn in both.
+void setPageColour(QTableWidget *table, const QColor &background)
+{
+    QPalette palette = table->palette();
+    palette.setColor(QPalette::Base, background);
+    palette.setColor(QPalette::Text, readableOn(background));
+    table->setPalette(palette);
+}
+} // namespace
+
+// A new, empty, unconnected table in place of the old one, not yet in the layout nor shown.
+QTableWidget *MainWindow::replaceTable()
+{
+    if (m_table != nullptr) {
+        disconnect(m_table, nullptr, this, nullptr);
+        ui->gridLayout->removeWidget(m_table);
+        if (m_table == m_tableAsking) {
+            // One of its signals is being handled: it only goes when that is done.
+            m_table->hide();
+            m_table->setObjectName(QString());
+        } else {
+            delete m_table;
+        }
+    }
+    m_table = new QTableWidget(ui->centralwidget);
+    m_table->setObjectName(QStringLiteral("tableWidget"));
+    m_table->setAccessibleName(tr("Celle della pagina"));
+    m_table->setTabKeyNavigation(false); // else the keyboard cannot leave it
+    setTabOrder(ui->pagina_elimina, m_table);
+    return m_table;
+}
+
+// Null when the spin box stands on no page of the set.
+Pagina *MainWindow::shownPage() const
+{
+    const int page = ui->pagina_corrente_spinBox->value() - 1;
+    return page >= 0 && page < m_cartella->getNumPages() ? m_cartella->pagine[page] : nullptr;
+}
+
+void MainWindow::loadPagina(U16 page)
+{
+    if (page >= m_cartella->getNumPages()) {
+        QMessageBox::warning(this, Product::titleFor(tr("Cartella classica")),
+                             tr("La cartella non contiene la pagina da visualizzare (fuori range)!"));
+        return;
+    }
+    Pagina &shown = *m_cartella->pagine[page];
+    QTableWidget *table = replaceTable();
+    setUpHeaders(table);
+    setPageColour(table, shown.sfondo);
+    fillTable(table, shown, m_cartella->getMaxPageColSize(page), globalConfig->defaultCellText);
+    connect(table, &QTableWidget::itemChanged, this, &MainWindow::tableItemChanged);
+    connect(table, &QTableWidget::itemSelectionChanged, this, &MainWindow::tableItemSelectionChanged);
+    ui->gridLayout->addWidget(table);
+    table->show();
+    resetSelectionPanels(shown.nBlocchi);
+}
+
+void MainWindow::on_pagina_corrente_spinBox_valueChanged(int value)
+{
+    const int pages = m_cartella->getNumPages();
+    if (!m_generated || pages == 0) {
+        ui->pagina_corrente_spinBox->setValue(0);
+        updateStatusBar(tr("Cartella vuota!"));
+        ui->seleziona_font_button->setEnabled(false);
+        return;
+    }
+    const int wanted = qBound(1, value, pages);
+    ui->pagina_corrente_spinBox->setValue(wanted); // another value comes back here and shows the page
+    if (wanted != m_pageShown) {
+        const WaitCursor waiting(this);
+        loadPagina(static_cast<U16>(wanted - 1));
+        m_pageShown = wanted;
+    }
+}
+
+void MainWindow::on_pagina_elimina_clicked()
+{
+    if (m_cartella->getNumPages() == 0) {
+        updateStatusBar(tr("La cartella è vuota!"));
+        return;
+    }
+    const int value = ui->pagina_corrente_spinBox->value();
+    if (value < 1 || !m_cartella->deletePage(static_cast<U16>(value - 1))) {
+        QMessageBox::warning(this, Product::titleFor(tr("Cartella classica")),
+                             tr("Problema nell'eliminazione della pagina!\nPagina non eliminata."));
+        return;
+    }
+    const int pages = m_cartella->getNumPages();
+    if (pages < 2) {
+        ui->gridLayout->addWidget(replaceTable(), 0, 0, Qt::AlignCenter);
+        m_table->show();
+    }
+    m_pageShown = value + 1; // no page has it: the next one is loaded in any case
+    ui->pagina_corrente_spinBox->setValue(value - 1);
+    if (pages == 0) {
+        m_pageShown = 0;
+        resetSelectionPanels(0);
+    }
+    ui->pagine_lcdNumber->display(pages);
+    updateStatusBar(tr("Pagina eliminata correttamente."));
+}
+
+void MainWindow::tableItemSelectionChanged()
+{
+    ui->buttSelezionaImmagine->setEnabled(false);
+    const QList<QTableWidgetItem *> items = m_table->selectedItems();
+    if (items.isEmpty()) {
+        describeNoSelection();
+        return;
+    }
+    ui->dimlineaext_spin->setEnabled(false);
+    ui->dimlineaint_spin->setEnabled(false);
+    ui->seleziona_font_button->setEnabled(true);
+    if (items.size() == 1) {
+        describeItem(items.first());
+    } else {
+        describeItems(items);
+    }
+}
+
+// For a table just loaded, of a page with this many blocks.
+void MainWindow::resetSelectionPanels(int blocks)
+{
+    ui->blocco_totn->display(blocks);
+    ui->buttSelezionaImmagine->setEnabled(false);
+    describeNoSelection();
+    ui->seleziona_font_button->setEnabled(false);
+    showFontText(QString());
+    ui->dimlineaext_spin->setEnabled(false);
+    ui->dimlineaint_spin->setEnabled(false);
+}
+
+void MainWindow::describeNoSelection()
+{
+    ui->cella_riga->display(0);
+    ui->cella_colonna->display(0);
+    ui->cella_label->setText(tr("Nessuna selezione"));
+    ui->cella_type->clear();
+    ui->blocco_label->setText(tr("Nessuna selezione"));
+    ui->blocco_n->display(0);
+    enableBlockColours(true);
+    if (!ui->applica_tutte_celle->isChecked()) {
+        ui->seleziona_font_button->setEnabled(false);
+        showFontText(QString());
+    }
+    if (!ui->applica_tutti_blocchi_checkBox->isChecked()) {
+        ui->dimlineaext_spin->setEnabled(false);
+        ui->dimlineaint_spin->setEnabled(false);
+    }
+}
+
+void MainWindow::describeItem(const QTableWidgetItem *item)
+{
+    const int page = ui->pagina_corrente_spinBox->value() - 1;
+    U8 block = 0;
+    U8 row = 0;
+    if (shownPage() == nullptr ||
+        m_cartella->fromPage_Abs2Rel_BlockNum(static_cast<U16>(page), item->row(), block, row) < 0) {
+        return;
+    }
+    ui->cella_riga->display(row + 1);
+    ui->cella_colonna->display(item->column() + 1);
+    ui->blocco_n->display(block + 1);
+    ui->blocco_label->setText(tr("Blocco selezionato"));
+    enableBlockColours(true);
+
+    const Cella *cell = cellAt(*shownPage(), item->row(), item->column());
+    if (cell == nullptr) { // a filler
+        ui->cella_label->setText(tr("Cella mancante"));
+        ui->cella_type->clear();
+        showFontText(QString());
+        return;
+    }
+    ui->cella_label->setText(tr("Cella selezionata"));
+    ui->cella_type->setText(QStringLiteral("(%1)").arg(m_cartella->cellType2String(cell->tipo)));
+    showFont(cell->font);
+    ui->buttSelezionaImmagine->setEnabled(cell->tipo == CELL_IMMAGINE);
+}
+
+void MainWindow::describeItems(const QList<QTableWidgetItem *> &items)
+{
+    ui->cella_riga->display(0);
+    ui->cella_colonna->display(0);
+    ui->cella_label->setText(tr("Selezione multipla"));
+    showFontText(tr("Selezione multipla"));
+    ui->cella_type->setText(QStringLiteral("(%1)").arg(items.size()));
+
+    const Pagina *page = shownPage();
+    const auto first = page != nullptr ? rowPosition(*page, items.first()->row()) : std::nullopt;
+    if (!first) {
+        return;
+    }
+    const int end = first->firstRow + page->blocchi[static_cast<size_t>(first->block)].nRighe;
+    const bool oneBlock = std::all_of(items.cbegin(), items.cend(), [&](const QTableWidgetItem *item) {
+        return item->row() >= first->firstRow && item->row() < end;
+    });
+    ui->blocco_n->display(oneBlock ? first->block + 1 : 0);
+    ui->blocco_label->setText(oneBlock ? tr("Blocco selezionato") : tr("Selezione multipla"));
+    enableBlockColours(oneBlock);
+}
+
+void MainWindow::enableBlockColours(bool enabled)
+{
+    ui->colorabloccolineaesterna->setEnabled(enabled);
+    ui->colorabloccolineainterna->setEnabled(enabled);
+    ui->colorabloccosfondo->setEnabled(enabled);
+}
+
+// Names a font, drawn in itself. The label's height is limited: its tool tip tells what a very large font hides.
+void MainWindow::showFont(const QFont &font)
+{
+    const QString text = QStringLiteral("%1 %2").arg(font.family(), QString::number(font.pointSize()));
+    ui->font_info->setText(text);
+    ui->font_info->setFont(font);
+    ui->font_info->setToolTip(text);
+}
+
+void MainWindow::showFontText(const QString &text)
+{
+    ui->font_info->setText(text);
+    ui->font_info->setFont(QFont());
+    ui->font_info->setToolTip(tr("Carattere della cella"));
+}

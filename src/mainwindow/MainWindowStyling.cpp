@@ -1,2 +1,305 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
+
+#include "mainwindow/WaitCursor.h"
+#include "msgarea/MsgArea.h"
+#include "settings/Product.h"
+#include "ui_MainWindow.h"
+
+#include <QColorDialog>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QTableWidget>
+
+namespace {
+// More lines of equal blocks than these nobody reads.
+constexpr qint64 mostLines = 100000;
+} // namespace
+
+QVector<Pagina *> MainWindow::pagesInRange() const
+{
+    return reachedPages(m_cartella->pagine, ui->pagina_corrente_spinBox->value() - 1,
+                        ui->applica_tutte_pagine_checkBox->isChecked());
+}
+
+QVector<TablePosition> MainWindow::selectedPositions() const
+{
+    const QList<QTableWidgetItem *> items = m_table->selectedItems();
+    QVector<TablePosition> positions;
+    positions.reserve(items.size());
+    for (const QTableWidgetItem *item : items) {
+        positions.append({item->row(), item->column()});
+    }
+    return positions;
+}
+
+// The three refusals tell the user why.
+bool MainWindow::refusesWithoutPages()
+{
+    if (m_cartella->getNumPages() > 0) {
+        return false;
+    }
+    updateStatusBar(tr("La cartella è vuota!"));
+    return true;
+}
+
+bool MainWindow::refusesWithoutSelection()
+{
+    if (refusesWithoutPages()) {
+        return true;
+    }
+    if (!m_table->selectedItems().isEmpty()) {
+        return false;
+    }
+    updateStatusBar(tr("Nessun elemento selezionato!"));
+    return true;
+}
+
+bool MainWindow::refusesWithoutBlock()
+{
+    if (refusesWithoutPages()) {
+        return true;
+    }
+    if (ui->applica_tutti_blocchi_checkBox->isChecked() || ui->blocco_n->intValue() > 0) {
+        return false;
+    }
+    updateStatusBar(tr("Nessun elemento selezionato!"));
+    return true;
+}
+
+// The next choice of colour reaches this slot and no other, whichever command opened the picker before.
+void MainWindow::openColourPicker(void (MainWindow::*colouringSlot)(QColor))
+{
+    closeColourPicker();
+    connect(m_colorDialog, &QColorDialog::colorSelected, this, colouringSlot);
+    m_colorDialog->show();
+}
+
+// No command waits for a colour any more.
+void MainWindow::closeColourPicker()
+{
+    disconnect(m_colorDialog, &QColorDialog::colorSelected, this, nullptr);
+}
+
+// Changes records and shows the page anew, as one step that is no editing of cells.
+void MainWindow::recolour(const std::function<void()> &change)
+{
+    const QScopedValueRollback<bool> guard(m_editGuard, true);
+    const WaitCursor waiting(this);
+    change();
+    if (shownPage() != nullptr) {
+        loadPagina(static_cast<U16>(ui->pagina_corrente_spinBox->value() - 1));
+    }
+}
+
+void MainWindow::on_colorapaginasfondo_clicked()
+{
+    if (!refusesWithoutPages()) {
+        openColourPicker(&MainWindow::coloraPaginaSfondo);
+    }
+}
+
+void MainWindow::coloraPaginaSfondo(QColor color)
+{
+    closeColourPicker();
+    if (refusesWithoutPages()) {
+        return;
+    }
+    recolour([this, color]() {
+        for (Pagina *page : pagesInRange()) {
+            page->sfondo = color;
+        }
+    });
+}
+
+void MainWindow::on_colorabloccosfondo_clicked()
+{
+    if (!refusesWithoutBlock()) {
+        openColourPicker(&MainWindow::coloraBloccoSfondo);
+    }
+}
+
+void MainWindow::coloraBloccoSfondo(QColor color)
+{
+    closeColourPicker();
+    if (refusesWithoutBlock()) {
+        return;
+    }
+    recolour([this, color]() {
+        colourBlocks(pagesInRange(), ui->blocco_n->intValue() - 1, ui->applica_tutti_blocchi_checkBox->isChecked(),
+                     color);
+    });
+    updateStatusBar(tr("Modifica colore sfondo blocchi applicata."));
+}
+
+void MainWindow::on_colorabloccolineaesterna_clicked()
+{
+    if (!refusesWithoutPages()) {
+        openColourPicker(&MainWindow::coloraBloccoLineaEsterna);
+    }
+}
+
+// The colours of the block lines are not stored yet.
+void MainWindow::coloraBloccoLineaEsterna(QColor)
+{
+    closeColourPicker();
+}
+
+void MainWindow::on_colorabloccolineainterna_clicked()
+{
+    if (!refusesWithoutPages()) {
+        openColourPicker(&MainWindow::coloraBloccoLineaInterna);
+    }
+}
+
+void MainWindow::coloraBloccoLineaInterna(QColor)
+{
+    closeColourPicker();
+}
+
+void MainWindow::on_coloracellatesto_clicked()
+{
+    if (!refusesWithoutSelection()) {
+        openColourPicker(&MainWindow::coloraCellaTesto);
+    }
+}
+
+void MainWindow::coloraCellaTesto(QColor color)
+{
+    closeColourPicker();
+    recolourCells(&Cella::coloreTesto, color, tr("Modifica colore testo cella applicata."));
+}
+
+void MainWindow::on_coloracellasfondo_clicked()
+{
+    if (!refusesWithoutSelection()) {
+        openColourPicker(&MainWindow::coloraCellaSfondo);
+    }
+}
+
+void MainWindow::coloraCellaSfondo(QColor color)
+{
+    closeColourPicker();
+    recolourCells(&Cella::coloreSfondo, color, tr("Modifica colore sfondo cella applicata."));
+}
+
+void MainWindow::recolourCells(QColor Cella::*part, const QColor &colour, const QString &done)
+{
+    if (refusesWithoutSelection()) {
+        return;
+    }
+    bool complete = true;
+    recolour([&]() { complete = changeSelectedCells([&](Cella &cell) { cell.*part = colour; }); });
+    warnOfSkippedCells(complete);
+    updateStatusBar(done);
+}
+
+// False when another page lacked one of the cells.
+bool MainWindow::changeSelectedCells(const std::function<void(Cella &)> &change)
+{
+    return changeCells(m_cartella->pagine, ui->pagina_corrente_spinBox->value() - 1, selectedPositions(),
+                       ui->applica_tutte_celle->isChecked(), change);
+}
+
+void MainWindow::warnOfSkippedCells(bool complete)
+{
+    if (!complete) {
+        QMessageBox::warning(this, tr("Attenzione"),
+                             tr("Errore: Le pagine hanno dimensioni diverse.\nAlcune celle sono state omesse!"));
+    }
+}
+
+void MainWindow::on_pagina_applica_clicked()
+{
+    if (refusesWithoutPages()) {
+        return;
+    }
+    for (Pagina *page : pagesInRange()) {
+        page->spazioBlocchi = static_cast<float>(ui->spazio_blocchi_spin->value());
+    }
+    updateStatusBar(tr("Modifica applicata."));
+}
+
+void MainWindow::on_blocco_applica_clicked()
+{
+    refusesWithoutPages();
+}
+
+void MainWindow::on_cella_applica_clicked()
+{
+    refusesWithoutPages();
+}
+
+void MainWindow::on_applica_tutte_celle_clicked(bool checked)
+{
+    if (checked) {
+        ui->seleziona_font_button->setEnabled(true);
+        showFont(m_currentFont);
+    } else {
+        tableItemSelectionChanged();
+    }
+}
+
+void MainWindow::on_applica_tutti_blocchi_checkBox_clicked(bool checked)
+{
+    if (checked || ui->blocco_n->intValue() == 0) {
+        ui->dimlineaext_spin->setEnabled(false);
+        ui->dimlineaint_spin->setEnabled(false);
+    }
+}
+
+void MainWindow::on_seleziona_font_button_clicked()
+{
+    bool chosen = false;
+    const QFont font = QFontDialog::getFont(&chosen, m_currentFont, this);
+    if (!chosen) {
+        return;
+    }
+    m_currentFont = font;
+    const bool complete = changeSelectedCells([&font](Cella &cell) { cell.font = font; });
+    showFont(font);
+    warnOfSkippedCells(complete);
+    updateStatusBar(tr("Font impostato correttamente."));
+}
+
+void MainWindow::on_actionConfronta_blocchi_triggered()
+{
+    const QString title = Product::titleFor(tr("Cartella classica"));
+    if (!m_generated) {
+        QMessageBox::warning(this, title,
+                             tr("Verifica blocchi uguali:\nPagine cartella non ancora generate.\nImpossibile procedere "
+                                "alla verifica!"));
+        return;
+    }
+    ui->actionConfronta_blocchi->setEnabled(false);
+    QString summary;
+    qint64 pairs = 0;
+    {
+        const WaitCursor waiting(this);
+        pairs = m_cartella->checkForEqualBlocks(nullptr, &summary);
+    }
+    if (pairs == 0) {
+        QMessageBox::information(this, title, tr("Non vi sono blocchi uguali!\n\n%1").arg(summary));
+    } else if (QMessageBox::warning(
+                   this, title,
+                   tr("Vi sono %1 blocchi uguali!\n\n%2\n\nVuoi visualizzarli?").arg(QString::number(pairs), summary),
+                   QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes) {
+        showEqualBlocks(pairs);
+    }
+    ui->actionConfronta_blocchi->setEnabled(true);
+}
+
+void MainWindow::showEqualBlocks(qint64 pairs)
+{
+    const WaitCursor waiting(this);
+    QStringList lines = m_cartella->equalBlockLines(mostLines).toList();
+    if (pairs > lines.size()) {
+        lines.append(tr("... e altre %1 coppie di blocchi uguali.").arg(pairs - lines.size()));
+    }
+    auto *report = new MsgArea(this, false);
+    report->setAttribute(Qt::WA_DeleteOnClose);
+    report->setWindowModality(Qt::WindowModal);
+    report->setLines(lines);
+    report->show();
+}

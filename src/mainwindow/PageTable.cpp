@@ -1,2 +1,159 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/PageTable.h"
+
+#include "generation/GUtils.h"
+
+#include <QBrush>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QTableWidgetItem>
+
+#include <algorithm>
+
+namespace {
+// The longest entry that is still a number is as long as this one.
+constexpr unsigned longestNumber = 999999;
+
+QTableWidgetItem fillerItem()
+{
+    QTableWidgetItem filler(QStringLiteral("X"));
+    filler.setTextAlignment(Qt::AlignCenter);
+    filler.setBackground(QColor(Qt::lightGray));
+    filler.setForeground(readableOn(Qt::lightGray));
+    filler.setFlags(filler.flags() & ~Qt::ItemIsEditable);
+    return filler;
+}
+
+// Makes the items of cells. Neighbours mostly look alike: copies of one item share its data.
+class CellItems final
+{
+public:
+    explicit CellItems(const QString &emptyText)
+        : m_emptyText(emptyText)
+    {
+        m_alike.setTextAlignment(Qt::AlignCenter);
+        wear(Cella());
+    }
+
+    // The caller owns the item.
+    QTableWidgetItem *make(const Cella &cell)
+    {
+        if (cell.coloreSfondo != m_background || cell.coloreTesto != m_foreground) {
+            wear(cell);
+        }
+        auto *item = new QTableWidgetItem(m_alike);
+        const QString text = cellText(cell, m_emptyText);
+        if (!text.isEmpty()) {
+            item->setText(text);
+        }
+        return item;
+    }
+
+private:
+    void wear(const Cella &cell)
+    {
+        m_background = cell.coloreSfondo;
+        m_foreground = cell.coloreTesto;
+        m_alike.setBackground(m_background);
+        m_alike.setForeground(m_foreground);
+    }
+
+    QString m_emptyText;
+    QTableWidgetItem m_alike;
+    QColor m_background;
+    QColor m_foreground;
+};
+} // namespace
+
+std::optional<RowPosition> rowPosition(const Pagina &page, int tableRow)
+{
+    if (tableRow < 0) {
+        return std::nullopt;
+    }
+    int firstRow = 0;
+    for (int block = 0; block < page.nBlocchi; ++block) {
+        const int rows = page.blocchi[static_cast<size_t>(block)].nRighe;
+        if (tableRow < firstRow + rows) {
+            return RowPosition{block, tableRow - firstRow, firstRow};
+        }
+        firstRow += rows;
+    }
+    return std::nullopt;
+}
+
+int tableRowCount(const Pagina &page)
+{
+    int rows = 0;
+    for (size_t block = 0; block < page.nBlocchi; ++block) {
+        rows += page.blocchi[block].nRighe;
+    }
+    return rows;
+}
+
+Cella *cellAt(Pagina &page, int tableRow, int column)
+{
+    const std::optional<RowPosition> position = rowPosition(page, tableRow);
+    if (!position) {
+        return nullptr;
+    }
+    const Blocco &block = page.blocchi[static_cast<size_t>(position->block)];
+    const Riga &row = block.righe[static_cast<size_t>(position->row)];
+    if (column < 0 || column >= row.nCelle) {
+        return nullptr;
+    }
+    return &row.celle[static_cast<size_t>(column)];
+}
+
+QString cellText(const Cella &cell, const QString &emptyText)
+{
+    switch (cell.tipo) {
+    case CELL_NUMERO:
+        return QString::number(cell.numero);
+    case CELL_TESTO:
+        return cell.testo.isEmpty() ? emptyText : cell.testo;
+    case CELL_IMMAGINE:
+        return QStringLiteral("IMG");
+    case CELL_VUOTA:
+        return QString();
+    }
+    qFatal("MainWindow::loadPagina() - CELL_VALUE type unknown ERROR!");
+}
+
+std::optional<quint32> typedNumber(const QString &text)
+{
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    if (text.isEmpty() || text.size() > GUtils::numCifre(longestNumber) ||
+        !std::all_of(text.cbegin(), text.cend(), isDigit)) {
+        return std::nullopt;
+    }
+    return text.toUInt();
+}
+
+QColor readableOn(const QColor &background)
+{
+    constexpr int middleGrey = 128;
+    return qGray(background.rgb()) < middleGrey ? Qt::white : Qt::black;
+}
+
+void fillTable(QTableWidget *table, Pagina &page, int columns, const QString &emptyText)
+{
+    table->setColumnCount(columns);
+    table->setRowCount(tableRowCount(page));
+
+    // Nobody looks yet: telling the view of each item would only cost time.
+    const QSignalBlocker silent(table->model());
+    CellItems items(emptyText);
+    const QTableWidgetItem filler = fillerItem();
+    int tableRow = 0;
+    for (size_t block = 0; block < page.nBlocchi; ++block) {
+        for (size_t row = 0; row < page.blocchi[block].nRighe; ++row) {
+            const Riga &cells = page.blocchi[block].righe[row];
+            for (int column = 0; column < columns; ++column) {
+                table->setItem(tableRow, column,
+                               column < cells.nCelle ? items.make(cells.celle[static_cast<size_t>(column)])
+                                                     : new QTableWidgetItem(filler));
+            }
+            ++tableRow;
+        }
+    }
+}

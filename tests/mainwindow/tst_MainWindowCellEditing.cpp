@@ -1,0 +1,464 @@
+// SPDX-License-Identifier: MIT
+#include "PageWindow.h"
+
+#include "generation/CellImage.h"
+#include "support/LogCapture.h"
+
+#include <QFileDialog>
+
+namespace {
+const QString title = QStringLiteral("Quintra - Modifica valori");
+const QString asText = QStringLiteral("Vuoi impostare il valore come STRINGA?");
+const QString asEmpty = QStringLiteral("Vuoi impostare il valore come CELLA VUOTA?");
+const QString asImage = QStringLiteral("Cella impostata come IMMAGINE.\nIl percorso dell'immagine deve essere scelto "
+                                       "tramite il pannello a lato.");
+const QString imageBox = QStringLiteral("Selezione immagine cella");
+const QString changeIt = QStringLiteral("L'immagine per la cella selezionata è quella visibile. La si vuole Cambiare?");
+const QString goOn = QStringLiteral("L'immagine per la cella selezionata è quella visisbile. Proseguire?");
+const QString openCaption = QStringLiteral("Apre un'immagine da inserire nella cella");
+const QString oneItemOnly =
+    QStringLiteral("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE ONLY ONE ITEM SELECTED!!!");
+const QString imageCellOnly =
+    QStringLiteral("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE A CELL-IMAGE TYPE!!!");
+const QString noFile = QStringLiteral("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");
+
+void answerQuestions(PageWindow &w, bool text, bool empty)
+{
+    w.boxes.expectBox(title, asText, text ? QMessageBox::Yes : QMessageBox::No, QMessageBox::Question);
+    if (!text) {
+        w.boxes.expectBox(title, asEmpty, empty ? QMessageBox::Yes : QMessageBox::No, QMessageBox::Question);
+        if (!empty) {
+            w.boxes.expectBox(title, asImage, QMessageBox::Ok, QMessageBox::Information);
+        }
+    }
+}
+
+void expectImageQuestion(PageWindow &w, const QString &question, QMessageBox::StandardButton answer, const QSize &icon)
+{
+    w.boxes.expectBox(title, imageBox, answer, [=](QMessageBox *box) {
+        QCOMPARE(box->informativeText(), question);
+        QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(box->defaultButton(), box->button(QMessageBox::Yes));
+        QCOMPARE(box->iconPixmap().size(), icon);
+    });
+}
+
+// One page with an image cell without picture at 0,0, selected.
+void showImageCell(PageWindow &w)
+{
+    w.showPages({{1, 1, 2}});
+    w.cell(0, 0, 0).tipo = CELL_IMMAGINE;
+    w.window->loadPagina(0);
+    w.select(0, 0);
+}
+
+QImage picture(const QSize &size, const QColor &colour)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    return image;
+}
+} // namespace
+
+class tst_MainWindowCellEditing final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aNumberIsTakenAtOnce_data();
+    void aNumberIsTakenAtOnce();
+    void anythingElseIsAskedAbout_data();
+    void anythingElseIsAskedAbout();
+    void yesMakesAText();
+    void anEmptyTextShowsTheDefaultText();
+    void noThenYesMakesAnEmptyCell();
+    void threeNoMakeAnImageCell();
+    void closingTheQuestionsIsNo();
+    void typedZerosStayInTheTable();
+    void theCellIsFoundBlockByBlock();
+    void thePanelFollowsTheEditedCell();
+    void withoutAPageAnEditIsAnError();
+    void anItemOfNoTableIsAProblem();
+    void aFillerIsNoCell();
+    void theGuardIsDownAfterEveryEdit();
+    void aPageLoadedDuringAQuestionIsSafe();
+
+    void anImageIsChosen();
+    void aPresentImageIsAskedAbout();
+    void noKeepsThePresentImage();
+    void noAtTheEndChangesNothing();
+    void noFileChangesNothing();
+    void anUnreadableFileGivesAnEmptyImage();
+    void aLargePictureIsShownSmall();
+    void anImageNeedsOneItem();
+    void anImageNeedsAnImageCell();
+    void aFillerTakesNoImage();
+};
+
+void tst_MainWindowCellEditing::aNumberIsTakenAtOnce_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<unsigned>("number");
+
+    QTest::newRow("two digits") << QStringLiteral("42") << 42U;
+    QTest::newRow("zero") << QStringLiteral("0") << 0U;
+    QTest::newRow("beyond the range") << QStringLiteral("999999") << 999999U;
+}
+
+void tst_MainWindowCellEditing::aNumberIsTakenAtOnce()
+{
+    QFETCH(QString, typed);
+    PageWindow w;
+    w.showPages({{1, 2, 2}});
+    w.cell(0, 1, 1).tipo = CELL_TESTO;
+    w.type(1, 1, typed);
+    QCOMPARE(w.cell(0, 1, 1).tipo, CELL_NUMERO);
+    QTEST(w.cell(0, 1, 1).numero, "number");
+    QCOMPARE(w.item(1, 1)->text(), typed);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anythingElseIsAskedAbout_data()
+{
+    QTest::addColumn<QString>("typed");
+
+    QTest::newRow("letter behind") << QStringLiteral("12a");
+    QTest::newRow("seven digits") << QStringLiteral("1234567");
+    QTest::newRow("plus") << QStringLiteral("+5");
+    QTest::newRow("minus") << QStringLiteral("-5");
+    QTest::newRow("blank before") << QStringLiteral(" 5");
+    QTest::newRow("nothing") << QString();
+}
+
+void tst_MainWindowCellEditing::anythingElseIsAskedAbout()
+{
+    QFETCH(QString, typed);
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    w.cell(0, 0, 0).tipo = CELL_NUMERO;
+    w.cell(0, 0, 0).numero = 8;
+    w.window->loadPagina(0);
+    answerQuestions(w, true, false);
+    w.type(0, 0, typed);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_TESTO);
+    QCOMPARE(w.cell(0, 0, 0).testo, typed);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::yesMakesAText()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    answerQuestions(w, true, false);
+    w.type(0, 0, QStringLiteral("ciao"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_TESTO);
+    QCOMPARE(w.cell(0, 0, 0).testo, QStringLiteral("ciao"));
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("ciao"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anEmptyTextShowsTheDefaultText()
+{
+    PageWindow w;
+    w.config.defaultCellText = QStringLiteral("Jolly!");
+    w.showPages({{1, 1, 1}});
+    w.cell(0, 0, 0).tipo = CELL_TESTO;
+    w.cell(0, 0, 0).testo = QStringLiteral("via");
+    w.window->loadPagina(0);
+    answerQuestions(w, true, false);
+    w.type(0, 0, QString());
+    QCOMPARE(w.cell(0, 0, 0).testo, QString());
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("Jolly!"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::noThenYesMakesAnEmptyCell()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    w.cell(0, 0, 0).tipo = CELL_NUMERO;
+    answerQuestions(w, false, true);
+    w.type(0, 0, QStringLiteral("via"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.item(0, 0)->text(), QString());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::threeNoMakeAnImageCell()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    answerQuestions(w, false, false);
+    w.type(0, 0, QStringLiteral("foto"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_IMMAGINE);
+    QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(8, 6));
+    QCOMPARE(w.cell(0, 0, 0).immagine.cacheKey(), defaultCellImage().cacheKey()); // shared
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("IMG"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::closingTheQuestionsIsNo()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    w.boxes.expectBox(title, asText, QMessageBox::Escape);
+    w.boxes.expectBox(title, asEmpty, QMessageBox::Escape);
+    w.boxes.expectBox(title, asImage, QMessageBox::Escape);
+    w.type(0, 0, QStringLiteral("foto"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_IMMAGINE);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::typedZerosStayInTheTable()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    w.cell(0, 0, 0).tipo = CELL_NUMERO;
+    w.type(0, 0, QStringLiteral("007"));
+    QCOMPARE(w.cell(0, 0, 0).numero, 7U);
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("007"));
+    w.window->loadPagina(0);
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("7"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::theCellIsFoundBlockByBlock()
+{
+    PageWindow w;
+    w.showPages(2, {2, 3, 4});
+    w.page(1)->blocchi[0].nRighe = 1;
+    w.pageNumber()->setValue(2);
+    w.type(1, 3, QStringLiteral("5"));
+    QCOMPARE(w.page(1)->blocchi[1].righe[0].celle[3].numero, 5U);
+    QCOMPARE(w.page(1)->blocchi[1].righe[0].celle[3].tipo, CELL_NUMERO);
+    QCOMPARE(w.cell(0, 1, 3).tipo, CELL_VUOTA);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::thePanelFollowsTheEditedCell()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.select(0, 0);
+    QCOMPARE(w.text("cella_type"), QStringLiteral("(vuota)"));
+    w.type(0, 0, QStringLiteral("5"));
+    QCOMPARE(w.text("cella_type"), QStringLiteral("(numero)"));
+    answerQuestions(w, false, false);
+    w.type(0, 0, QStringLiteral("foto"));
+    QCOMPARE(w.text("cella_type"), QStringLiteral("(immagine)"));
+    QVERIFY(w.enabled("buttSelezionaImmagine"));
+
+    w.item(0, 1)->setText(QStringLiteral("6")); // not the selected one
+    QCOMPARE(w.cell(0, 0, 1).numero, 6U);
+    QCOMPARE(w.text("cella_type"), QStringLiteral("(immagine)"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::withoutAPageAnEditIsAnError()
+{
+    PageWindow w;
+    QTableWidgetItem item(QStringLiteral("5"));
+    w.boxes.expectBox(title, QStringLiteral("Errore durante la modifica del valore nella tabella."), QMessageBox::Ok,
+                      QMessageBox::Critical);
+    w.window->tableItemChanged(&item);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anItemOfNoTableIsAProblem()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 1}});
+    QTableWidgetItem item(QStringLiteral("5"));
+    w.boxes.expectBox(title, QStringLiteral("Problema durante la modifica del valore nella tabella."), QMessageBox::Ok,
+                      QMessageBox::Warning);
+    w.window->tableItemChanged(&item);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aFillerIsNoCell()
+{
+    PageWindow w;
+    w.showPages({{1, 2, 3}});
+    w.shorten(0, 1, 1);
+    w.window->loadPagina(0);
+    w.item(1, 2)->setText(QStringLiteral("foto"));
+    QCOMPARE(w.cell(0, 1, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::theGuardIsDownAfterEveryEdit()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    answerQuestions(w, false, true);
+    w.type(0, 0, QStringLiteral("via"));
+    w.type(0, 0, QStringLiteral("3"));
+    QCOMPARE(w.cell(0, 0, 0).numero, 3U);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionIsSafe()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [&w](QMessageBox *) { w.window->loadPagina(0); });
+    w.type(0, 0, QStringLiteral("ciao"));
+    QCOMPARE(w.cell(0, 0, 0).testo, QStringLiteral("ciao"));
+    QTest::qWait(1);
+    QCOMPARE(w.window->findChildren<QTableWidget *>().size(), 1);
+    w.type(0, 0, QStringLiteral("5"));
+    QCOMPARE(w.cell(0, 0, 0).numero, 5U);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anImageIsChosen()
+{
+    PageWindow w;
+    showImageCell(w);
+    const QString path = QDir::current().absoluteFilePath(QStringLiteral("foto.png"));
+    QVERIFY(picture(QSize(20, 10), Qt::blue).save(path));
+    w.boxes.expectFileDialog(openCaption, path, [](QWidget *widget) {
+        const auto *dialog = qobject_cast<QFileDialog *>(widget);
+        QCOMPARE(dialog->directory().canonicalPath(), QDir::current().canonicalPath());
+        QCOMPARE(dialog->nameFilters(),
+                 QStringList({QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral(" TIFF (*.tif)"),
+                              QStringLiteral(" PNG (*.png)"), QStringLiteral(" GIF (*.gif)"),
+                              QStringLiteral(" BITMAP (*.bmp)")}));
+    });
+    expectImageQuestion(w, goOn, QMessageBox::Yes, QSize(20, 10));
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(20, 10));
+    QCOMPARE(w.cell(0, 0, 0).immagine.pixelColor(3, 3), QColor(Qt::blue));
+    QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aPresentImageIsAskedAbout()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.cell(0, 0, 0).immagine = picture(QSize(30, 30), Qt::green);
+    const QString path = QDir::current().absoluteFilePath(QStringLiteral("foto.png"));
+    QVERIFY(picture(QSize(20, 10), Qt::blue).save(path));
+    expectImageQuestion(w, changeIt, QMessageBox::Yes, QSize(30, 30));
+    w.boxes.expectFileDialog(openCaption, path);
+    expectImageQuestion(w, goOn, QMessageBox::Yes, QSize(20, 10));
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(20, 10));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::noKeepsThePresentImage()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.cell(0, 0, 0).immagine = picture(QSize(30, 30), Qt::green);
+    const QString before = w.status();
+    expectImageQuestion(w, changeIt, QMessageBox::No, QSize(30, 30));
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(30, 30));
+    QCOMPARE(w.status(), before);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::noAtTheEndChangesNothing()
+{
+    PageWindow w;
+    showImageCell(w);
+    const QString before = w.status();
+    w.boxes.expectFileDialog(openCaption, QDir::current().absoluteFilePath(QStringLiteral("default.png")));
+    expectImageQuestion(w, goOn, QMessageBox::No, QSize(8, 6));
+    w.press("buttSelezionaImmagine");
+    QVERIFY(w.cell(0, 0, 0).immagine.isNull());
+    QCOMPARE(w.status(), before);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::noFileChangesNothing()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.boxes.expectFileDialog(openCaption, QString());
+    const LogCapture log;
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(log.warnings(), QStringList{noFile});
+    QVERIFY(w.cell(0, 0, 0).immagine.isNull());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anUnreadableFileGivesAnEmptyImage()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.cell(0, 0, 0).immagine = picture(QSize(30, 30), Qt::green);
+    QFile file(QDir::current().absoluteFilePath(QStringLiteral("rotto.png")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("no picture");
+    file.close();
+    expectImageQuestion(w, changeIt, QMessageBox::Yes, QSize(30, 30));
+    w.boxes.expectFileDialog(openCaption, file.fileName());
+    expectImageQuestion(w, goOn, QMessageBox::Yes, QSize(0, 0));
+    w.press("buttSelezionaImmagine");
+    QVERIFY(w.cell(0, 0, 0).immagine.isNull());
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_IMMAGINE);
+    QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aLargePictureIsShownSmall()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.cell(0, 0, 0).immagine = picture(QSize(4000, 1000), Qt::green);
+    expectImageQuestion(w, changeIt, QMessageBox::No, QSize(256, 64));
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(4000, 1000));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anImageNeedsOneItem()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.select(0, 1);
+    {
+        const LogCapture log;
+        w.window->on_buttSelezionaImmagine_clicked();
+        QCOMPARE(log.warnings(), QStringList{oneItemOnly});
+    }
+    w.table()->clearSelection();
+    const LogCapture log;
+    w.window->on_buttSelezionaImmagine_clicked();
+    QCOMPARE(log.warnings(), QStringList{oneItemOnly});
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::anImageNeedsAnImageCell()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.table()->clearSelection();
+    w.select(0, 1);
+    const LogCapture log;
+    w.window->on_buttSelezionaImmagine_clicked();
+    QCOMPARE(log.warnings(), QStringList{imageCellOnly});
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aFillerTakesNoImage()
+{
+    PageWindow w;
+    w.showPages({{1, 2, 3}});
+    w.shorten(0, 1, 1);
+    w.window->loadPagina(0);
+    w.select(1, 2);
+    const LogCapture log;
+    w.window->on_buttSelezionaImmagine_clicked();
+    QCOMPARE(log.warnings(), QStringList{imageCellOnly});
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+QTEST_MAIN(tst_MainWindowCellEditing)
+#include "tst_MainWindowCellEditing.moc"

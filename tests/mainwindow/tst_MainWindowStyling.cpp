@@ -1,0 +1,806 @@
+// SPDX-License-Identifier: MIT
+#include "PageWindow.h"
+
+#include "msgarea/MsgArea.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QTextEdit>
+
+namespace {
+const QString windowTitle = QStringLiteral("Quintra - Cartella classica");
+const QString emptySet = QStringLiteral("La cartella è vuota!");
+const QString nothingSelected = QStringLiteral("Nessun elemento selezionato!");
+const QString cellTextDone = QStringLiteral("Modifica colore testo cella applicata.");
+const QString cellBackgroundDone = QStringLiteral("Modifica colore sfondo cella applicata.");
+const QString blockDone = QStringLiteral("Modifica colore sfondo blocchi applicata.");
+const QString fontDone = QStringLiteral("Font impostato correttamente.");
+const QColor white = Qt::white;
+const QColor black = Qt::black;
+const QColor green = Qt::green;
+const QColor red = Qt::red;
+
+void expectSkippedCells(PageWindow &w)
+{
+    w.boxes.expectBox(QStringLiteral("Attenzione"),
+                      QStringLiteral("Errore: Le pagine hanno dimensioni diverse.\nAlcune celle sono state omesse!"),
+                      QMessageBox::Ok, QMessageBox::Warning);
+}
+
+// Whether every field of the pages that a colour command could touch is as new.
+bool untouched(const PageWindow &w)
+{
+    for (Pagina *page : w.set()->pagine) {
+        if (page->sfondo != white) {
+            return false;
+        }
+        for (int row = 0; row < tableRowCount(*page); ++row) {
+            for (int column = 0; cellAt(*page, row, column) != nullptr; ++column) {
+                const Cella &cell = *cellAt(*page, row, column);
+                if (cell.coloreSfondo != white || cell.coloreTesto != black) {
+                    return false;
+                }
+            }
+        }
+        for (size_t b = 0; b < page->nBlocchi; ++b) {
+            if (page->blocchi[b].coloreLineaEsterna != black || page->blocchi[b].coloreLineaInterna != black) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void makeNumber(Cella &cell, quint32 number)
+{
+    cell.tipo = CELL_NUMERO;
+    cell.numero = number;
+}
+} // namespace
+
+class tst_MainWindowStyling final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void withoutPagesEveryCommandSaysSo_data();
+    void withoutPagesEveryCommandSaysSo();
+    void cellColoursNeedASelection_data();
+    void cellColoursNeedASelection();
+
+    void thePageShownIsColoured();
+    void allPagesAreColoured();
+    void theSelectedBlockIsColoured();
+    void theBlockIsColouredOnAllPages();
+    void allBlocksAreColoured();
+    void withoutABlockNothingIsColoured();
+    void severalCellsOfABlockStandForIt();
+    void blockLinesKeepTheirColour();
+    void selectedCellsAreColoured();
+    void theSameCellsOfAllPagesAreColoured();
+    void missingCellsAreToldOnce();
+    void fillersAreSkipped();
+
+    void aColourReachesOnlyTheCommandThatAsked();
+    void aColourReachesOnlyOneCommandAfterACancel();
+    void aButtonPressedTwiceColoursOnce();
+    void anotherColourWithoutAskingReachesNobody();
+    void aPageDeletedWhileThePickerIsOpenIsNotColoured();
+    void theOnlyPageDeletedWhileThePickerIsOpen();
+    void thePickerBlocksTheWindowButNotTheProgram();
+    void recolouringNeverAsksAboutCells();
+    void recolouringForgetsTheSelection();
+
+    void theSpacingReachesThePageShown();
+    void theSpacingReachesAllPages();
+    void commandsWithoutEffectSayNothing();
+    void idleCommandsSayThatTheyHaveNoEffect();
+
+    void theFontReachesTheSelection();
+    void theFontReachesAllPages();
+    void theFontSkipsMissingCells();
+    void theFontCancelledChangesNothing();
+    void theFontWithoutSelectionIsOnlyRemembered();
+    void theCellSwitchShowsTheCurrentFont();
+    void theCellSwitchTakenBackShowsTheCellAgain();
+    void theBlockSwitchDisablesTheLineWidths();
+
+    void equalBlocksNeedAGeneratedSet();
+    void noEqualBlocks();
+    void aSetOfOnePageHasNoEqualBlocks();
+    void equalBlocksAreCounted();
+    void equalBlocksAreListed();
+    void aLongListEndsWithTheRest();
+    void theCommandIsDisabledDuringTheCheck();
+};
+
+void tst_MainWindowStyling::withoutPagesEveryCommandSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    for (const char *button :
+         {"colorapaginasfondo", "colorabloccosfondo", "colorabloccolineaesterna", "colorabloccolineainterna",
+          "coloracellatesto", "coloracellasfondo", "pagina_applica", "blocco_applica", "cella_applica"}) {
+        QTest::newRow(button) << QByteArray(button);
+    }
+}
+
+void tst_MainWindowStyling::withoutPagesEveryCommandSaysSo()
+{
+    QFETCH(QByteArray, button);
+    PageWindow w;
+    w.press(button.constData());
+    QCOMPARE(w.status(), emptySet);
+    QVERIFY(!w.picker()->isVisible());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::cellColoursNeedASelection_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("text") << QByteArray("coloracellatesto");
+    QTest::newRow("background") << QByteArray("coloracellasfondo");
+    QTest::newRow("block background, which needs a block") << QByteArray("colorabloccosfondo");
+}
+
+void tst_MainWindowStyling::cellColoursNeedASelection()
+{
+    QFETCH(QByteArray, button);
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.press(button.constData());
+    QCOMPARE(w.status(), nothingSelected);
+    QVERIFY(!w.picker()->isVisible());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::thePageShownIsColoured()
+{
+    PageWindow w;
+    w.showPages(3, {1, 2, 2});
+    w.pageNumber()->setValue(2);
+    w.press("colorapaginasfondo");
+    w.choose(green);
+    QCOMPARE(w.page(0)->sfondo, white);
+    QCOMPARE(w.page(1)->sfondo, green);
+    QCOMPARE(w.page(2)->sfondo, white);
+    QCOMPARE(w.table()->palette().color(QPalette::Base), green);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::allPagesAreColoured()
+{
+    PageWindow w;
+    w.showPages(3, {1, 2, 2});
+    w.check("applica_tutte_pagine_checkBox");
+    w.press("colorapaginasfondo");
+    w.choose(green);
+    for (int page = 0; page < 3; ++page) {
+        QCOMPARE(w.page(page)->sfondo, green);
+    }
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theSelectedBlockIsColoured()
+{
+    PageWindow w;
+    w.showPages(2, {3, 2, 2});
+    w.select(3, 1);
+    w.press("colorabloccosfondo");
+    w.choose(green);
+    for (int row = 0; row < 6; ++row) {
+        const bool inBlock = row == 2 || row == 3;
+        QCOMPARE(w.cell(0, row, 0).coloreSfondo, inBlock ? green : white);
+        QCOMPARE(w.cell(0, row, 1).coloreSfondo, inBlock ? green : white);
+        QCOMPARE(w.item(row, 1)->background().color(), inBlock ? green : white);
+        QCOMPARE(w.cell(1, row, 1).coloreSfondo, white);
+    }
+    QCOMPARE(w.status(), blockDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theBlockIsColouredOnAllPages()
+{
+    PageWindow w;
+    w.showPages({{3, 2, 2}, {2, 1, 3}, {1, 2, 2}});
+    w.check("applica_tutte_pagine_checkBox");
+    w.select(3, 1);
+    w.press("colorabloccosfondo");
+    w.choose(green);
+    QCOMPARE(w.cell(0, 2, 0).coloreSfondo, green);
+    QCOMPARE(w.cell(0, 1, 0).coloreSfondo, white);
+    QCOMPARE(w.cell(1, 1, 2).coloreSfondo, green);
+    QCOMPARE(w.cell(1, 0, 0).coloreSfondo, white);
+    QCOMPARE(w.cell(2, 0, 0).coloreSfondo, white); // has one block only
+    QCOMPARE(w.status(), blockDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::allBlocksAreColoured()
+{
+    PageWindow w;
+    w.showPages(2, {3, 2, 2});
+    w.check("applica_tutti_blocchi_checkBox"); // no block needs to be selected
+    w.press("colorabloccosfondo");
+    w.choose(green);
+    for (int row = 0; row < 6; ++row) {
+        QCOMPARE(w.cell(0, row, 1).coloreSfondo, green);
+        QCOMPARE(w.cell(1, row, 1).coloreSfondo, white);
+    }
+    w.check("applica_tutte_pagine_checkBox");
+    w.press("colorabloccosfondo");
+    w.choose(red);
+    QCOMPARE(w.cell(0, 0, 0).coloreSfondo, red);
+    QCOMPARE(w.cell(1, 5, 1).coloreSfondo, red);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::withoutABlockNothingIsColoured()
+{
+    PageWindow w;
+    w.showPages({{3, 2, 2}});
+    w.window->coloraBloccoSfondo(green);
+    QCOMPARE(w.status(), nothingSelected);
+    w.window->coloraCellaTesto(green);
+    QCOMPARE(w.status(), nothingSelected);
+    QVERIFY(untouched(w));
+
+    w.select(0, 0);
+    w.select(2, 0); // two blocks are no block
+    w.window->coloraBloccoSfondo(green);
+    QCOMPARE(w.status(), nothingSelected);
+    QVERIFY(untouched(w));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::severalCellsOfABlockStandForIt()
+{
+    PageWindow w;
+    w.showPages({{3, 2, 2}});
+    w.select(2, 0);
+    w.select(3, 1);
+    w.press("colorabloccosfondo");
+    w.choose(green);
+    QCOMPARE(w.cell(0, 2, 1).coloreSfondo, green);
+    QCOMPARE(w.cell(0, 3, 0).coloreSfondo, green);
+    QCOMPARE(w.cell(0, 4, 0).coloreSfondo, white);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::blockLinesKeepTheirColour()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.select(0, 0);
+    const QTableWidget *before = w.table();
+    w.press("colorabloccolineaesterna");
+    w.choose(green);
+    w.press("colorabloccolineainterna");
+    w.choose(green);
+    QVERIFY(untouched(w));
+    QCOMPARE(w.table(), before);
+    QVERIFY(w.item(0, 0)->isSelected());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::selectedCellsAreColoured()
+{
+    PageWindow w;
+    w.showPages(2, {2, 2, 2});
+    w.select(0, 1);
+    w.select(3, 0);
+    w.press("coloracellatesto");
+    w.choose(red);
+    QCOMPARE(w.status(), cellTextDone);
+    QCOMPARE(w.cell(0, 0, 1).coloreTesto, red);
+    QCOMPARE(w.cell(0, 3, 0).coloreTesto, red);
+    QCOMPARE(w.item(3, 0)->foreground().color(), red);
+    QCOMPARE(w.cell(0, 0, 0).coloreTesto, black);
+    QCOMPARE(w.cell(0, 0, 1).coloreSfondo, white);
+    QCOMPARE(w.cell(1, 0, 1).coloreTesto, black);
+
+    w.select(1, 1);
+    w.press("coloracellasfondo");
+    w.choose(green);
+    QCOMPARE(w.status(), cellBackgroundDone);
+    QCOMPARE(w.cell(0, 1, 1).coloreSfondo, green);
+    QCOMPARE(w.cell(0, 1, 1).coloreTesto, black);
+    QCOMPARE(w.item(1, 1)->background().color(), green);
+    QCOMPARE(w.cell(0, 0, 1).coloreSfondo, white);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theSameCellsOfAllPagesAreColoured()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}, {4, 1, 2}});
+    w.check("applica_tutte_celle");
+    w.select(3, 1);
+    w.press("coloracellasfondo");
+    w.choose(green);
+    QCOMPARE(w.cell(0, 3, 1).coloreSfondo, green);
+    QCOMPARE(w.cell(1, 3, 1).coloreSfondo, green);
+    QCOMPARE(w.cell(1, 2, 1).coloreSfondo, white);
+    QCOMPARE(w.status(), cellBackgroundDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::missingCellsAreToldOnce()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 3}, {1, 2, 3}, {2, 2, 2}});
+    w.check("applica_tutte_celle");
+    for (int row = 0; row < 4; ++row) {
+        w.select(row, 2);
+        w.select(row, 0);
+    }
+    expectSkippedCells(w);
+    w.press("coloracellatesto");
+    w.choose(green);
+    for (int row = 0; row < 4; ++row) {
+        QCOMPARE(w.cell(0, row, 2).coloreTesto, green);
+        QCOMPARE(w.cell(2, row, 0).coloreTesto, green);
+    }
+    QCOMPARE(w.cell(1, 1, 2).coloreTesto, green);
+    QCOMPARE(w.status(), cellTextDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::fillersAreSkipped()
+{
+    PageWindow w;
+    w.showPages({{1, 2, 3}, {1, 2, 3}});
+    w.shorten(0, 1, 1);
+    w.window->loadPagina(0);
+    w.check("applica_tutte_celle");
+    w.select(1, 0);
+    w.select(1, 2); // a filler here, a cell on the other page
+    w.press("coloracellasfondo");
+    w.choose(green);
+    QCOMPARE(w.cell(0, 1, 0).coloreSfondo, green);
+    QCOMPARE(w.cell(1, 1, 0).coloreSfondo, green);
+    QCOMPARE(w.cell(1, 1, 2).coloreSfondo, white);
+    QCOMPARE(w.item(1, 2)->background().color(), QColor(Qt::lightGray));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::aColourReachesOnlyTheCommandThatAsked()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.press("colorapaginasfondo");
+    w.choose(green);
+    w.select(0, 0);
+    w.press("coloracellatesto");
+    w.choose(red);
+    QCOMPARE(w.page(0)->sfondo, green);
+    QCOMPARE(w.cell(0, 0, 0).coloreTesto, red);
+    QCOMPARE(w.cell(0, 0, 0).coloreSfondo, white);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::aColourReachesOnlyOneCommandAfterACancel()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.select(0, 0);
+    for (const char *cancelled : {"colorapaginasfondo", "colorabloccosfondo", "colorabloccolineaesterna",
+                                  "colorabloccolineainterna", "coloracellasfondo"}) {
+        w.press(cancelled);
+        QVERIFY(w.picker()->isVisible());
+        w.picker()->reject();
+    }
+    w.press("coloracellatesto");
+    w.choose(red);
+    QCOMPARE(w.cell(0, 0, 0).coloreTesto, red);
+    w.cell(0, 0, 0).coloreTesto = black;
+    QVERIFY(untouched(w));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::aButtonPressedTwiceColoursOnce()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}, {1, 1, 1}});
+    w.check("applica_tutte_celle");
+    w.select(3, 1);
+    w.press("coloracellasfondo");
+    w.window->on_coloracellasfondo_clicked();
+    expectSkippedCells(w); // once
+    w.choose(green);
+    QCOMPARE(w.cell(0, 3, 1).coloreSfondo, green);
+    QCOMPARE(w.status(), cellBackgroundDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::anotherColourWithoutAskingReachesNobody()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.select(0, 0);
+    w.press("coloracellatesto");
+    w.choose(black);
+    w.select(0, 0);
+    emit w.picker()->colorSelected(green);
+    QVERIFY(untouched(w));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::aPageDeletedWhileThePickerIsOpenIsNotColoured()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}, {3, 3, 3}});
+    w.pageNumber()->setValue(2);
+    w.select(8, 2);
+    w.press("coloracellasfondo");
+    w.window->on_pagina_elimina_clicked();
+    w.choose(green);
+    QCOMPARE(w.status(), nothingSelected);
+    QVERIFY(untouched(w));
+
+    w.press("colorapaginasfondo");
+    w.choose(green);
+    QCOMPARE(w.page(0)->sfondo, green);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theOnlyPageDeletedWhileThePickerIsOpen()
+{
+    PageWindow w;
+    for (const char *button : {"colorapaginasfondo", "colorabloccosfondo", "coloracellatesto", "coloracellasfondo"}) {
+        w.showPages({{2, 2, 2}});
+        w.select(3, 1);
+        w.press(button);
+        w.window->on_pagina_elimina_clicked();
+        w.choose(green);
+        QCOMPARE(w.status(), emptySet);
+        QCOMPARE(w.table()->rowCount(), 0);
+    }
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::thePickerBlocksTheWindowButNotTheProgram()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.press("colorapaginasfondo"); // returns at once
+    QVERIFY(w.picker()->isVisible());
+    QCOMPARE(w.picker()->windowModality(), Qt::ApplicationModal);
+    QCOMPARE(QApplication::activeModalWidget(), w.picker());
+    w.picker()->reject();
+    QVERIFY(!w.picker()->isVisible());
+    QVERIFY(untouched(w));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::recolouringNeverAsksAboutCells()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.cell(0, 0, 0).tipo = CELL_TESTO;
+    w.cell(0, 0, 0).testo = QStringLiteral("ciao");
+    w.window->loadPagina(0);
+    for (const char *button : {"colorapaginasfondo", "colorabloccosfondo", "colorabloccolineaesterna",
+                               "colorabloccolineainterna", "coloracellatesto", "coloracellasfondo"}) {
+        w.select(0, 0);
+        w.press(button);
+        w.choose(green);
+        QCOMPARE(w.boxes.problems(), QStringList());
+        w.item(1, 1)->setText(QStringLiteral("5")); // edits work again
+        QCOMPARE(w.cell(0, 1, 1).numero, 5U);
+        w.cell(0, 1, 1).numero = 0;
+    }
+    w.window->coloraCellaTesto(green); // refused
+    w.item(1, 1)->setText(QStringLiteral("6"));
+    QCOMPARE(w.cell(0, 1, 1).numero, 6U);
+    QCOMPARE(w.cell(0, 0, 0).testo, QStringLiteral("ciao"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::recolouringForgetsTheSelection()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.select(0, 0);
+    w.press("coloracellatesto");
+    w.choose(green);
+    QCOMPARE(w.text("cella_label"), QStringLiteral("Nessuna selezione"));
+    QVERIFY(w.table()->selectedItems().isEmpty());
+    QVERIFY(!w.enabled("seleziona_font_button"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theSpacingReachesThePageShown()
+{
+    PageWindow w;
+    w.showPages(3, {1, 1, 1});
+    w.pageNumber()->setValue(2);
+    QCOMPARE(w.find<QSpinBox>("spazio_blocchi_spin")->minimum(), 0);
+    QCOMPARE(w.find<QSpinBox>("spazio_blocchi_spin")->maximum(), 99);
+    w.find<QSpinBox>("spazio_blocchi_spin")->setValue(17);
+    QCOMPARE(w.page(1)->spazioBlocchi, 1.2F);
+    w.press("pagina_applica");
+    QCOMPARE(w.page(0)->spazioBlocchi, 1.2F);
+    QCOMPARE(w.page(1)->spazioBlocchi, 17.0F);
+    QCOMPARE(w.page(2)->spazioBlocchi, 1.2F);
+    QCOMPARE(w.status(), QStringLiteral("Modifica applicata."));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theSpacingReachesAllPages()
+{
+    PageWindow w;
+    w.showPages(3, {1, 1, 1});
+    w.check("applica_tutte_pagine_checkBox");
+    w.find<QSpinBox>("spazio_blocchi_spin")->setValue(0);
+    w.press("pagina_applica");
+    for (int page = 0; page < 3; ++page) {
+        QCOMPARE(w.page(page)->spazioBlocchi, 0.0F);
+    }
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::commandsWithoutEffectSayNothing()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.select(0, 0);
+    const StatusLog log(w);
+    w.press("blocco_applica");
+    w.press("cella_applica");
+    QCOMPARE(log.messages(), QStringList());
+    QVERIFY(untouched(w));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::idleCommandsSayThatTheyHaveNoEffect()
+{
+    PageWindow w;
+    for (const char *idle : {"blocco_applica", "cella_applica", "colorabloccolineaesterna", "colorabloccolineainterna",
+                             "dimlineaext_spin", "dimlineaint_spin"}) {
+        QVERIFY2(w.find<QWidget>(idle)->toolTip().contains(QStringLiteral("non ha ancora effetto")), idle);
+    }
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theFontReachesTheSelection()
+{
+    PageWindow w;
+    w.showPages(2, {2, 2, 2});
+    w.select(0, 0);
+    w.select(3, 1);
+    const QFont serif(QStringLiteral("Liberation Serif"), 18);
+    w.boxes.expectFontDialog(serif);
+    w.press("seleziona_font_button");
+    QCOMPARE(w.cell(0, 0, 0).font.family(), serif.family());
+    QCOMPARE(w.cell(0, 3, 1).font.pointSize(), 18);
+    QCOMPARE(w.cell(0, 0, 1).font, defaultCellFont());
+    QCOMPARE(w.cell(1, 0, 0).font, defaultCellFont());
+    QCOMPARE(w.text("font_info"), QStringLiteral("Liberation Serif 18"));
+    QCOMPARE(w.status(), fontDone);
+    QVERIFY(w.item(3, 1)->isSelected());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theFontReachesAllPages()
+{
+    PageWindow w;
+    w.showPages(3, {2, 2, 2});
+    w.check("applica_tutte_celle");
+    w.select(3, 1);
+    w.boxes.expectFontDialog(QFont(QStringLiteral("Liberation Serif"), 18));
+    w.press("seleziona_font_button");
+    for (int page = 0; page < 3; ++page) {
+        QCOMPARE(w.cell(page, 3, 1).font.pointSize(), 18);
+        QCOMPARE(w.cell(page, 0, 0).font.pointSize(), 30);
+    }
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theFontSkipsMissingCells()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}, {1, 1, 2}, {1, 1, 1}});
+    w.check("applica_tutte_celle");
+    w.table()->selectAll();
+    w.boxes.expectFontDialog(QFont(QStringLiteral("Liberation Serif"), 18));
+    expectSkippedCells(w);
+    w.press("seleziona_font_button");
+    QCOMPARE(w.cell(0, 3, 1).font.pointSize(), 18);
+    QCOMPARE(w.cell(1, 0, 1).font.pointSize(), 18);
+    QCOMPARE(w.cell(2, 0, 0).font.pointSize(), 18);
+    QCOMPARE(w.status(), fontDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theFontCancelledChangesNothing()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    w.select(0, 0);
+    const QString before = w.status();
+    w.boxes.expectFontDialogCancelled();
+    w.press("seleziona_font_button");
+    QCOMPARE(w.cell(0, 0, 0).font, defaultCellFont());
+    QCOMPARE(w.text("font_info"), QStringLiteral("Arial 30"));
+    QCOMPARE(w.status(), before);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theFontWithoutSelectionIsOnlyRemembered()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.check("applica_tutte_celle");
+    w.boxes.expectFontDialog(QFont(QStringLiteral("Liberation Serif"), 18));
+    w.press("seleziona_font_button");
+    QCOMPARE(w.cell(0, 0, 0).font, defaultCellFont());
+    QCOMPARE(w.text("font_info"), QStringLiteral("Liberation Serif 18"));
+    QCOMPARE(w.status(), fontDone);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theCellSwitchShowsTheCurrentFont()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    QVERIFY(!w.enabled("seleziona_font_button"));
+    w.check("applica_tutte_celle");
+    QVERIFY(w.enabled("seleziona_font_button"));
+    QCOMPARE(w.text("font_info"), QStringLiteral("Arial 30"));
+    QCOMPARE(w.find<QLabel>("font_info")->font().pointSize(), 30);
+    w.check("applica_tutte_celle");
+    QVERIFY(!w.enabled("seleziona_font_button"));
+    QCOMPARE(w.text("font_info"), QString());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theCellSwitchTakenBackShowsTheCellAgain()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.cell(0, 0, 1).font = QFont(QStringLiteral("Liberation Serif"), 18);
+    w.select(0, 1);
+    w.check("applica_tutte_celle");
+    QCOMPARE(w.text("font_info"), QStringLiteral("Arial 30"));
+    w.check("applica_tutte_celle");
+    QCOMPARE(w.text("font_info"), QStringLiteral("Liberation Serif 18"));
+    QVERIFY(w.enabled("seleziona_font_button"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theBlockSwitchDisablesTheLineWidths()
+{
+    PageWindow w;
+    w.showPages({{2, 2, 2}});
+    for (int click = 0; click < 2; ++click) {
+        w.find<QWidget>("dimlineaext_spin")->setEnabled(true);
+        w.find<QWidget>("dimlineaint_spin")->setEnabled(true);
+        w.check("applica_tutti_blocchi_checkBox");
+        QVERIFY(!w.enabled("dimlineaext_spin"));
+        QVERIFY(!w.enabled("dimlineaint_spin"));
+    }
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::equalBlocksNeedAGeneratedSet()
+{
+    PageWindow w;
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Verifica blocchi uguali:\nPagine cartella non ancora generate.\nImpossibile "
+                                     "procedere alla verifica!"),
+                      QMessageBox::Ok, QMessageBox::Warning);
+    w.find<QAction>("actionConfronta_blocchi")->trigger();
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::noEqualBlocks()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 2});
+    makeNumber(w.cell(0, 0, 0), 1);
+    makeNumber(w.cell(1, 0, 0), 2);
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Non vi sono blocchi uguali!\n\nBlocchi verificati: 2\nConfronti tra blocchi: "
+                                     "1\nCelle verificate: 4\nBlocchi uguali: 0 (0.00%)"),
+                      QMessageBox::Ok, QMessageBox::Information);
+    const StatusLog log(w);
+    w.find<QAction>("actionConfronta_blocchi")->trigger();
+    QCOMPARE(log.messages(),
+             QStringList({QStringLiteral("Confronto pagina 1 di 2"), QStringLiteral("Confronto pagina 2 di 2")}));
+    QVERIFY(w.find<QAction>("actionConfronta_blocchi")->isEnabled());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::aSetOfOnePageHasNoEqualBlocks()
+{
+    PageWindow w;
+    w.showPages({{6, 3, 9}});
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Non vi sono blocchi uguali!\n\nLa cartella e' vuota od ha solo una pagina.\nI "
+                                     "blocchi di una pagina sono sempre diversi."),
+                      QMessageBox::Ok, QMessageBox::Information);
+    w.find<QAction>("actionConfronta_blocchi")->trigger();
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::equalBlocksAreCounted()
+{
+    PageWindow w;
+    w.showPages(3, {1, 1, 2});
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Vi sono 3 blocchi uguali!\n\nBlocchi verificati: 3\nConfronti tra blocchi: "
+                                     "3\nCelle verificate: 6\nBlocchi uguali: 3 (100.00%)\n\nVuoi visualizzarli?"),
+                      QMessageBox::No, [](QMessageBox *box) {
+                          QCOMPARE(box->icon(), QMessageBox::Warning);
+                          QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+                      });
+    w.find<QAction>("actionConfronta_blocchi")->trigger();
+    QVERIFY(w.window->findChild<MsgArea *>() == nullptr);
+    QVERIFY(w.find<QAction>("actionConfronta_blocchi")->isEnabled());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::equalBlocksAreListed()
+{
+    PageWindow w;
+    w.showPages(2, {2, 1, 1});
+    makeNumber(w.cell(0, 0, 0), 1);
+    makeNumber(w.cell(1, 0, 0), 1);
+    makeNumber(w.cell(0, 1, 0), 2);
+    makeNumber(w.cell(1, 1, 0), 2);
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Vi sono 2 blocchi uguali!\n\nBlocchi verificati: 4\nConfronti tra blocchi: "
+                                     "4\nCelle verificate: 4\nBlocchi uguali: 2 (50.00%)\n\nVuoi visualizzarli?"),
+                      QMessageBox::Yes, QMessageBox::Warning);
+    const StatusLog log(w);
+    w.find<QAction>("actionConfronta_blocchi")->trigger();
+    QCOMPARE(log.messages().size(), 2); // progress is told once
+
+    auto *report = w.window->findChild<MsgArea *>();
+    QVERIFY(report != nullptr);
+    QVERIFY(report->isVisible());
+    QCOMPARE(report->windowModality(), Qt::WindowModal);
+    QCOMPARE(report->findChild<QTextEdit *>()->toPlainText(),
+             QStringLiteral("Pag 2 blocco 1 = Pag 1 blocco 1\nPag 2 blocco 2 = Pag 1 blocco 2"));
+    QVERIFY(w.find<QAction>("actionConfronta_blocchi")->isEnabled());
+    report->close();
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::aLongListEndsWithTheRest()
+{
+    PageWindow w;
+    w.showPages(200, {3, 1, 1}); // 9 * 200 * 199 / 2 = 179100 pairs
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Vi sono 179100 blocchi uguali!\n\nBlocchi verificati: 600\nConfronti tra "
+                                     "blocchi: 179100\nCelle verificate: 600\nBlocchi uguali: 179100 "
+                                     "(29850.00%)\n\nVuoi visualizzarli?"),
+                      QMessageBox::Yes, QMessageBox::Warning);
+    w.find<QAction>("actionConfronta_blocchi")->trigger();
+    const QStringList lines =
+        w.window->findChild<MsgArea *>()->findChild<QTextEdit *>()->toPlainText().split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 100001);
+    QCOMPARE(lines.first(), QStringLiteral("Pag 2 blocco 1 = Pag 1 blocco 1"));
+    QCOMPARE(lines.last(), QStringLiteral("... e altre 79100 coppie di blocchi uguali."));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowStyling::theCommandIsDisabledDuringTheCheck()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 1});
+    auto *command = w.find<QAction>("actionConfronta_blocchi");
+    int enabled = 0;
+    connect(w.set(), &Cartella::checkForEqualBlocksStatus, this, [&]() { enabled += command->isEnabled() ? 1 : 0; });
+    w.boxes.expectBox(windowTitle,
+                      QStringLiteral("Vi sono 1 blocchi uguali!\n\nBlocchi verificati: 2\nConfronti tra blocchi: "
+                                     "1\nCelle verificate: 2\nBlocchi uguali: 1 (50.00%)\n\nVuoi visualizzarli?"),
+                      QMessageBox::No, [&](QMessageBox *) { enabled += command->isEnabled() ? 1 : 0; });
+    command->trigger();
+    QCOMPARE(enabled, 0);
+    QVERIFY(command->isEnabled());
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+QTEST_MAIN(tst_MainWindowStyling)
+#include "tst_MainWindowStyling.moc"
