@@ -4,7 +4,6 @@
 #include "mainwindow/PageTable.h"
 #include "mainwindow/WaitCursor.h"
 #include "settings/Config.h"
-#include "settings/Product.h"
 #include "ui_MainWindow.h"
 
 #include <QHeaderView>
@@ -70,8 +69,7 @@ Pagina *MainWindow::shownPage() const
 void MainWindow::loadPagina(U16 page)
 {
     if (page >= m_cartella->getNumPages()) {
-        QMessageBox::warning(this, Product::titleFor(tr("Cartella classica")),
-                             tr("La cartella non contiene la pagina da visualizzare (fuori range)!"));
+        QMessageBox::warning(this, boxTitle(), tr("La cartella non contiene la pagina da visualizzare (fuori range)!"));
         return;
     }
     Pagina &shown = *m_cartella->pagine[page];
@@ -112,8 +110,7 @@ void MainWindow::on_pagina_elimina_clicked()
     }
     const int value = ui->pagina_corrente_spinBox->value();
     if (value < 1 || !m_cartella->deletePage(static_cast<U16>(value - 1))) {
-        QMessageBox::warning(this, Product::titleFor(tr("Cartella classica")),
-                             tr("Problema nell'eliminazione della pagina!\nPagina non eliminata."));
+        QMessageBox::warning(this, boxTitle(), tr("Problema nell'eliminazione della pagina!\nPagina non eliminata."));
         return;
     }
     const int pages = m_cartella->getNumPages();

@@ -3,7 +3,6 @@
 
 #include "mainwindow/WaitCursor.h"
 #include "msgarea/MsgArea.h"
-#include "settings/Product.h"
 #include "ui_MainWindow.h"
 
 #include <QColorDialog>
@@ -198,6 +197,7 @@ void MainWindow::recolourCells(QColor Cella::*part, const QColor &colour, const 
 // False when another page lacked one of the cells.
 bool MainWindow::changeSelectedCells(const std::function<void(Cella &)> &change)
 {
+    const WaitCursor waiting(this);
     return changeCells(m_cartella->pagine, ui->pagina_corrente_spinBox->value() - 1, selectedPositions(),
                        ui->applica_tutte_celle->isChecked(), change);
 }
@@ -265,9 +265,8 @@ void MainWindow::on_seleziona_font_button_clicked()
 
 void MainWindow::on_actionConfronta_blocchi_triggered()
 {
-    const QString title = Product::titleFor(tr("Cartella classica"));
     if (!m_generated) {
-        QMessageBox::warning(this, title,
+        QMessageBox::warning(this, boxTitle(),
                              tr("Verifica blocchi uguali:\nPagine cartella non ancora generate.\nImpossibile procedere "
                                 "alla verifica!"));
         return;
@@ -280,9 +279,9 @@ void MainWindow::on_actionConfronta_blocchi_triggered()
         pairs = m_cartella->checkForEqualBlocks(nullptr, &summary);
     }
     if (pairs == 0) {
-        QMessageBox::information(this, title, tr("Non vi sono blocchi uguali!\n\n%1").arg(summary));
+        QMessageBox::information(this, boxTitle(), tr("Non vi sono blocchi uguali!\n\n%1").arg(summary));
     } else if (QMessageBox::warning(
-                   this, title,
+                   this, boxTitle(),
                    tr("Vi sono %1 blocchi uguali!\n\n%2\n\nVuoi visualizzarli?").arg(QString::number(pairs), summary),
                    QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes) {
         showEqualBlocks(pairs);
@@ -297,9 +296,7 @@ void MainWindow::showEqualBlocks(qint64 pairs)
     if (pairs > lines.size()) {
         lines.append(tr("... e altre %1 coppie di blocchi uguali.").arg(pairs - lines.size()));
     }
-    auto *report = new MsgArea(this, false);
-    report->setAttribute(Qt::WA_DeleteOnClose);
-    report->setWindowModality(Qt::WindowModal);
+    MsgArea *report = openMsgArea();
     report->setLines(lines);
     report->show();
 }

@@ -10,6 +10,8 @@
 #include <QColorDialog>
 #include <QLCDNumber>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -80,12 +82,13 @@ public:
     void type(int row, int column, const QString &text) const
     {
         table()->editItem(item(row, column));
-        auto *editor = table()->viewport()->findChild<QWidget *>();
+        auto *editor = table()->viewport()->findChild<QLineEdit *>();
         QVERIFY(editor != nullptr);
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(editor, Qt::Key_Delete);
+        editor->clear();
         QTest::keyClicks(editor, text);
-        QTest::keyClick(editor, Qt::Key_Return);
+        QTest::keyClick(editor, Qt::Key_Return); // committed from the event loop
+        const QPointer<QLineEdit> open = editor;
+        QTRY_VERIFY(open.isNull());
     }
 
     Cartella *set() const { return window->cardSet(); }

@@ -322,10 +322,9 @@ void tst_MainWindowCellEditing::anImageIsChosen()
     w.boxes.expectFileDialog(openCaption, path, [](QWidget *widget) {
         const auto *dialog = qobject_cast<QFileDialog *>(widget);
         QCOMPARE(dialog->directory().canonicalPath(), QDir::current().canonicalPath());
-        QCOMPARE(dialog->nameFilters(),
-                 QStringList({QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral(" TIFF (*.tif)"),
-                              QStringLiteral(" PNG (*.png)"), QStringLiteral(" GIF (*.gif)"),
-                              QStringLiteral(" BITMAP (*.bmp)")}));
+        QCOMPARE(dialog->nameFilters(), QStringList({QStringLiteral("JPEG (*.jpg *.jpeg)"),
+                                                     QStringLiteral("TIFF (*.tif)"), QStringLiteral("PNG (*.png)"),
+                                                     QStringLiteral("GIF (*.gif)"), QStringLiteral("BITMAP (*.bmp)")}));
     });
     expectImageQuestion(w, goOn, QMessageBox::Yes, QSize(20, 10));
     w.press("buttSelezionaImmagine");
@@ -383,7 +382,7 @@ void tst_MainWindowCellEditing::noFileChangesNothing()
     w.boxes.expectFileDialog(openCaption, QString());
     const LogCapture log;
     w.press("buttSelezionaImmagine");
-    QCOMPARE(log.warnings(), QStringList{noFile});
+    QCOMPARE(log.warnings().filter(QStringLiteral("MainWindow::")), QStringList{noFile});
     QVERIFY(w.cell(0, 0, 0).immagine.isNull());
     QCOMPARE(w.boxes.problems(), QStringList());
 }
