@@ -53,7 +53,7 @@ private:
 bool layoutExists(const LayoutRules &rules);
 
 // Drawings of all rows that searchLayout() makes at most.
-constexpr int maxDrawings = 20;
+constexpr int maxDrawings = 100;
 
 // Draws every row at random and repairs the columns that are too full, by at most maxPasses passes (at least one), then
 // draws again. Nothing when maxDrawings drawings could not be repaired. The rules must have a layout.
