@@ -2,49 +2,132 @@
 #include "generation/BlockSignature.h"
 #include "model/Cartella.h"
 
-#include <QHash>
 #include <QVarLengthArray>
 
 #include <algorithm>
-#include <charconv>
+#include <array>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace {
-// Signatures of ordinary blocks are put together on the stack.
-constexpr int stackSignature = 1024;
-using SignatureText = QVarLengthArray<QChar, stackSignature>;
-
-template<typename Number>
-void appendNumber(SignatureText &text, Number number)
+// The text of a number below 100 or of an empty cell.
+struct ShortText
 {
-    char digits[std::numeric_limits<Number>::digits10 + 2];
-    const auto end = std::to_chars(digits, digits + sizeof(digits), number).ptr;
-    for (const char *digit = digits; digit != end; ++digit) {
-        text.append(QLatin1Char(*digit));
+    std::array<ushort, 2> characters;
+    int length;
+};
+
+constexpr unsigned shortNumbers = 100;
+
+// The texts of the short numbers, then that of an empty cell.
+constexpr std::array<ShortText, shortNumbers + 1> makeShortTexts()
+{
+    std::array<ShortText, shortNumbers + 1> texts{};
+    for (unsigned number = 0; number < shortNumbers; ++number) {
+        const auto ones = static_cast<ushort>('0' + number % 10);
+        const auto tens = static_cast<ushort>('0' + number / 10);
+        texts[number] = number < 10 ? ShortText{{ones, 0}, 1} : ShortText{{tens, ones}, 2};
     }
+    texts[shortNumbers] = {{' ', 0}, 1};
+    return texts;
 }
 
-void appendCell(SignatureText &text, const Cella &cell)
+constexpr std::array<ShortText, shortNumbers + 1> shortTexts = makeShortTexts();
+
+// Index of the cell's text in shortTexts, or one beyond it. Numbers and empty cells come mixed in a way that no
+// processor can predict, and this is most of the check: hence tables instead of branches.
+unsigned shortTextOf(const Cella &cell)
 {
-    switch (cell.tipo) {
-    case CELL_NUMERO:
-        appendNumber(text, cell.numero);
-        return;
-    case CELL_TESTO:
-        text.append(QLatin1Char('S'));
-        text.append(cell.testo.constData(), cell.testo.size());
-        return;
-    case CELL_IMMAGINE:
-        text.append(QLatin1Char('J'));
-        appendNumber(text, quint64(cell.immagine.sizeInBytes()));
-        return;
-    case CELL_VUOTA:
-        text.append(QLatin1Char(' '));
-        return;
-    }
-    qFatal("Cartella::checkForEqualBlocks() - CELL_VALUE type ERROR!");
+    constexpr unsigned notShort = shortNumbers + 1;
+    constexpr std::array<unsigned, 4> numberBits{~0U, 0, 0, 0}; // by type
+    constexpr std::array<unsigned, 4> offset{0, notShort, notShort, shortNumbers};
+    const auto type = static_cast<unsigned>(cell.tipo);
+    return type < offset.size() ? (cell.numero & numberBits[type]) + offset[type] : notShort;
 }
+
+// Puts a signature together: on the stack, unless its texts are long.
+class SignatureWriter final
+{
+public:
+    void writeRow(const Riga &row)
+    {
+        for (int c = 0; c < row.nCelle; ++c) {
+            writeCell(row.celle[c]);
+        }
+        makeRoom(1);
+        put('\n');
+    }
+
+    QString text() const { return QString(reinterpret_cast<const QChar *>(m_text.constData()), m_length); }
+
+private:
+    static constexpr int ordinaryLength = 1024;
+    static constexpr int mostDigits = 20; // of an unsigned 64-bit number
+
+    void writeCell(const Cella &cell)
+    {
+        makeRoom(mostDigits + 1);
+        const unsigned index = shortTextOf(cell);
+        if (index < shortTexts.size()) {
+            putShort(shortTexts[index]);
+        } else {
+            putLong(cell);
+        }
+    }
+
+    void putShort(const ShortText &text)
+    {
+        std::copy_n(text.characters.data(), text.characters.size(), m_text.data() + m_length);
+        m_length += text.length;
+    }
+
+    void putLong(const Cella &cell)
+    {
+        switch (cell.tipo) {
+        case CELL_NUMERO:
+            putNumber(cell.numero);
+            return;
+        case CELL_TESTO:
+            put('S');
+            putText(cell.testo);
+            return;
+        case CELL_IMMAGINE:
+            put('J');
+            putNumber(quint64(cell.immagine.sizeInBytes()));
+            return;
+        case CELL_VUOTA:
+            return; // is short
+        }
+        qFatal("Cartella::checkForEqualBlocks() - CELL_VALUE type ERROR!");
+    }
+
+    void makeRoom(int characters)
+    {
+        if (m_text.size() < m_length + characters) {
+            m_text.resize(2 * m_text.size() + characters);
+        }
+    }
+
+    void put(char character) { m_text[m_length++] = static_cast<ushort>(character); }
+
+    void putNumber(quint64 number)
+    {
+        const QByteArray digits = QByteArray::number(number);
+        std::copy(digits.begin(), digits.end(), m_text.data() + m_length);
+        m_length += digits.size();
+    }
+
+    void putText(const QString &text)
+    {
+        makeRoom(text.size());
+        std::copy_n(text.utf16(), text.size(), m_text.data() + m_length);
+        m_length += text.size();
+    }
+
+    QVarLengthArray<ushort, ordinaryLength> m_text = QVarLengthArray<ushort, ordinaryLength>(ordinaryLength);
+    int m_length = 0;
+};
 
 quint64 cellsOf(const Blocco &block)
 {
@@ -61,30 +144,44 @@ struct BlockPosition
     int block;
 };
 
-// The blocks entered so far, found again by their signature. Blocks must be entered page by page.
+// The blocks entered so far, found again by their signature in a table of places (open addressing). Blocks must be
+// entered page by page.
 class BlockIndex final
 {
 public:
+    explicit BlockIndex(const QVector<Pagina *> &pages)
+    {
+        size_t blocks = 0;
+        for (const Pagina *page : pages) {
+            blocks += page->nBlocchi;
+        }
+        m_blocks.reserve(blocks);
+        size_t places = 2;
+        while (places < 2 * blocks) {
+            places *= 2;
+        }
+        m_places.resize(places);
+    }
+
     // Enters a block; how many blocks of earlier pages have its signature.
-    quint64 enter(const QString &signature, BlockPosition position)
+    quint64 enter(QString signature, BlockPosition position)
     {
         const auto entered = static_cast<quint32>(m_blocks.size());
-        m_blocks.push_back({position, entered});
+        Place &place = placeOf(signature);
+        if (place.firstBlock == noBlock) {
+            place.firstBlock = entered;
+        }
+        m_blocks.push_back({std::move(signature), position, noBlock, entered, 0, 0});
+        m_firstEqual = place.firstBlock;
 
-        Equals &equals = m_equals[signature];
-        if (equals.count == 0) {
-            equals.first = entered;
-        } else {
-            m_blocks[equals.last].nextEqual = entered;
+        Entry &first = m_blocks[place.firstBlock];
+        if (m_blocks[first.lastEqual].position.page != position.page) {
+            first.onEarlierPages = first.equals;
         }
-        if (equals.page != position.page) {
-            equals.page = position.page;
-            equals.onEarlierPages = equals.count;
-        }
-        equals.last = entered;
-        ++equals.count;
-        m_firstEqual = equals.first;
-        return equals.onEarlierPages;
+        m_blocks[first.lastEqual].nextEqual = entered;
+        first.lastEqual = entered;
+        ++first.equals;
+        return first.onEarlierPages;
     }
 
     // Calls `take` with the position of each of the first `count` blocks that have the signature entered last.
@@ -98,23 +195,40 @@ public:
     }
 
 private:
+    static constexpr quint32 noBlock = std::numeric_limits<quint32>::max();
+
     struct Entry
     {
+        QString signature;
         BlockPosition position;
-        quint32 nextEqual; // itself when it is the last one
+        quint32 nextEqual;
+        // Only kept of the first block with a signature:
+        quint32 lastEqual;
+        quint32 equals;
+        quint32 onEarlierPages; // of the equals, than that of the last one
     };
-    // All blocks of one signature.
-    struct Equals
+    struct Place
     {
-        quint32 first = 0;
-        quint32 last = 0;
-        quint32 count = 0;
-        quint32 onEarlierPages = 0; // of those, than `page`
-        int page = -1;              // of the last one
+        uint hash = 0;
+        quint32 firstBlock = noBlock;
     };
 
+    // The place of the signature, or the free one to put it.
+    Place &placeOf(const QString &signature)
+    {
+        const uint hash = qHash(signature);
+        const size_t mask = m_places.size() - 1;
+        size_t at = hash & mask;
+        while (m_places[at].firstBlock != noBlock &&
+               (m_places[at].hash != hash || m_blocks[m_places[at].firstBlock].signature != signature)) {
+            at = (at + 1) & mask;
+        }
+        m_places[at].hash = hash;
+        return m_places[at];
+    }
+
     std::vector<Entry> m_blocks; // in the order entered
-    QHash<QString, Equals> m_equals;
+    std::vector<Place> m_places;
     quint32 m_firstEqual = 0;
 };
 
@@ -166,15 +280,11 @@ QString summaryOf(const EqualBlockCounters &counters)
 
 QString blockSignature(const Blocco &block)
 {
-    SignatureText text;
+    SignatureWriter writer;
     for (int r = 0; r < block.nRighe; ++r) {
-        const Riga &row = block.righe[r];
-        for (int c = 0; c < row.nCelle; ++c) {
-            appendCell(text, row.celle[c]);
-        }
-        text.append(QLatin1Char('\n'));
+        writer.writeRow(block.righe[r]);
     }
-    return QString(text.constData(), text.size());
+    return writer.text();
 }
 
 qint64 Cartella::checkForEqualBlocks(QVector<QString> *risultati, QString *sommario)
@@ -189,7 +299,7 @@ qint64 Cartella::checkForEqualBlocks(QVector<QString> *risultati, QString *somma
     const QString progress = tr("Confronto pagina %1 di %2");
     const QString pageCount = QString::number(pagine.size());
     const PairLines lines;
-    BlockIndex index;
+    BlockIndex index(pagine);
     EqualBlockCounters counters;
     for (int p = 0; p < pagine.size(); ++p) {
         emit checkForEqualBlocksStatus(progress.arg(QString::number(p + 1), pageCount));
@@ -217,7 +327,7 @@ QVector<QString> Cartella::equalBlockLines(qint64 most) const
 {
     QVector<QString> found;
     const PairLines lines;
-    BlockIndex index;
+    BlockIndex index(pagine);
     for (int p = 0; p < pagine.size() && found.size() < most; ++p) {
         const Pagina &page = *pagine[p];
         for (int b = 0; b < page.nBlocchi && found.size() < most; ++b) {
