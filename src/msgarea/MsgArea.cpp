@@ -1,2 +1,117 @@
 // SPDX-License-Identifier: MIT
 #include "msgarea/MsgArea.h"
+
+#include "resources/Resources.h"
+#include "settings/Config.h"
+#include "ui_MsgArea.h"
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+constexpr qint64 notWritten = -1;
+
+// Content of a Latin-1 file, empty when it cannot be read.
+QString readLatin1(QFile &file)
+{
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QString();
+    }
+    const QString text = QString::fromLatin1(file.readAll());
+    file.close();
+    return text;
+}
+
+// Bytes that reached the file.
+qint64 writeLatin1(QFile &file, const QString &text)
+{
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        return notWritten;
+    }
+    const qint64 written = file.write(text.toLatin1());
+    const bool flushed = file.flush();
+    file.close();
+    return flushed ? written : notWritten;
+}
+} // namespace
+
+MsgArea::MsgArea(QWidget *parent, bool fileMode)
+    : QMainWindow(parent, Qt::Window)
+    , ui(std::make_unique<Ui::MsgArea>())
+    , m_fileMode(fileMode)
+{
+    initQuintraResources();
+    ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    // The shortcuts of a hidden menu bar would be dead.
+    addActions({ui->actionSalva, ui->actionEsci});
+    ui->menubar->setVisible(fileMode);
+    connect(ui->textEdit, &QTextEdit::textChanged, this, &MsgArea::fileModified);
+}
+
+MsgArea::~MsgArea() = default;
+
+void MsgArea::setEditable(bool editable)
+{
+    ui->textEdit->setReadOnly(!editable);
+}
+
+void MsgArea::setText(const QString &textOrPath, bool plain)
+{
+    QString text = textOrPath;
+    if (m_fileMode) {
+        m_file = std::make_unique<QFile>(textOrPath);
+        text = readLatin1(*m_file);
+    }
+    if (plain) {
+        ui->textEdit->setPlainText(text);
+    } else {
+        ui->textEdit->setHtml(text);
+    }
+}
+
+void MsgArea::setLines(const QStringList &lines)
+{
+    // At once: appending one by one lays the whole text out again for every line.
+    ui->textEdit->setPlainText(lines.join(QLatin1Char('\n')));
+}
+
+void MsgArea::closeEvent(QCloseEvent *event)
+{
+    if (m_fileMode && m_modified &&
+        QMessageBox::question(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+}
+
+void MsgArea::on_actionSalva_triggered()
+{
+    if (m_fileMode && !m_modified) {
+        return;
+    }
+    if (!m_fileMode) {
+        const QString name =
+            QFileDialog::getSaveFileName(this, tr("Salva su file"), globalConfig->defaultSaveDir, QStringLiteral("*"));
+        if (name.isEmpty()) {
+            return;
+        }
+        m_file = std::make_unique<QFile>(name);
+    }
+    const QString text = ui->textEdit->toPlainText();
+    if (m_file && writeLatin1(*m_file, text) == text.size()) {
+        QMessageBox::information(this, tr("Salva"), tr("File salvato con successo."));
+        m_modified = false;
+    } else {
+        QMessageBox::warning(this, tr("Salva"), tr("Errore nel salvataggio del file!"));
+    }
+}
+
+void MsgArea::fileModified()
+{
+    m_modified = true;
+}

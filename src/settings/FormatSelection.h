@@ -18,6 +18,9 @@ public:
     explicit FormatSelection(QWidget *parent = nullptr);
     ~FormatSelection() override;
 
+    // Escape ends the dialog like its close button.
+    void reject() override;
+
 signals:
     // "OK" was pressed, or the dialog was closed.
     void done();
@@ -31,5 +34,10 @@ private slots:
     void on_lang_selection_currentIndexChanged(int index);
 
 private:
+    // Offers the languages of the translation files and chooses the configured one.
+    void fillLanguages();
+    // The texts in the language installed now.
+    void showTexts();
+
     std::unique_ptr<Ui::FormatSelection> ui;
 };

@@ -1,2 +1,69 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Options.h"
+
+#include "msgarea/MsgArea.h"
+#include "resources/Resources.h"
+#include "settings/Config.h"
+#include "settings/Product.h"
+#include "ui_Options.h"
+
+#include <QFile>
+#include <QMessageBox>
+
+Options::Options(QWidget *parent)
+    : QDialog(nullptr)
+    , ui(std::make_unique<Ui::Options>())
+    , m_window(parent)
+{
+    initQuintraResources();
+    ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(Product::titleFor(tr("Opzioni")));
+    show();
+}
+
+Options::~Options() = default;
+
+void Options::deleteConfig(bool exitAfter)
+{
+    QFile file(Config::filePath());
+    if (!file.remove()) {
+        QMessageBox::warning(this, Product::titleFor(tr("Opzioni")),
+                             tr("Problema durante la cancellazione del file:\n %1").arg(file.errorString()));
+        return;
+    }
+    QMessageBox::information(this, Product::titleFor(tr("Opzioni")),
+                             tr("File di configurazione eliminato correttamente."));
+    if (exitAfter && m_window) {
+        m_window->close();
+    }
+}
+
+bool Options::isRefused(const QString &question)
+{
+    return QMessageBox::question(this, Product::titleFor(tr("Opzioni")), question,
+                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::No;
+}
+
+void Options::on_butt_azzeraesci_clicked()
+{
+    if (!isRefused(tr("Proseguire con la cancellazionede del file di configurazione e l'uscita dal programma?"))) {
+        deleteConfig(true);
+    }
+}
+
+void Options::on_butt_azzeracontinua_clicked()
+{
+    if (!isRefused(tr("Proseguire con la cancellazionede del file di configurazione?"))) {
+        deleteConfig(false);
+    }
+}
+
+void Options::on_butt_formatselection_clicked()
+{
+    m_msgArea = new MsgArea(this, true);
+    m_msgArea->setEditable(true);
+    m_msgArea->setWindowModality(Qt::WindowModal);
+    m_msgArea->setText(Config::filePath(), true);
+    m_msgArea->show();
+}

@@ -31,6 +31,9 @@ private slots:
     void on_butt_formatselection_clicked();
 
 private:
+    // Asks with Yes and No; whether the answer was No.
+    bool isRefused(const QString &question);
+
     std::unique_ptr<Ui::Options> ui;
     QPointer<QWidget> m_window;
     QPointer<MsgArea> m_msgArea; // the last one opened

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generation/GUtils.h"
 
+#include "settings/Product.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
@@ -29,6 +31,6 @@ bool GUtils::loadTranslations(const QString &locale)
         loaded(QStringLiteral("qt_") + locale, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     QCoreApplication::installTranslator(m_toolkitTranslator.get());
     m_programTranslator =
-        loaded(QStringLiteral("Quintra_") + locale, QDir::currentPath() + QStringLiteral("/language/"));
+        loaded(Product::nameText() + delimiters + locale, QDir::currentPath() + QStringLiteral("/language/"));
     return QCoreApplication::installTranslator(m_programTranslator.get());
 }
