@@ -7,10 +7,12 @@
 #include "settings/Config.h"
 #include "settings/Product.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
 #include <QPrinter>
+
+#include <algorithm>
 
 namespace {
 constexpr int pdfFormatId = 0;
@@ -39,6 +41,15 @@ Sheet sheetOf(const QPrinter &printer, const Cartella &set)
             set.margineSuperiore,
             set.margineDestro,
             set.margineInferiore};
+}
+
+// The printer does not tell that its last bytes did not reach the file: a PDF file is whole when it has its end mark.
+bool isComplete(const QString &fileName)
+{
+    constexpr char endMark[] = "%%EOF";
+    QFile file(fileName);
+    const qint64 tail = std::min<qint64>(QFileInfo(fileName).size(), sizeof(endMark) + 1); // line ends included
+    return file.open(QIODevice::ReadOnly) && file.seek(file.size() - tail) && file.read(tail).contains(endMark);
 }
 } // namespace
 
@@ -75,16 +86,7 @@ int CreateOutputFile::printPdf(QString &report)
         return failure;
     }
     const PagePainter pages(&painter, documentLayout(sheetOf(printer, *cartella)));
-    const int count = cartella->getNumPages();
-    for (int p = 0; p < count; ++p) {
-        emit status(tr("PDF: Stampa pagina %1 di %2 (%3%) in corso...").arg(p + 1).arg(count).arg(p * 100 / count));
-        pages.paintPage(*cartella->pagine.at(p));
-        if (p < count - 1 && !printer.newPage()) {
-            report += tr("Impossibile continuare a scrivere sul file!");
-            return failure;
-        }
-    }
-    if (!painter.end()) {
+    if (!printPages(pages, printer) || !painter.end() || !isComplete(fileName)) {
         report += tr("Impossibile continuare a scrivere sul file!");
         return failure;
     }
@@ -94,12 +96,30 @@ int CreateOutputFile::printPdf(QString &report)
     return static_cast<int>(bytes);
 }
 
+bool CreateOutputFile::printPages(const PagePainter &painter, QPrinter &printer)
+{
+    const int count = cartella->getNumPages();
+    for (int p = 0; p < count; ++p) {
+        emit status(tr("PDF: Stampa pagina %1 di %2 (%3%) in corso...").arg(p + 1).arg(count).arg(p * 100 / count));
+        painter.paintPage(*cartella->pagine.at(p));
+        const bool last = p == count - 1;
+        if (!last && !printer.newPage()) {
+            return false;
+        }
+    }
+    return true;
+}
+
 QString CreateOutputFile::successReport(qint64 bytes) const
 {
     const QFileInfo file(fileName);
     return tr("File creato con successo!\n\nNome: %1\nPercorso: %2\n\nPagine: %3\nDimensione: %4 Bytes (%5 MB)\n"
               "----------------------------------------\n\nDimensioni pagina: %6")
         .arg(file.completeBaseName(), file.absolutePath(), QString::number(cartella->getNumPages()),
-             QString::number(bytes), QString::number(static_cast<double>(bytes) * megabytesPerByte, 'f', 2),
-             GUtils::paperFormatName(cartella->formato));
+             QString::number(bytes), megabytesText(bytes), GUtils::paperFormatName(cartella->formato));
+}
+
+QString megabytesText(qint64 bytes)
+{
+    return QString::number(static_cast<double>(bytes) * megabytesPerByte, 'f', 2);
 }

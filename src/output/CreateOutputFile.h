@@ -5,6 +5,8 @@
 #include <QString>
 
 class Cartella;
+class PagePainter;
+class QPrinter;
 
 // Prints a card set to a file, PDF being the one format. Tells progress through status() and appends its report, or
 // the reason of a failure, to the caller's text; it never shows anything.
@@ -28,5 +30,10 @@ signals:
     void status(const QString &text);
 
 private:
+    // False when the file cannot be written on.
+    bool printPages(const PagePainter &painter, QPrinter &printer);
     QString successReport(qint64 bytes) const;
 };
+
+// Megabytes of 1048576 bytes, with two decimals.
+[[nodiscard]] QString megabytesText(qint64 bytes);
