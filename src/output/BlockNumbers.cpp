@@ -12,11 +12,11 @@ constexpr qreal clearance = 1.0;
 std::optional<PlacedNumber> placed(const Cella &cell, const QRectF &rect, const QRectF &inside, NumberShapes &shapes)
 {
     const NumberShape &shape = shapes.shapeOf(cell.font, static_cast<int>(cell.numero));
-    const std::optional<QPointF> corner = shape.centredIn(rect);
-    if (shape.glyphs.isEmpty() || !corner || !inside.isValid() || !inside.contains(shape.ink.translated(*corner))) {
+    const QPointF corner = shape.centredIn(rect);
+    if (shape.glyphs.isEmpty() || !inside.isValid() || !inside.contains(shape.ink.translated(corner))) {
         return std::nullopt;
     }
-    return PlacedNumber{*corner, shape.glyphs, cell.coloreTesto};
+    return PlacedNumber{corner, shape.glyphs, cell.coloreTesto};
 }
 } // namespace
 

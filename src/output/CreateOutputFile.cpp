@@ -12,8 +12,6 @@
 #include <QPainter>
 #include <QPrinter>
 
-#include <algorithm>
-
 namespace {
 constexpr int pdfFormatId = 0;
 constexpr int noFormatId = -1;
@@ -47,9 +45,10 @@ Sheet sheetOf(const QPrinter &printer, const Cartella &set)
 bool isComplete(const QString &fileName)
 {
     constexpr char endMark[] = "%%EOF";
+    constexpr qint64 tail = sizeof(endMark) + 1; // line ends included
     QFile file(fileName);
-    const qint64 tail = std::min<qint64>(QFileInfo(fileName).size(), sizeof(endMark) + 1); // line ends included
-    return file.open(QIODevice::ReadOnly) && file.seek(file.size() - tail) && file.read(tail).contains(endMark);
+    return file.open(QIODevice::ReadOnly) && file.size() >= tail && file.seek(file.size() - tail) &&
+           file.read(tail).contains(endMark);
 }
 } // namespace
 

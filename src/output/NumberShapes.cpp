@@ -14,7 +14,7 @@ constexpr qreal unboundedWidth = 0x01000000;
 // Text positions are whole multiples of 1/64 pixel.
 constexpr int positionsPerPixel = 64;
 
-qreal roundedDown(qreal position)
+qreal towardsZero(qreal position)
 {
     return static_cast<qreal>(static_cast<int>(position * positionsPerPixel)) / positionsPerPixel;
 }
@@ -50,14 +50,11 @@ NumberShape shaped(int number, const QPainter &painter)
 }
 } // namespace
 
-std::optional<QPointF> NumberShape::centredIn(const QRectF &rect) const
+QPointF NumberShape::centredIn(const QRectF &rect) const
 {
-    const QPointF offset((rect.width() - size.width()) / 2, (rect.height() - size.height()) / 2);
-    const QRectF bounds(rect.topLeft() + offset, size);
-    if (!rect.contains(bounds)) {
-        return std::nullopt;
-    }
-    return QPointF(roundedDown(bounds.x()), roundedDown(bounds.y()));
+    const qreal x = rect.x() + (rect.width() - size.width()) / 2;
+    const qreal y = rect.y() + (rect.height() - size.height()) / 2;
+    return {towardsZero(x), towardsZero(y)};
 }
 
 NumberShapes::NumberShapes(QPainter *painter)

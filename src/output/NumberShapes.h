@@ -6,7 +6,6 @@
 #include <QHash>
 #include <QRectF>
 
-#include <optional>
 #include <vector>
 
 class QPainter;
@@ -19,8 +18,8 @@ struct NumberShape
     QRectF ink;  // what the glyphs cover
     QSizeF size; // what is centred
 
-    // Upper left corner of the text centred in `rect`; nothing when it does not fit, and would be clipped.
-    [[nodiscard]] std::optional<QPointF> centredIn(const QRectF &rect) const;
+    // Upper left corner of the text centred in `rect`.
+    [[nodiscard]] QPointF centredIn(const QRectF &rect) const;
 };
 
 // Shapes numbers once per font: shaping is most of the work of drawing a text. Fonts are told apart by their shared

@@ -10,6 +10,7 @@
 #include "support/ScratchFolder.h"
 
 #include <QApplication>
+#include <QPagedPaintDevice>
 #include <QPainter>
 #include <QtTest>
 
@@ -115,7 +116,7 @@ Set picturesOfAllKinds()
     return set;
 }
 
-Set raggedRows()
+Set raggedRows(int lineWidth)
 {
     Set set = std::make_shared<Cartella>(QVector<U8>{4}, QVector<U8>{3}, QVector<U8>{5});
     block(*set, 1) = Blocco(); // no rows
@@ -123,7 +124,7 @@ Set raggedRows()
     short1.celle = std::make_unique<Cella[]>(2);
     short1.nCelle = 2;
     block(*set, 2).righe[1] = Riga(); // no cells
-    block(*set, 2).spessoreLineaInterna = 9;
+    block(*set, 0).spessoreLineaInterna = lineWidth;
     quint32 number = 0;
     forEachCell(*set, [&](Cella &each) { setNumber(each, ++number); });
     return set;
@@ -159,7 +160,7 @@ private slots:
         });
         QTest::newRow("one cell with a background")
             << classicSet([](Cartella &set) { cell(set, 1, 4).coloreSfondo = QColor(255, 255, 0, 90); });
-        for (const int width : {0, 1, 2, 3, 7, 12, 30, 60}) {
+        for (const int width : {0, 1, 2, 3, 7, 12, 30, 60, 220}) {
             QTest::addRow("lines of width %d", width) << classicSet([width](Cartella &set) {
                 for (int b = 0; b < SampleSets::blocks; ++b) {
                     block(set, b).spessoreLineaInterna = width;
@@ -191,7 +192,8 @@ private slots:
         QTest::newRow("texts") << textsOfAllKinds();
         QTest::newRow("fonts") << fontsOfAllKinds();
         QTest::newRow("pictures") << picturesOfAllKinds();
-        QTest::newRow("ragged rows") << raggedRows();
+        QTest::newRow("ragged rows") << raggedRows(0);
+        QTest::newRow("ragged rows, thick lines") << raggedRows(140);
         QTest::newRow("narrow cells") << narrowCells();
         QTest::newRow("large numbers") << classicWithCells([](Cella &each) {
             each.numero += 4294967000U;
@@ -208,10 +210,9 @@ private slots:
     void fontsLeaveToTheApplicationWhatTheyDoNotSay()
     {
         const QFont before = QApplication::font();
-        QFont bold = before;
-        bold.setBold(true);
-        bold.setLetterSpacing(QFont::AbsoluteSpacing, 5);
-        QApplication::setFont(bold);
+        QFont spaced = before;
+        spaced.setLetterSpacing(QFont::AbsoluteSpacing, 5);
+        QApplication::setFont(spaced);
         compareWithReference(*classicSet());
         QApplication::setFont(before);
     }

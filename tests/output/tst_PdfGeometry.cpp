@@ -52,7 +52,7 @@ private slots:
         const PageLayout page = pageLayout(documentLayout(sheet()), 4, 1.5F);
         for (int b = 0; b < 4; ++b) {
             const BlockLayout block = blockLayout(page, b, 3);
-            QCOMPARE(block.rect(), QRectF(100, 300 + b * 1225, 1700, 1195));
+            QCOMPARE(block.rect(), QRectF(100, 300 + b * 1225, 1600, 1195));
         }
     }
 
