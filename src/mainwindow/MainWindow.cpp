@@ -16,6 +16,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QTableWidget>
 
 namespace {
@@ -36,6 +37,7 @@ MainWindow::MainWindow(QWidget *parent)
     setupPageView();
     setupColorDialog();
     setupPaperFormats();
+    setupSidePanes();
     connect(ui->statusBar, &QStatusBar::messageChanged, this, &MainWindow::setStatusBarStyle);
     setStatusBarStyle(); // the welcome was shown before
     showMaximized();
@@ -62,9 +64,8 @@ void MainWindow::setupPageView()
     ui->pagina_corrente_spinBox->setValue(0);
     m_currentFont = QFont(QStringLiteral("Arial"), startFontPoints);
 
-    m_table = new QTableWidget(ui->centralwidget);
-    m_table->setObjectName(QStringLiteral("tableWidget"));
-    ui->gridLayout->addWidget(m_table);
+    ui->gridLayout->addWidget(replaceTable());
+    resetSelectionPanels(0);
     ui->gridLayout->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
 }
 
@@ -79,6 +80,15 @@ void MainWindow::setupPaperFormats()
 {
     for (int format = 0; format < GUtils::selectablePaperFormats; ++format) {
         ui->pagina_formato->addItem(GUtils::paperFormatName(format), format);
+    }
+}
+
+// A side pane keeps the width of its content and of its scroll bar: only the table gives way.
+void MainWindow::setupSidePanes()
+{
+    for (QScrollArea *pane : {ui->parametriScrollArea, ui->stileScrollArea}) {
+        pane->setMinimumWidth(pane->widget()->minimumSizeHint().width() +
+                              pane->verticalScrollBar()->sizeHint().width());
     }
 }
 

@@ -112,6 +112,7 @@ private:
     void setupPageView();
     void setupColorDialog();
     void setupPaperFormats();
+    void setupSidePanes();
 
     // Parameters.
     void loadDefaultParameters();
