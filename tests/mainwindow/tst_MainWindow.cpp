@@ -1,0 +1,570 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/PageWindow.h"
+#include "msgarea/MsgArea.h"
+#include "settings/Options.h"
+#include "settings/Product.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QCursor>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusTipEvent>
+#include <QTextEdit>
+
+namespace {
+const QString boxTitle = QStringLiteral("Quintra - Cartella classica");
+const QString saveCaption = QStringLiteral("Salva le cartelle su file");
+const QString leaveQuestion = QStringLiteral("Sei sicuro di voler uscire?");
+
+QString styleOf(const PageWindow &page)
+{
+    return page.window->statusBar()->styleSheet();
+}
+
+QString shownText(const MsgArea &window)
+{
+    return window.findChild<QTextEdit *>()->toPlainText();
+}
+
+QAction *action(const PageWindow &page, const char *name)
+{
+    auto *found = page.window->findChild<QAction *>(QString::fromLatin1(name));
+    if (found == nullptr) {
+        qFatal("no action %s", name);
+    }
+    return found;
+}
+
+QList<Options *> openOptions()
+{
+    QList<Options *> open;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (auto *options = qobject_cast<Options *>(window)) {
+            open.append(options);
+        }
+    }
+    return open;
+}
+} // namespace
+
+class tst_MainWindow final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theWindowOpensMaximisedWithNameAndRelease();
+    void theWelcomeIsRedFromTheFirstMoment();
+    void theCardSetIsEmptyAtFirst();
+    void theCurrentFontTheTableAndThePickerAreReady();
+    void theMenusHoldTheirCommands_data();
+    void theMenusHoldTheirCommands();
+    void everyInputHasALabelOrTextAndAToolTip();
+    void theLastCharacterColoursTheStatus_data();
+    void theLastCharacterColoursTheStatus();
+    void aClearedStatusIsBlack();
+    void aMessageIsPaintedWhileTheEventLoopStands();
+    void menusDoNotReplaceAMessage();
+    void thePaperFormatsAreTheSelectableOnes();
+    void thePaperFormatIsWrittenIntoTheCardSet();
+    void aNewCardSetKeepsTheChosenPaperFormat();
+    void openSaveAndClearChangeNothing();
+    void theInformationNamesTheProgram();
+    void optionsAreANewDialogEveryTime();
+    void openOptionsGoWithTheWindow();
+    void refusingToLeaveKeepsEverything_data();
+    void refusingToLeaveKeepsEverything();
+    void leavingIsToldOnce();
+    void exitAsksToo();
+    void printingNeedsPages();
+    void printingNeedsPagesAlsoWhenAllWereDeleted();
+    void printingAsksForAFileInTheSaveFolder();
+    void printingIntoAMissingFolderIsCancelled();
+    void aPrintedSetIsReported();
+    void theSuffixIsAppendedToANameWithoutOne_data();
+    void theSuffixIsAppendedToANameWithoutOne();
+    void anUnknownSuffixIsAnError();
+    void aFileThatCannotBeWrittenIsAnError();
+    void printingShowsTheWaitCursor();
+};
+
+void tst_MainWindow::theWindowOpensMaximisedWithNameAndRelease()
+{
+    const PageWindow page;
+    QCOMPARE(page.window->windowTitle(), QStringLiteral("Quintra v0.704"));
+    QVERIFY(page.window->isMaximized());
+    QVERIFY(page.window->isVisible());
+    QVERIFY(!page.window->windowIcon().isNull());
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::theWelcomeIsRedFromTheFirstMoment()
+{
+    const PageWindow page;
+    QCOMPARE(page.status(), QStringLiteral("Welcome to Quintra 0.704!"));
+    QCOMPARE(styleOf(page), QStringLiteral("color: #FF0000"));
+}
+
+void tst_MainWindow::theCardSetIsEmptyAtFirst()
+{
+    const PageWindow page;
+    QCOMPARE(page.set()->getNumPages(), 0);
+    QCOMPARE(page.set()->formato, 0);
+    QCOMPARE(page.shown("pagine_lcdNumber"), 0);
+    QCOMPARE(page.pageNumber()->value(), 0);
+    QVERIFY(!page.enabled("buttSelezionaImmagine"));
+    QCOMPARE(page.table()->rowCount(), 0);
+}
+
+void tst_MainWindow::theCurrentFontTheTableAndThePickerAreReady()
+{
+    PageWindow page;
+    auto *layout = page.window->findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+    QCOMPARE(page.table()->parentWidget(), page.window->centralWidget());
+    QVERIFY(layout->indexOf(page.table()) >= 0);
+    QCOMPARE(layout->alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+    QVERIFY(page.table()->isVisible());
+
+    QVERIFY(page.picker() != nullptr);
+    QVERIFY(!page.picker()->isVisible());
+    QCOMPARE(page.picker()->windowModality(), Qt::ApplicationModal);
+
+    page.showPages(1, {1, 1, 1});
+    page.check("applica_tutte_celle");
+    QCOMPARE(page.text("font_info"), QStringLiteral("Arial 30"));
+    const QFont font = page.find<QLabel>("font_info")->font();
+    QCOMPARE(font.weight(), int(QFont::Normal));
+    QVERIFY(!font.italic());
+}
+
+void tst_MainWindow::theMenusHoldTheirCommands_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("actionClear") << QStringLiteral("Pulisci");
+    QTest::newRow("actionOpen") << QStringLiteral("Apri");
+    QTest::newRow("actionSave") << QStringLiteral("Salva");
+    QTest::newRow("actionCrea") << QStringLiteral("Nuova");
+    QTest::newRow("actionEsci") << QStringLiteral("Esci");
+    QTest::newRow("actionConfronta_blocchi") << QStringLiteral("Confronta blocchi");
+    QTest::newRow("actionOpzioni") << QStringLiteral("Opzioni");
+    QTest::newRow("actionInformazioni") << QStringLiteral("Informazioni");
+}
+
+void tst_MainWindow::theMenusHoldTheirCommands()
+{
+    QFETCH(QString, text);
+    const PageWindow page;
+    const QAction *command = action(page, QTest::currentDataTag());
+    QCOMPARE(command->text(), text);
+    QVERIFY(command->isEnabled());
+    int menus = 0;
+    for (const QAction *top : page.window->menuBar()->actions()) {
+        menus += top->menu()->actions().contains(const_cast<QAction *>(command)) ? 1 : 0;
+    }
+    QCOMPARE(menus, 1);
+}
+
+void tst_MainWindow::everyInputHasALabelOrTextAndAToolTip()
+{
+    const PageWindow page;
+    QList<QWidget *> labelled;
+    for (const QLabel *label : page.window->findChildren<QLabel *>()) {
+        labelled.append(label->buddy());
+    }
+    const QWidget *form = page.window->centralWidget();
+    int inputs = 0;
+    for (QWidget *input : form->findChildren<QWidget *>()) {
+        const auto *button = qobject_cast<QAbstractButton *>(input);
+        const bool box =
+            qobject_cast<QAbstractSpinBox *>(input) != nullptr || qobject_cast<QComboBox *>(input) != nullptr;
+        if (input->focusPolicy() == Qt::NoFocus || input->objectName().startsWith(QLatin1String("qt_")) ||
+            (button == nullptr && !box)) {
+            continue;
+        }
+        ++inputs;
+        QVERIFY2(!input->toolTip().isEmpty(), qPrintable(input->objectName()));
+        QVERIFY2(box ? labelled.contains(input) : !button->text().isEmpty(), qPrintable(input->objectName()));
+    }
+    QVERIFY(inputs > 25);
+}
+
+void tst_MainWindow::theLastCharacterColoursTheStatus_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("style");
+    const QString black = QStringLiteral("color: black");
+    QTest::newRow("error") << QStringLiteral("La cartella!") << QStringLiteral("color: #FF0000");
+    QTest::newRow("confirmation") << QStringLiteral("Fatto.") << QStringLiteral("color: #00FF00");
+    QTest::newRow("question") << QStringLiteral("Vuoi?") << QStringLiteral("color: #0000FF");
+    QTest::newRow("dots") << QStringLiteral("Sto creando...") << QStringLiteral("color: #00FF00");
+    QTest::newRow("letter") << QStringLiteral("generata") << black;
+    QTest::newRow("blank after the sign") << QStringLiteral("Errore! ") << black;
+    QTest::newRow("sign inside") << QStringLiteral("Come? Cosi") << black;
+    QTest::newRow("empty") << QString() << black;
+}
+
+void tst_MainWindow::theLastCharacterColoursTheStatus()
+{
+    QFETCH(QString, message);
+    QFETCH(QString, style);
+    const PageWindow page;
+    page.window->updateStatusBar(message);
+    QCOMPARE(page.status(), message);
+    QCOMPARE(styleOf(page), style);
+}
+
+void tst_MainWindow::aClearedStatusIsBlack()
+{
+    const PageWindow page;
+    page.window->updateStatusBar(QStringLiteral("Errore!"));
+    page.window->statusBar()->clearMessage();
+    QCOMPARE(styleOf(page), QStringLiteral("color: black"));
+}
+
+void tst_MainWindow::aMessageIsPaintedWhileTheEventLoopStands()
+{
+    const PageWindow page;
+    QVERIFY(QTest::qWaitForWindowExposed(page.window.get()));
+    class Paints final : public QObject
+    {
+    public:
+        int count = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    } paints;
+    page.window->statusBar()->installEventFilter(&paints);
+    page.window->updateStatusBar(QStringLiteral("uno"));
+    QVERIFY(paints.count >= 1);
+    const int before = paints.count;
+    page.window->updateStatusBar(QStringLiteral("due!"));
+    QVERIFY(paints.count > before);
+}
+
+void tst_MainWindow::menusDoNotReplaceAMessage()
+{
+    const PageWindow page;
+    page.window->updateStatusBar(QStringLiteral("Fatto."));
+    action(page, "actionCrea")->setStatusTip(QStringLiteral("Un suggerimento"));
+    action(page, "actionCrea")->hover();
+    QCOMPARE(page.status(), QStringLiteral("Fatto."));
+    for (const QString &tip : {QStringLiteral("Un suggerimento"), QString()}) {
+        QStatusTipEvent hovered(tip);
+        QApplication::sendEvent(page.window.get(), &hovered);
+        QCOMPARE(page.status(), QStringLiteral("Fatto."));
+    }
+}
+
+void tst_MainWindow::thePaperFormatsAreTheSelectableOnes()
+{
+    const PageWindow page;
+    const auto *formats = page.find<QComboBox>("pagina_formato");
+    QCOMPARE(formats->count(), 29);
+    QCOMPARE(formats->currentIndex(), 0);
+    QCOMPARE(formats->itemText(0), QStringLiteral("A4 (210x297mm)"));
+    QCOMPARE(formats->itemText(28), QStringLiteral("Ledger (432x279mm)"));
+    for (int i = 0; i < formats->count(); ++i) {
+        QCOMPARE(formats->itemData(i).toInt(), i);
+    }
+}
+
+void tst_MainWindow::thePaperFormatIsWrittenIntoTheCardSet()
+{
+    const PageWindow page;
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(8);
+    QCOMPARE(page.set()->formato, 8);
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(0);
+    QCOMPARE(page.set()->formato, 0);
+}
+
+void tst_MainWindow::aNewCardSetKeepsTheChosenPaperFormat()
+{
+    const PageWindow page;
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(8);
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 1);
+    QCOMPARE(page.set()->formato, 8);
+}
+
+void tst_MainWindow::openSaveAndClearChangeNothing()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const Cartella *set = page.set();
+    const Pagina *first = page.page(0);
+    page.window->updateStatusBar(QStringLiteral("Fatto."));
+    for (const char *name : {"actionOpen", "actionSave", "actionClear"}) {
+        action(page, name)->trigger();
+    }
+    QCOMPARE(page.set(), set);
+    QCOMPARE(page.page(0), first);
+    QCOMPARE(page.status(), QStringLiteral("Fatto."));
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::theInformationNamesTheProgram()
+{
+    const PageWindow page;
+    action(page, "actionInformazioni")->trigger();
+    QPointer<MsgArea> about = page.window->findChild<MsgArea *>();
+    QVERIFY(about != nullptr);
+    QVERIFY(about->isVisible());
+    QCOMPARE(about->windowModality(), Qt::WindowModal);
+    QCOMPARE(about->windowTitle(), QStringLiteral("Quintra - Informazioni"));
+    const QString text = shownText(*about);
+    QVERIFY2(text.contains(QStringLiteral("Quintra\n0.704\n")), qPrintable(text));
+    QVERIFY(text.contains(QStringLiteral("Generatore di cartelle per la Quintra.\nAdvanced Bingo cards generator.")));
+    QVERIFY(about->findChild<QTextEdit *>()->isReadOnly());
+    about->close();
+    QTRY_VERIFY(about.isNull()); // it does not gather behind the window
+}
+
+void tst_MainWindow::optionsAreANewDialogEveryTime()
+{
+    const PageWindow page;
+    action(page, "actionOpzioni")->trigger();
+    action(page, "actionOpzioni")->trigger();
+    const QList<Options *> open = openOptions();
+    QCOMPARE(open.size(), 2);
+    for (Options *options : open) {
+        QVERIFY(options->isVisible());
+        QVERIFY(options->parent() == nullptr);
+        options->reject();
+    }
+    QTRY_VERIFY(openOptions().isEmpty());
+}
+
+void tst_MainWindow::openOptionsGoWithTheWindow()
+{
+    PageWindow page;
+    action(page, "actionOpzioni")->trigger();
+    action(page, "actionOpzioni")->trigger();
+    action(page, "actionInformazioni")->trigger();
+    page.window.reset();
+    QVERIFY(openOptions().isEmpty());
+}
+
+void tst_MainWindow::refusingToLeaveKeepsEverything_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("No") << int(QMessageBox::No);
+    QTest::newRow("box closed") << int(QMessageBox::Escape);
+}
+
+void tst_MainWindow::refusingToLeaveKeepsEverything()
+{
+    QFETCH(int, answer);
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const Cartella *set = page.set();
+    const Pagina *first = page.page(0);
+    const QSignalSpy done(page.window.get(), &MainWindow::done);
+    page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, static_cast<QMessageBox::StandardButton>(answer),
+                         QMessageBox::Question);
+    QVERIFY(!page.window->close());
+    QVERIFY(page.window->isVisible());
+    QCOMPARE(done.count(), 0);
+    QCOMPARE(page.set(), set);
+    QCOMPARE(page.page(0), first);
+    QCOMPARE(page.set()->getNumPages(), 1);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::leavingIsToldOnce()
+{
+    PageWindow page;
+    const QSignalSpy done(page.window.get(), &MainWindow::done);
+    page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, QMessageBox::Yes, [](const QMessageBox *box) {
+        QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+    });
+    QVERIFY(page.window->close());
+    QVERIFY(!page.window->isVisible());
+    QCOMPARE(done.count(), 1);
+    QVERIFY(page.window->close());
+    QCOMPARE(done.count(), 1);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::exitAsksToo()
+{
+    PageWindow page;
+    page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, QMessageBox::No);
+    action(page, "actionEsci")->trigger();
+    QVERIFY(page.window->isVisible());
+    page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, QMessageBox::Yes);
+    action(page, "actionEsci")->trigger();
+    QVERIFY(!page.window->isVisible());
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::printingNeedsPages()
+{
+    PageWindow page;
+    page.boxes.expectBox(boxTitle, QStringLiteral("La cartella non contiene pagine!"), QMessageBox::Ok,
+                         QMessageBox::Warning);
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Aggiungere pagine alla cartella prima di proseguire."));
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::printingNeedsPagesAlsoWhenAllWereDeleted()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    page.press("pagina_elimina");
+    QCOMPARE(page.set()->getNumPages(), 0);
+    page.boxes.expectBox(boxTitle, QStringLiteral("La cartella non contiene pagine!"), QMessageBox::Ok,
+                         QMessageBox::Warning);
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Aggiungere pagine alla cartella prima di proseguire."));
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::printingAsksForAFileInTheSaveFolder()
+{
+    PageWindow page;
+    QVERIFY(QDir().mkdir(QStringLiteral("stampe")));
+    const QString folder = QDir::current().filePath(QStringLiteral("stampe"));
+    globalConfig->defaultSaveDir = folder;
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectFileDialog(saveCaption, QString(), [&](QWidget *dialog) {
+        const auto *chooser = qobject_cast<QFileDialog *>(dialog);
+        QCOMPARE(chooser->acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(chooser->directory().absolutePath(), folder);
+        QCOMPARE(chooser->nameFilters().value(0), QStringLiteral("PDF (*.pdf)"));
+    });
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Creazione file annullata!"));
+    QCOMPARE(globalConfig->defaultSaveDir, folder);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::printingIntoAMissingFolderIsCancelled()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QString before = globalConfig->defaultSaveDir;
+    const QString missing = QDir::current().filePath(QStringLiteral("manca"));
+    QVERIFY(QDir().mkdir(missing));
+    page.boxes.expectFileDialog(saveCaption, missing + QStringLiteral("/cartelle.pdf"), [&](QWidget *dialog) {
+        // The folder goes while the dialog is open.
+        qobject_cast<QFileDialog *>(dialog)->setDirectory(missing);
+        QVERIFY(QDir().rmdir(missing));
+    });
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Creazione file annullata!"));
+    QCOMPARE(globalConfig->defaultSaveDir, before);
+    QVERIFY(page.window->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::aPrintedSetIsReported()
+{
+    PageWindow page;
+    page.find<QSpinBox>("box_classica_numeropagine")->setValue(3);
+    page.press("butt_aggiungi_pagine");
+    QVERIFY(QDir().mkdir(QStringLiteral("stampe")));
+    const QString folder = QDir::current().filePath(QStringLiteral("stampe"));
+    const QString file = folder + QStringLiteral("/cartelle.pdf");
+    page.boxes.expectFileDialog(saveCaption, file);
+    const StatusLog log(page);
+    page.press("butt_stampa");
+
+    QVERIFY(QFileInfo(file).size() > 0);
+    QCOMPARE(globalConfig->defaultSaveDir, folder);
+    QCOMPARE(log.messages(), QStringList({QStringLiteral("PDF: Stampa pagina 1 di 3 (0%) in corso..."),
+                                          QStringLiteral("PDF: Stampa pagina 2 di 3 (33%) in corso..."),
+                                          QStringLiteral("PDF: Stampa pagina 3 di 3 (66%) in corso..."),
+                                          QStringLiteral("Stampa PDF completata!")}));
+    const auto *report = page.window->findChild<MsgArea *>();
+    QVERIFY(report != nullptr);
+    QVERIFY(report->isVisible());
+    QCOMPARE(report->windowModality(), Qt::WindowModal);
+    QVERIFY(report->findChild<QTextEdit *>()->isReadOnly());
+    QVERIFY2(shownText(*report).startsWith(QStringLiteral("File creato con successo!\n\nNome: cartelle\nPercorso: ") +
+                                           folder + QStringLiteral("\n\nPagine: 3\n")),
+             qPrintable(shownText(*report)));
+    QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::theSuffixIsAppendedToANameWithoutOne_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("bare name") << QStringLiteral("cartelle") << QStringLiteral("cartelle.pdf");
+    QTest::newRow("suffix given") << QStringLiteral("cartelle.PDF") << QStringLiteral("cartelle.PDF");
+    QTest::newRow("folder with a dot") << QStringLiteral("v1.0/cartelle") << QStringLiteral("v1.0/cartelle.pdf");
+}
+
+void tst_MainWindow::theSuffixIsAppendedToANameWithoutOne()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, written);
+    PageWindow page;
+    QVERIFY(QDir().mkdir(QStringLiteral("v1.0")));
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectFileDialog(saveCaption, QDir::current().filePath(chosen));
+    page.press("butt_stampa");
+    QVERIFY(QFileInfo(written).size() > 0);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::anUnknownSuffixIsAnError()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QString file = QDir::current().filePath(QStringLiteral("cartelle.txt"));
+    page.boxes.expectFileDialog(saveCaption, file);
+    page.boxes.expectBox(boxTitle, QStringLiteral("Errore nella creazione del file:\n") + file, QMessageBox::Ok,
+                         [&](const QMessageBox *box) {
+                             QCOMPARE(box->icon(), QMessageBox::Warning);
+                             QCOMPARE(box->informativeText(), QStringLiteral("Formato file sconosciuto!"));
+                             QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+                         });
+    page.press("butt_stampa");
+    QVERIFY(!QFileInfo::exists(file));
+    QVERIFY(page.window->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::aFileThatCannotBeWrittenIsAnError()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    // A dangling link into a missing folder: its own folder exists, and not even root can write it.
+    const QString file = QDir::current().filePath(QStringLiteral("cartelle.pdf"));
+    QVERIFY(QFile::link(QStringLiteral("/nonexistent/cartelle.pdf"), file));
+    page.boxes.expectFileDialog(saveCaption, file);
+    page.boxes.expectBox(boxTitle, QStringLiteral("Errore nella creazione del file:\n") + file, QMessageBox::Ok,
+                         [&](const QMessageBox *box) {
+                             QCOMPARE(box->icon(), QMessageBox::Warning);
+                             QCOMPARE(box->informativeText(), QStringLiteral("Impossibile scrivere sul file!"));
+                             QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+                         });
+    page.press("butt_stampa");
+    QVERIFY(page.window->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::printingShowsTheWaitCursor()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectFileDialog(saveCaption, QDir::current().filePath(QStringLiteral("cartelle.pdf")));
+    QList<Qt::CursorShape> cursors;
+    connect(page.window->statusBar(), &QStatusBar::messageChanged,
+            [&]() { cursors.append(page.window->cursor().shape()); });
+    page.press("butt_stampa");
+    QCOMPARE(cursors, QList<Qt::CursorShape>({Qt::WaitCursor, Qt::WaitCursor}));
+    QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"
