@@ -6,6 +6,9 @@
 #include <QLocale>
 #include <QSettings>
 #include <QStringList>
+#include <QTemporaryFile>
+
+#include <memory>
 
 Config *globalConfig = nullptr;
 
@@ -40,12 +43,65 @@ QString fallbackCellImage()
     return QDir::currentPath() + QStringLiteral("/default.png");
 }
 
-// A text with commas that was typed by hand, without quotes, is read as a list: its pieces make the text again.
-QString readText(const QSettings &file, const QString &key, const QString &fallback)
+bool isTextKey(const QByteArray &key)
 {
-    const QVariant value = file.value(key, fallback);
-    return value.type() == QVariant::StringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString();
+    return key == keyCellText.toLatin1() || key == keyCellImage.toLatin1() || key == keySaveDir.toLatin1();
 }
+
+bool endsInLoneBackslash(const QByteArray &text)
+{
+    int count = 0;
+    while (count < text.size() && text.at(text.size() - 1 - count) == '\\') {
+        ++count;
+    }
+    return count % 2 == 1;
+}
+
+// What an INI reader understands of a text typed by hand without the quotes that commas and semicolons need: it would
+// be read as a list, or end at the semicolon. A backslash at its end would swallow the next line.
+QByteArray mended(const QByteArray &line)
+{
+    const int equals = line.indexOf('=');
+    if (equals < 0 || !isTextKey(line.left(equals).trimmed())) {
+        return line;
+    }
+    QByteArray text = line.mid(equals + 1).trimmed();
+    if (endsInLoneBackslash(text)) {
+        text += '\\';
+    }
+    if ((text.contains(',') || text.contains(';')) && !text.contains('"')) {
+        text = '"' + text + '"';
+    }
+    return line.left(equals) + '=' + text;
+}
+
+// The values of the file. They are read from a copy: QSettings keeps what it has read of a file for as long as size and
+// time stamp look the same, and so would miss a change made at once after a reading.
+class Values final
+{
+public:
+    explicit Values(const QString &path)
+    {
+        QFile file(path);
+        if (m_copy.open() && file.open(QIODevice::ReadOnly)) {
+            while (!file.atEnd()) {
+                m_copy.write(mended(file.readLine().trimmed()) + '\n');
+            }
+            m_copy.close();
+        }
+        m_settings = std::make_unique<QSettings>(m_copy.fileName(), QSettings::IniFormat);
+    }
+    // 0 for a text that is no integer of 32 bits, which the conversion of the variant itself would cut.
+    int number(const QString &key, int fallback) const { return m_settings->value(key, fallback).toString().toInt(); }
+    QString text(const QString &key, const QString &fallback) const
+    {
+        return m_settings->value(key, fallback).toString();
+    }
+
+private:
+    QTemporaryFile m_copy;
+    std::unique_ptr<QSettings> m_settings;
+};
 
 // The section line and the key lines, without the comments; empty when the file cannot be read.
 QList<QByteArray> linesWithoutComments(const QString &path)
@@ -88,20 +144,20 @@ bool Config::load()
     if (!QFile::exists(filePath())) {
         return false;
     }
-    const QSettings file(filePath(), QSettings::IniFormat);
-    nMin = file.value(keyNMin, defaultNMin).toInt();
-    nMax = file.value(keyNMax, defaultNMax).toInt();
-    classicNBlocks = file.value(keyNBlocks, defaultNBlocks).toInt();
-    classicNRowxBlock = file.value(keyNRowxBlock, defaultNRowxBlock).toInt();
-    classicNDrawnxRow = file.value(keyNDrawnxRow, defaultNDrawnxRow).toInt();
-    classicNCols = file.value(keyNCols, defaultNCols).toInt();
-    classicNJollyxRow = file.value(keyNJollyxRow, defaultNJollyxRow).toInt();
-    defaultCellText = readText(file, keyCellText, fallbackCellText());
-    defaultCellImage = readText(file, keyCellImage, fallbackCellImage());
-    defaultSaveDir = readText(file, keySaveDir, QDir::currentPath());
+    const Values file(filePath());
+    nMin = file.number(keyNMin, defaultNMin);
+    nMax = file.number(keyNMax, defaultNMax);
+    classicNBlocks = file.number(keyNBlocks, defaultNBlocks);
+    classicNRowxBlock = file.number(keyNRowxBlock, defaultNRowxBlock);
+    classicNDrawnxRow = file.number(keyNDrawnxRow, defaultNDrawnxRow);
+    classicNCols = file.number(keyNCols, defaultNCols);
+    classicNJollyxRow = file.number(keyNJollyxRow, defaultNJollyxRow);
+    defaultCellText = file.text(keyCellText, fallbackCellText());
+    defaultCellImage = file.text(keyCellImage, fallbackCellImage());
+    defaultSaveDir = file.text(keySaveDir, QDir::currentPath());
     // The language just chosen in the first-start dialog outlives the reload on "OK".
     if (!firstStart) {
-        language = readText(file, keyLanguage, QLocale::system().name());
+        language = file.text(keyLanguage, QLocale::system().name());
     }
     return true;
 }
