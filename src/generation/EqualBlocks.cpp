@@ -2,133 +2,12 @@
 #include "generation/BlockSignature.h"
 #include "model/Cartella.h"
 
-#include <QVarLengthArray>
-
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <utility>
 #include <vector>
 
 namespace {
-// The text of a number below 100 or of an empty cell.
-struct ShortText
-{
-    std::array<ushort, 2> characters;
-    int length;
-};
-
-constexpr unsigned shortNumbers = 100;
-
-// The texts of the short numbers, then that of an empty cell.
-constexpr std::array<ShortText, shortNumbers + 1> makeShortTexts()
-{
-    std::array<ShortText, shortNumbers + 1> texts{};
-    for (unsigned number = 0; number < shortNumbers; ++number) {
-        const auto ones = static_cast<ushort>('0' + number % 10);
-        const auto tens = static_cast<ushort>('0' + number / 10);
-        texts[number] = number < 10 ? ShortText{{ones, 0}, 1} : ShortText{{tens, ones}, 2};
-    }
-    texts[shortNumbers] = {{' ', 0}, 1};
-    return texts;
-}
-
-constexpr std::array<ShortText, shortNumbers + 1> shortTexts = makeShortTexts();
-
-// Index of the cell's text in shortTexts, or one beyond it. Numbers and empty cells come mixed in a way that no
-// processor can predict, and this is most of the check: hence tables instead of branches.
-unsigned shortTextOf(const Cella &cell)
-{
-    constexpr unsigned notShort = shortNumbers + 1;
-    constexpr std::array<unsigned, 4> numberBits{~0U, 0, 0, 0}; // by type
-    constexpr std::array<unsigned, 4> offset{0, notShort, notShort, shortNumbers};
-    const auto type = static_cast<unsigned>(cell.tipo);
-    return type < offset.size() ? (cell.numero & numberBits[type]) + offset[type] : notShort;
-}
-
-// Puts a signature together: on the stack, unless its texts are long.
-class SignatureWriter final
-{
-public:
-    void writeRow(const Riga &row)
-    {
-        for (int c = 0; c < row.nCelle; ++c) {
-            writeCell(row.celle[c]);
-        }
-        makeRoom(1);
-        put('\n');
-    }
-
-    QString text() const { return QString(reinterpret_cast<const QChar *>(m_text.constData()), m_length); }
-
-private:
-    static constexpr int ordinaryLength = 1024;
-    static constexpr int mostDigits = 20; // of an unsigned 64-bit number
-
-    void writeCell(const Cella &cell)
-    {
-        makeRoom(mostDigits + 1);
-        const unsigned index = shortTextOf(cell);
-        if (index < shortTexts.size()) {
-            putShort(shortTexts[index]);
-        } else {
-            putLong(cell);
-        }
-    }
-
-    void putShort(const ShortText &text)
-    {
-        std::copy_n(text.characters.data(), text.characters.size(), m_text.data() + m_length);
-        m_length += text.length;
-    }
-
-    void putLong(const Cella &cell)
-    {
-        switch (cell.tipo) {
-        case CELL_NUMERO:
-            putNumber(cell.numero);
-            return;
-        case CELL_TESTO:
-            put('S');
-            putText(cell.testo);
-            return;
-        case CELL_IMMAGINE:
-            put('J');
-            putNumber(quint64(cell.immagine.sizeInBytes()));
-            return;
-        case CELL_VUOTA:
-            return; // is short
-        }
-        qFatal("Cartella::checkForEqualBlocks() - CELL_VALUE type ERROR!");
-    }
-
-    void makeRoom(int characters)
-    {
-        if (m_text.size() < m_length + characters) {
-            m_text.resize(2 * m_text.size() + characters);
-        }
-    }
-
-    void put(char character) { m_text[m_length++] = static_cast<ushort>(character); }
-
-    void putNumber(quint64 number)
-    {
-        const QByteArray digits = QByteArray::number(number);
-        std::copy(digits.begin(), digits.end(), m_text.data() + m_length);
-        m_length += digits.size();
-    }
-
-    void putText(const QString &text)
-    {
-        makeRoom(text.size());
-        std::copy_n(text.utf16(), text.size(), m_text.data() + m_length);
-        m_length += text.size();
-    }
-
-    QVarLengthArray<ushort, ordinaryLength> m_text = QVarLengthArray<ushort, ordinaryLength>(ordinaryLength);
-    int m_length = 0;
-};
-
 quint64 cellsOf(const Blocco &block)
 {
     quint64 cells = 0;
@@ -277,15 +156,6 @@ QString summaryOf(const EqualBlockCounters &counters)
         .arg(QString::number(static_cast<double>(percentage), 'f', 2));
 }
 } // namespace
-
-QString blockSignature(const Blocco &block)
-{
-    SignatureWriter writer;
-    for (int r = 0; r < block.nRighe; ++r) {
-        writer.writeRow(block.righe[r]);
-    }
-    return writer.text();
-}
 
 qint64 Cartella::checkForEqualBlocks(QVector<QString> *risultati, QString *sommario)
 {
