@@ -1,0 +1,514 @@
+// SPDX-License-Identifier: MIT
+#include "msgarea/MsgArea.h"
+#include "settings/Config.h"
+#include "support/BoxScript.h"
+#include "support/ScratchFolder.h"
+
+#include <QAction>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QtTest>
+
+namespace {
+const QString unsavedTitle = QStringLiteral("Testo modificato");
+const QString unsavedText = QStringLiteral("Vuoi uscire senza salvare?");
+const QString saveTitle = QStringLiteral("Salva");
+const QString savedText = QStringLiteral("File salvato con successo.");
+const QString failedText = QStringLiteral("Errore nel salvataggio del file!");
+const QString saveDialog = QStringLiteral("Salva su file");
+
+// A window on the heap, which deletes itself when it closes.
+class Shown final
+{
+public:
+    explicit Shown(bool fileMode)
+        : window(new MsgArea(nullptr, fileMode))
+    {
+        window->show();
+        QApplication::setActiveWindow(window);
+    }
+    ~Shown() { delete window; }
+    Q_DISABLE_COPY_MOVE(Shown)
+
+    QTextEdit *edit() const { return window->findChild<QTextEdit *>(QStringLiteral("textEdit")); }
+    QAction *action(const char *name) const { return window->findChild<QAction *>(QString::fromLatin1(name)); }
+    void type(const QString &text) const { QTest::keyClicks(edit(), text); }
+    void save() const { action("actionSalva")->trigger(); }
+    bool isClosed() const
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return window.isNull();
+    }
+
+    QPointer<MsgArea> window;
+};
+} // namespace
+
+class tst_MsgArea final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void theFormHasItsTexts();
+    void theMenuBarIsHiddenForMessages();
+    void aClosedWindowIsDeleted();
+    void escisClosesTheWindow();
+    void editingCanBeSwitchedOff();
+
+    void aMessageIsShownPlainOrAsHtml();
+    void aFileIsShownPlainOrAsHtml();
+    void aFileIsReadAsLatin1();
+    void aFileThatCannotBeReadShowsNothing_data();
+    void aFileThatCannotBeReadShowsNothing();
+    void everyLineIsAParagraph_data();
+    void everyLineIsAParagraph();
+    void linesReplaceTheText();
+    void aHundredThousandLinesAreQuick();
+
+    void aMessageNeverAsksOnClose();
+    void theFirstCloseAfterLoadingAsks();
+    void aRefusedCloseKeepsTheWindow_data();
+    void aRefusedCloseKeepsTheWindow();
+    void theCloseAfterSavingDoesNotAsk();
+    void editingAfterSavingAsksAgain();
+
+    void savingAFileWritesLatin1();
+    void charactersOutsideLatin1AreSavedAsQuestionMarks();
+    void savingAShorterTextTruncatesTheFile();
+    void savingAnUnchangedFileDoesNothing();
+    void everySaveOfAMessageAsksForAName();
+    void theSaveDialogStartsInTheSaveFolder();
+    void aCancelledNameSavesNothing();
+    void shortcutsWork_data();
+    void shortcutsWork();
+    void aFileThatCannotBeWrittenIsReported();
+    void aMessageThatCannotBeWrittenIsReported();
+    void anEmptyTextThatCannotBeWrittenIsReported();
+    void aFullDeviceIsReported();
+    void aWindowWithoutAFileReportsTheSave();
+
+private:
+    std::unique_ptr<ScratchFolder> m_folder;
+    std::unique_ptr<Config> m_config;
+};
+
+void tst_MsgArea::init()
+{
+    m_folder = std::make_unique<ScratchFolder>();
+    m_config = std::make_unique<Config>(nullptr);
+    globalConfig = m_config.get();
+}
+
+void tst_MsgArea::cleanup()
+{
+    globalConfig = nullptr;
+    m_config.reset();
+    m_folder.reset();
+}
+
+void tst_MsgArea::theFormHasItsTexts()
+{
+    const Shown area(true);
+    QCOMPARE(area.window->windowTitle(), QStringLiteral("Area messaggi"));
+    QCOMPARE(area.action("actionSalva")->text(), QStringLiteral("Salva"));
+    QCOMPARE(area.action("actionSalva")->shortcut(), QKeySequence(QStringLiteral("Ctrl+S")));
+    QCOMPARE(area.action("actionEsci")->text(), QStringLiteral("Esci"));
+    QCOMPARE(area.action("actionEsci")->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+    const auto menus = area.window->menuBar()->findChildren<QMenu *>();
+    QCOMPARE(menus.size(), 1);
+    QCOMPARE(menus.first()->title(), QStringLiteral("File"));
+    QVERIFY(menus.first()->actions().contains(area.action("actionSalva")));
+    QVERIFY(menus.first()->actions().contains(area.action("actionEsci")));
+    QVERIFY(area.window->centralWidget()->isAncestorOf(area.edit()));
+    QVERIFY(!area.window->windowIcon().isNull());
+}
+
+void tst_MsgArea::theMenuBarIsHiddenForMessages()
+{
+    const Shown message(false);
+    const Shown file(true);
+    QVERIFY(!message.window->menuBar()->isVisible());
+    QVERIFY(file.window->menuBar()->isVisible());
+}
+
+void tst_MsgArea::aClosedWindowIsDeleted()
+{
+    const Shown area(false);
+    area.window->close();
+    QVERIFY(area.isClosed());
+}
+
+void tst_MsgArea::escisClosesTheWindow()
+{
+    const Shown area(true);
+    area.action("actionEsci")->trigger();
+    QVERIFY(area.isClosed());
+}
+
+void tst_MsgArea::editingCanBeSwitchedOff()
+{
+    const Shown area(false);
+    area.window->setEditable(false);
+    QVERIFY(area.edit()->isReadOnly());
+    area.window->setEditable(true);
+    QVERIFY(!area.edit()->isReadOnly());
+}
+
+void tst_MsgArea::aMessageIsShownPlainOrAsHtml()
+{
+    const Shown area(false);
+    area.window->setText(QStringLiteral("<b>x</b>"), true);
+    QCOMPARE(area.edit()->toPlainText(), QStringLiteral("<b>x</b>"));
+    area.window->setText(QStringLiteral("<b>x</b>"), false);
+    QCOMPARE(area.edit()->toPlainText(), QStringLiteral("x"));
+}
+
+void tst_MsgArea::aFileIsShownPlainOrAsHtml()
+{
+    m_folder->write(QStringLiteral("a.txt"), "<i>uno</i>\ndue\n");
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    QCOMPARE(area.edit()->toPlainText(), QStringLiteral("<i>uno</i>\ndue\n"));
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), false);
+    QCOMPARE(area.edit()->toPlainText().trimmed(), QStringLiteral("uno due"));
+}
+
+void tst_MsgArea::aFileIsReadAsLatin1()
+{
+    m_folder->write(QStringLiteral("a.txt"), "caff\xe8 \xc3\xa8");
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    QCOMPARE(area.edit()->toPlainText(), QStringLiteral("caffè Ã¨"));
+}
+
+void tst_MsgArea::aFileThatCannotBeReadShowsNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("missing") << QStringLiteral("missing.txt");
+    QTest::newRow("a folder") << QStringLiteral(".");
+}
+
+void tst_MsgArea::aFileThatCannotBeReadShowsNothing()
+{
+    QFETCH(QString, name);
+    const Shown area(true);
+    area.edit()->setPlainText(QStringLiteral("before"));
+    area.window->setText(m_folder->path(name), true);
+    QCOMPARE(area.edit()->toPlainText(), QString());
+}
+
+void tst_MsgArea::everyLineIsAParagraph_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    QTest::newRow("several") << QStringList{QStringLiteral("uno"), QStringLiteral("due"), QStringLiteral("tre")};
+    QTest::newRow("one") << QStringList{QStringLiteral("uno")};
+    QTest::newRow("with an empty one") << QStringList{QStringLiteral("uno"), QString(), QStringLiteral("tre")};
+    QTest::newRow("with signs of HTML") << QStringList{QStringLiteral("1 < 2 &amp; 3"), QStringLiteral("4 > 3")};
+}
+
+void tst_MsgArea::everyLineIsAParagraph()
+{
+    QFETCH(QStringList, lines);
+    const Shown area(false);
+    area.window->setLines(lines);
+    QStringList paragraphs;
+    for (QTextBlock block = area.edit()->document()->begin(); block.isValid(); block = block.next()) {
+        paragraphs.append(block.text());
+    }
+    QCOMPARE(paragraphs, lines);
+}
+
+void tst_MsgArea::linesReplaceTheText()
+{
+    const Shown area(false);
+    area.window->setText(QStringLiteral("before"), true);
+    area.window->setLines({QStringLiteral("uno")});
+    QCOMPARE(area.edit()->toPlainText(), QStringLiteral("uno"));
+    area.window->setLines({});
+    QCOMPARE(area.edit()->toPlainText(), QString());
+}
+
+void tst_MsgArea::aHundredThousandLinesAreQuick()
+{
+    QStringList lines;
+    for (int i = 0; i < 100000; ++i) {
+        lines.append(QStringLiteral("Pag %1 blocco 1 = Pag 1 blocco 1").arg(i));
+    }
+    const Shown area(false);
+    QElapsedTimer timer;
+    timer.start();
+    area.window->setLines(lines);
+    QCoreApplication::processEvents();
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed()))); // ten times what it takes here
+    QCOMPARE(area.edit()->document()->blockCount(), 100000);
+}
+
+void tst_MsgArea::aMessageNeverAsksOnClose()
+{
+    BoxScript boxes;
+    const Shown area(false);
+    area.window->setText(QStringLiteral("text"), true);
+    area.type(QStringLiteral("more"));
+    area.window->close();
+    QVERIFY(area.isClosed());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::theFirstCloseAfterLoadingAsks()
+{
+    m_folder->write(QStringLiteral("a.txt"), "text");
+    BoxScript boxes;
+    boxes.expectBox(unsavedTitle, unsavedText, QMessageBox::Yes, [](QMessageBox *box) {
+        QCOMPARE(box->icon(), QMessageBox::Question);
+        QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+    });
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.window->close();
+    QVERIFY(area.isClosed());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::aRefusedCloseKeepsTheWindow_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("no") << static_cast<int>(QMessageBox::No);
+    QTest::newRow("box closed") << static_cast<int>(QMessageBox::Escape);
+}
+
+void tst_MsgArea::aRefusedCloseKeepsTheWindow()
+{
+    QFETCH(int, answer);
+    m_folder->write(QStringLiteral("a.txt"), "text");
+    BoxScript boxes;
+    boxes.expectBox(unsavedTitle, unsavedText, static_cast<QMessageBox::StandardButton>(answer));
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.window->close();
+    QVERIFY(!area.isClosed());
+    QVERIFY(area.window->isVisible());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::theCloseAfterSavingDoesNotAsk()
+{
+    m_folder->write(QStringLiteral("a.txt"), "text");
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok, QMessageBox::Information);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.save();
+    area.window->close();
+    QVERIFY(area.isClosed());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::editingAfterSavingAsksAgain()
+{
+    m_folder->write(QStringLiteral("a.txt"), "text");
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok);
+    boxes.expectBox(unsavedTitle, unsavedText, QMessageBox::Yes);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.save();
+    area.type(QStringLiteral("x"));
+    area.window->close();
+    QVERIFY(area.isClosed());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::savingAFileWritesLatin1()
+{
+    m_folder->write(QStringLiteral("a.txt"), "due\n");
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok, QMessageBox::Information);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.edit()->insertPlainText(QStringLiteral("perché "));
+    area.save();
+    QCOMPARE(m_folder->read(QStringLiteral("a.txt")), QByteArray("perch\xe9 due\n"));
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::charactersOutsideLatin1AreSavedAsQuestionMarks()
+{
+    BoxScript boxes;
+    boxes.expectFileDialog(saveDialog, m_folder->path(QStringLiteral("b.txt")));
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok, QMessageBox::Information);
+    const Shown area(false);
+    area.window->setText(QStringLiteral("10 € Ω è"), true);
+    area.save();
+    QCOMPARE(m_folder->read(QStringLiteral("b.txt")), QByteArray("10 ? ? \xe8"));
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::savingAShorterTextTruncatesTheFile()
+{
+    m_folder->write(QStringLiteral("a.txt"), "a long text");
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.edit()->setPlainText(QStringLiteral("short"));
+    area.save();
+    QCOMPARE(m_folder->read(QStringLiteral("a.txt")), QByteArray("short"));
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::savingAnUnchangedFileDoesNothing()
+{
+    m_folder->write(QStringLiteral("a.txt"), "text");
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.save();
+    m_folder->write(QStringLiteral("a.txt"), "by another");
+    area.save();
+    QCOMPARE(m_folder->read(QStringLiteral("a.txt")), QByteArray("by another"));
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::everySaveOfAMessageAsksForAName()
+{
+    BoxScript boxes;
+    for (const char *name : {"a.txt", "b.txt"}) {
+        boxes.expectFileDialog(saveDialog, m_folder->path(QString::fromLatin1(name)));
+        boxes.expectBox(saveTitle, savedText, QMessageBox::Ok);
+    }
+    const Shown area(false);
+    area.window->setText(QStringLiteral("text"), true);
+    area.save();
+    area.save();
+    QCOMPARE(m_folder->read(QStringLiteral("a.txt")), QByteArray("text"));
+    QCOMPARE(m_folder->read(QStringLiteral("b.txt")), QByteArray("text"));
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::theSaveDialogStartsInTheSaveFolder()
+{
+    QVERIFY(QDir().mkdir(m_folder->path(QStringLiteral("cards"))));
+    globalConfig->defaultSaveDir = m_folder->path(QStringLiteral("cards"));
+    BoxScript boxes;
+    boxes.expectFileDialog(saveDialog, QString(), [this](QWidget *dialog) {
+        auto *chooser = qobject_cast<QFileDialog *>(dialog);
+        QCOMPARE(chooser->directory().canonicalPath(), QDir(m_folder->path(QStringLiteral("cards"))).canonicalPath());
+        QCOMPARE(chooser->nameFilters(), QStringList(QStringLiteral("*")));
+        QCOMPARE(chooser->acceptMode(), QFileDialog::AcceptSave);
+    });
+    const Shown area(false);
+    area.save();
+    QCOMPARE(boxes.problems(), QStringList());
+    QCOMPARE(globalConfig->defaultSaveDir, m_folder->path(QStringLiteral("cards")));
+}
+
+void tst_MsgArea::aCancelledNameSavesNothing()
+{
+    BoxScript boxes;
+    boxes.expectFileDialog(saveDialog, QString());
+    const Shown area(false);
+    area.window->setText(QStringLiteral("text"), true);
+    area.save();
+    QCOMPARE(QDir(m_folder->path(QString())).entryList(QDir::Files), QStringList(QStringLiteral("config.ini")));
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::shortcutsWork_data()
+{
+    QTest::addColumn<bool>("fileMode");
+    QTest::newRow("message") << false;
+    QTest::newRow("file") << true;
+}
+
+void tst_MsgArea::shortcutsWork()
+{
+    QFETCH(bool, fileMode);
+    m_folder->write(QStringLiteral("a.txt"), "before");
+    BoxScript boxes;
+    if (!fileMode) {
+        boxes.expectFileDialog(saveDialog, m_folder->path(QStringLiteral("a.txt")));
+    }
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok);
+    const Shown area(fileMode);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.edit()->setPlainText(QStringLiteral("after"));
+    QVERIFY(QTest::qWaitForWindowActive(area.window));
+    QTest::keyClick(area.edit(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m_folder->read(QStringLiteral("a.txt")), QByteArray("after"));
+    QTest::keyClick(area.edit(), Qt::Key_Q, Qt::ControlModifier);
+    QVERIFY(area.isClosed());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::aFileThatCannotBeWrittenIsReported()
+{
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, failedText, QMessageBox::Ok, QMessageBox::Warning);
+    boxes.expectBox(unsavedTitle, unsavedText, QMessageBox::Yes);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("missing/a.txt")), true);
+    area.type(QStringLiteral("x"));
+    area.save();
+    area.window->close();
+    QVERIFY(area.isClosed());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::aMessageThatCannotBeWrittenIsReported()
+{
+    BoxScript boxes;
+    boxes.expectFileDialog(saveDialog, m_folder->path(QStringLiteral("missing/a.txt")));
+    boxes.expectBox(saveTitle, failedText, QMessageBox::Ok, QMessageBox::Warning);
+    const Shown area(false);
+    area.window->setText(QStringLiteral("text"), true);
+    area.save();
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::anEmptyTextThatCannotBeWrittenIsReported()
+{
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, failedText, QMessageBox::Ok, QMessageBox::Warning);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("missing/a.txt")), true);
+    area.save();
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::aFullDeviceIsReported()
+{
+    if (!QFile::exists(QStringLiteral("/dev/full"))) {
+        QSKIP("no device that is always full");
+    }
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, failedText, QMessageBox::Ok, QMessageBox::Warning);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("missing.txt")), true);
+    area.window->setText(QStringLiteral("/dev/full"), true);
+    area.edit()->setPlainText(QStringLiteral("text"));
+    area.save();
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void tst_MsgArea::aWindowWithoutAFileReportsTheSave()
+{
+    BoxScript boxes;
+    boxes.expectBox(saveTitle, failedText, QMessageBox::Ok, QMessageBox::Warning);
+    const Shown area(true);
+    area.type(QStringLiteral("x"));
+    area.save();
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+QTEST_MAIN(tst_MsgArea)
+#include "tst_MsgArea.moc"
