@@ -5,6 +5,7 @@
 #include "support/ScratchFolder.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QTest>
@@ -65,7 +66,7 @@ private:
 void tst_CellImage::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
-    m_config = std::make_unique<Config>(qApp);
+    m_config = std::make_unique<Config>(QCoreApplication::instance());
     globalConfig = m_config.get();
     globalConfig->defaultCellImage = m_folder->path(QStringLiteral("default.png"));
 }

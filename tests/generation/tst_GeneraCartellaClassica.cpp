@@ -7,6 +7,7 @@
 #include "support/LogCapture.h"
 #include "support/ScratchFolder.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QSet>
 #include <QTest>
@@ -306,7 +307,7 @@ void tst_GeneraCartellaClassica::initTestCase()
 {
     m_folder = std::make_unique<ScratchFolder>();
     m_folder->writePicture(QStringLiteral("jolly.png"), QSize(7, 5), Qt::red);
-    m_config = std::make_unique<Config>(qApp);
+    m_config = std::make_unique<Config>(QCoreApplication::instance());
     globalConfig = m_config.get();
     globalConfig->defaultCellText = QStringLiteral("Jolly!");
     globalConfig->defaultCellImage = m_folder->path(QStringLiteral("jolly.png"));
