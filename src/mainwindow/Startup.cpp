@@ -14,7 +14,7 @@
 QEventLoop *globalEventLoop = nullptr;
 
 namespace {
-// Shows nothing itself: a window that is not visible when created must be shown by the caller.
+// The window must be visible already.
 template<class Window>
 void runUntilDone(const Window &window)
 {
@@ -35,8 +35,6 @@ int startQuintra(int &argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    // Otherwise closing the first-start dialog would also end the main window's run of the loop.
-    QApplication::setQuitOnLastWindowClosed(false);
 
     // Declared in the reverse order of creation, so that the loop goes first and the configuration last.
     std::unique_ptr<Config> config;

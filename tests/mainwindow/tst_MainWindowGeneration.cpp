@@ -108,6 +108,7 @@ private slots:
     void newAsksBeforeACardSetIsDiscarded_data();
     void newAsksBeforeACardSetIsDiscarded();
     void newReplacesTheCardSetAndShowsItsFirstPage();
+    void aNewFirstPageIsShownThoughItsNumberStaysTheSame();
     void appendedPagesAloneAreFilled();
     void appendingKeepsThePageShown();
     void aNewCardSetSendsItsStatusToTheWindow();
@@ -214,11 +215,21 @@ void tst_MainWindowGeneration::newReplacesTheCardSetAndShowsItsFirstPage()
     QVERIFY(before.isNull());
     QCOMPARE(page.set()->getNumPages(), 1);
     QCOMPARE(page.shown("pagine_lcdNumber"), 1);
-    // The page spin box stood at 1 before: the new page is shown all the same.
     QCOMPARE(page.pageNumber()->value(), 1);
     QCOMPARE(page.table()->rowCount(), 6);
     QCOMPARE(page.table()->columnCount(), 7);
     QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowGeneration::aNewFirstPageIsShownThoughItsNumberStaysTheSame()
+{
+    const PageWindow page;
+    QVERIFY(page.window->generate(false));
+    QCOMPARE(page.pageNumber()->value(), 1);
+    set(page, "numeroblocchi", 2);
+    QVERIFY(page.window->generate(false));
+    QCOMPARE(page.pageNumber()->value(), 1);
+    QCOMPARE(page.table()->rowCount(), 6);
 }
 
 void tst_MainWindowGeneration::appendedPagesAloneAreFilled()

@@ -1,0 +1,361 @@
+// SPDX-License-Identifier: MIT
+#include "generation/GUtils.h"
+#include "mainwindow/MainWindow.h"
+#include "mainwindow/Startup.h"
+#include "msgarea/MsgArea.h"
+#include "settings/Config.h"
+#include "settings/FormatSelection.h"
+#include "settings/Options.h"
+#include "support/BoxScript.h"
+#include "support/ScratchFolder.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QEventLoop>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTextEdit>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+// Runs the whole program, once or several times, each with an application object of its own. What the user does is a
+// function that the first turn of the program's event loop calls.
+namespace {
+constexpr int patience = 20000; // milliseconds
+
+std::function<void()> user;
+std::unique_ptr<BoxScript> boxes; // while the application lives
+QStringList boxProblems;
+
+void endOfApplication()
+{
+    boxProblems = boxes->problems();
+    boxes.reset();
+}
+
+void startOfApplication()
+{
+    QTimer::singleShot(0, []() {
+        boxes = std::make_unique<BoxScript>();
+        qAddPostRoutine(endOfApplication);
+        user();
+    });
+    QTimer::singleShot(patience, []() { qFatal("the program does not end"); });
+}
+Q_COREAPP_STARTUP_FUNCTION(startOfApplication)
+
+// The result of the program.
+int run(const std::function<void()> &actions)
+{
+    user = actions;
+    int argc = 1;
+    char name[] = "quintra";
+    char *argv[] = {name, nullptr};
+    return startQuintra(argc, argv);
+}
+
+// The window of this class that is shown; null when there is none.
+template<class Window>
+Window *shown()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (auto *found = qobject_cast<Window *>(window); found != nullptr && found->isVisible()) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+// Continues once a window of this class is shown and the present action is over.
+template<class Window>
+void whenShown(const std::function<void(Window *)> &action)
+{
+    QTimer::singleShot(5, [action]() {
+        if (auto *window = shown<Window>()) {
+            action(window);
+        } else {
+            whenShown<Window>(action);
+        }
+    });
+}
+
+QString translated(const char *context, const char *text)
+{
+    return QCoreApplication::translate(context, text);
+}
+
+void leave(MainWindow *window)
+{
+    boxes->expectBox(QStringLiteral("Quintra"), translated("MainWindow", "Sei sicuro di voler uscire?"),
+                     QMessageBox::Yes);
+    window->close();
+}
+
+void pressOk(FormatSelection *dialog)
+{
+    QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("procedi")), Qt::LeftButton);
+}
+
+QAction *action(const QWidget *window, const char *name)
+{
+    return window->findChild<QAction *>(QString::fromLatin1(name));
+}
+
+int numberMaximum(const MainWindow *window)
+{
+    return window->findChild<QSpinBox *>(QStringLiteral("box_classica_numeromassimo"))->value();
+}
+} // namespace
+
+class tst_Startup final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFirstStartAsksForTheLanguageFirst();
+    void laterStartsShowTheMainWindowAtOnce();
+    void theFirstDialogMayBeClosed_data();
+    void theFirstDialogMayBeClosed();
+    void theMainWindowStaysWhenLeavingIsRefused();
+    void closingASecondWindowEndsNothing();
+    void theSharedObjectsLiveAsLongAsTheWindows();
+    void leavingWithOtherWindowsOpenEndsCleanly();
+    void aNewUserFindsTheWayInEnglish();
+};
+
+void tst_Startup::aFirstStartAsksForTheLanguageFirst()
+{
+    const ScratchFolder folder;
+    bool mainWindowBefore = true;
+    bool dialogAfter = true;
+    const int result = run([&]() {
+        mainWindowBefore = shown<MainWindow>() != nullptr;
+        pressOk(shown<FormatSelection>());
+        whenShown<MainWindow>([&](MainWindow *window) {
+            dialogAfter = false;
+            for (const QWidget *open : QApplication::topLevelWidgets()) {
+                dialogAfter = dialogAfter || qobject_cast<const FormatSelection *>(open) != nullptr;
+            }
+            leave(window);
+        });
+    });
+    QCOMPARE(result, 0);
+    QVERIFY(!mainWindowBefore);
+    QVERIFY(!dialogAfter);
+    QVERIFY(QFileInfo::exists(QStringLiteral("config.ini")));
+    QCOMPARE(boxProblems, QStringList());
+}
+
+void tst_Startup::laterStartsShowTheMainWindowAtOnce()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    bool dialog = true;
+    bool mainWindow = false;
+    QString status;
+    const int result = run([&]() {
+        dialog = shown<FormatSelection>() != nullptr;
+        mainWindow = shown<MainWindow>() != nullptr;
+        status = shown<MainWindow>()->statusBar()->currentMessage();
+        leave(shown<MainWindow>());
+    });
+    QCOMPARE(result, 0);
+    QVERIFY(!dialog);
+    QVERIFY(mainWindow);
+    QCOMPARE(status, QStringLiteral("Welcome to Quintra 0.704!"));
+    QCOMPARE(boxProblems, QStringList());
+}
+
+void tst_Startup::theFirstDialogMayBeClosed_data()
+{
+    QTest::addColumn<bool>("escape");
+    QTest::newRow("close button") << false;
+    QTest::newRow("Escape") << true;
+}
+
+void tst_Startup::theFirstDialogMayBeClosed()
+{
+    QFETCH(bool, escape);
+    const ScratchFolder folder;
+    bool stayed = false;
+    const int result = run([&]() {
+        if (escape) {
+            QTest::keyClick(shown<FormatSelection>(), Qt::Key_Escape);
+        } else {
+            shown<FormatSelection>()->close();
+        }
+        // The last window was closed for a moment: that must not end the main window's run.
+        whenShown<MainWindow>([&](MainWindow *window) {
+            QTimer::singleShot(100, [&, window]() {
+                stayed = shown<MainWindow>() == window;
+                leave(window);
+            });
+        });
+    });
+    QCOMPARE(result, 0);
+    QVERIFY(stayed);
+    QCOMPARE(boxProblems, QStringList());
+}
+
+void tst_Startup::theMainWindowStaysWhenLeavingIsRefused()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    bool stayed = false;
+    run([&]() {
+        MainWindow *window = shown<MainWindow>();
+        boxes->expectBox(QStringLiteral("Quintra"), translated("MainWindow", "Sei sicuro di voler uscire?"),
+                         QMessageBox::No);
+        window->close();
+        QTimer::singleShot(50, [&, window]() {
+            stayed = shown<MainWindow>() == window;
+            leave(window);
+        });
+    });
+    QVERIFY(stayed);
+    QCOMPARE(boxProblems, QStringList());
+}
+
+void tst_Startup::closingASecondWindowEndsNothing()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    bool stayed = false;
+    run([&]() {
+        MainWindow *window = shown<MainWindow>();
+        action(window, "actionInformazioni")->trigger();
+        shown<MsgArea>()->close();
+        QTimer::singleShot(50, [&, window]() {
+            stayed = shown<MainWindow>() == window;
+            leave(window);
+        });
+    });
+    QVERIFY(stayed);
+    QCOMPARE(boxProblems, QStringList());
+}
+
+void tst_Startup::theSharedObjectsLiveAsLongAsTheWindows()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    QStringList gone;
+    const auto record = [&](const QObject *object, const QString &name) {
+        QObject::connect(object, &QObject::destroyed, [&gone, name]() { gone.append(name); });
+    };
+    run([&]() {
+        QVERIFY(globalUtils != nullptr);
+        QVERIFY(globalConfig != nullptr);
+        QCOMPARE(globalConfig->application, static_cast<QCoreApplication *>(qApp));
+        QVERIFY(globalEventLoop->isRunning());
+        record(shown<MainWindow>(), QStringLiteral("window"));
+        record(globalEventLoop, QStringLiteral("loop"));
+        record(qApp, QStringLiteral("application"));
+        leave(shown<MainWindow>());
+    });
+    QCOMPARE(gone, QStringList({QStringLiteral("window"), QStringLiteral("loop"), QStringLiteral("application")}));
+    QCOMPARE(boxProblems, QStringList());
+}
+
+void tst_Startup::leavingWithOtherWindowsOpenEndsCleanly()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    QPointer<Options> options;
+    QPointer<MsgArea> about;
+    const int result = run([&]() {
+        MainWindow *window = shown<MainWindow>();
+        action(window, "actionOpzioni")->trigger();
+        options = shown<Options>();
+        action(window, "actionInformazioni")->trigger();
+        about = shown<MsgArea>();
+        leave(window);
+    });
+    QCOMPARE(result, 0);
+    QVERIFY(options.isNull());
+    QVERIFY(about.isNull());
+    QCOMPARE(boxProblems, QStringList());
+}
+
+// From an empty folder: choose a language, change a value, look at the main window, reset, and start anew.
+void tst_Startup::aNewUserFindsTheWayInEnglish()
+{
+    const ScratchFolder folder;
+    const QDir translations(QStringLiteral(QUINTRA_LANGUAGE_FOLDER));
+    QVERIFY(QDir().mkdir(QStringLiteral("language")));
+    for (const QString &file : translations.entryList({QStringLiteral("*.qm")})) {
+        QVERIFY(QFile::copy(translations.filePath(file), QStringLiteral("language/") + file));
+    }
+    QString okTip;
+    QByteArray comments;
+    QString printText;
+    QStringList steps;
+
+    run([&]() {
+        auto *dialog = shown<FormatSelection>();
+        auto *languages = dialog->findChild<QComboBox *>(QStringLiteral("lang_selection"));
+        languages->setCurrentText(QStringLiteral("it_IT"));
+        const QString italian = dialog->findChild<QPushButton *>(QStringLiteral("default_settings"))->toolTip();
+        languages->setCurrentText(QStringLiteral("en_GB"));
+        okTip = dialog->findChild<QPushButton *>(QStringLiteral("default_settings"))->toolTip();
+        QCOMPARE(italian, QStringLiteral("Impostazioni di default"));
+        comments = folder.read(QStringLiteral("config.ini"));
+
+        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("default_settings")), Qt::LeftButton);
+        auto *editor = dialog->findChild<MsgArea *>();
+        auto *text = editor->findChild<QTextEdit *>();
+        text->setPlainText(text->toPlainText().replace(QStringLiteral("NMAX=90"), QStringLiteral("NMAX=75")));
+        boxes->expectBox(translated("MsgArea", "Salva"), translated("MsgArea", "File salvato con successo."),
+                         QMessageBox::Ok);
+        action(editor, "actionSalva")->trigger();
+        editor->close();
+        pressOk(dialog);
+        whenShown<MainWindow>([&](MainWindow *window) {
+            printText = window->findChild<QPushButton *>(QStringLiteral("butt_stampa"))->text();
+            QCOMPARE(numberMaximum(window), 75);
+            steps.append(QStringLiteral("first"));
+            leave(window);
+        });
+    });
+    QCOMPARE(boxProblems, QStringList());
+    QVERIFY2(okTip != QStringLiteral("Impostazioni di default"), qPrintable(okTip));
+    QVERIFY2(!comments.contains("Numeri - Massimo") && comments.contains("\n;"), comments.constData());
+    QVERIFY2(printText != QStringLiteral("STAMPA"), qPrintable(printText));
+
+    run([&]() {
+        MainWindow *window = shown<MainWindow>();
+        QVERIFY(window != nullptr);
+        QCOMPARE(numberMaximum(window), 75);
+        action(window, "actionOpzioni")->trigger();
+        const QString title = QStringLiteral("Quintra - Opzioni");
+        boxes->expectBox(title,
+                         QStringLiteral("Proseguire con la cancellazionede del file di configurazione e l'uscita dal "
+                                        "programma?"),
+                         QMessageBox::Yes);
+        boxes->expectBox(title, QStringLiteral("File di configurazione eliminato correttamente."), QMessageBox::Ok);
+        boxes->expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"), QMessageBox::Yes);
+        steps.append(QStringLiteral("second"));
+        shown<Options>()->findChild<QPushButton *>(QStringLiteral("butt_azzeraesci"))->click();
+    });
+    QCOMPARE(boxProblems, QStringList());
+    QVERIFY(!QFileInfo::exists(QStringLiteral("config.ini")));
+
+    run([&]() {
+        QVERIFY(shown<FormatSelection>() != nullptr);
+        steps.append(QStringLiteral("third"));
+        shown<FormatSelection>()->close();
+        whenShown<MainWindow>([&](MainWindow *window) {
+            QCOMPARE(numberMaximum(window), 90);
+            leave(window);
+        });
+    });
+    QCOMPARE(boxProblems, QStringList());
+    QCOMPARE(steps, QStringList({QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")}));
+}
+
+QTEST_APPLESS_MAIN(tst_Startup)
+#include "tst_Startup.moc"
