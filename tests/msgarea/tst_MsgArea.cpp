@@ -433,18 +433,19 @@ void tst_MsgArea::shortcutsWork_data()
 void tst_MsgArea::shortcutsWork()
 {
     QFETCH(bool, fileMode);
-    m_folder->write(QStringLiteral("a.txt"), "before");
+    const QString path = m_folder->path(QStringLiteral("a.txt"));
     BoxScript boxes;
     if (!fileMode) {
-        boxes.expectFileDialog(saveDialog, m_folder->path(QStringLiteral("a.txt")));
+        boxes.expectFileDialog(saveDialog, path);
     }
     boxes.expectBox(saveTitle, savedText, QMessageBox::Ok);
     const Shown area(fileMode);
-    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.window->setText(path, true);
     area.edit()->setPlainText(QStringLiteral("after"));
     QVERIFY(QTest::qWaitForWindowActive(area.window));
     QTest::keyClick(area.edit(), Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(m_folder->read(QStringLiteral("a.txt")), QByteArray("after"));
+    QApplication::setActiveWindow(area.window); // no window manager here gives it back what the box took
     QTest::keyClick(area.edit(), Qt::Key_Q, Qt::ControlModifier);
     QVERIFY(area.isClosed());
     QCOMPARE(boxes.problems(), QStringList());
