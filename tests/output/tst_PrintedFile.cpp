@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <fstream>
 #include <malloc.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -261,7 +262,9 @@ private:
         }
         const pid_t child = fork();
         if (child == 0) {
-            malloc_trim(0); // memory freed earlier shall not be used unseen
+            // Memory freed earlier shall not be used unseen, nor an earlier peak hide the new one.
+            malloc_trim(0);
+            std::ofstream("/proc/self/clear_refs") << "5";
             const long before = peakMemory();
             const bool good = print(set, QStringLiteral("memoria.pdf")) > 0;
             const long growth = good ? peakMemory() - before : -1;
