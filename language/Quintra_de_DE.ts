@@ -5,66 +5,70 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 Karte %2 = Seite %3 Karte %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
 Confronti tra blocchi: %2
 Celle verificate: %3
 Blocchi uguali: %4 (%5%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Geprüfte Karten: %1
+Vergleiche zwischen Karten: %2
+Geprüfte Felder: %3
+Gleiche Karten: %4 (%5%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
 I blocchi di una pagina sono sempre diversi.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kartensatz ist leer oder hat nur eine Seite.
+Die Karten einer Seite sind immer verschieden.</translation>
     </message>
     <message>
         <source>Confronto pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleiche Seite %1 von %2</translation>
     </message>
     <message>
         <source>numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>leer</translation>
     </message>
 </context>
 <context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekanntes Dateiformat!</translation>
     </message>
     <message>
         <source>Formato %1 non disponibile. Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Format %1 nicht verfügbar. Erstellung abgebrochen.</translation>
     </message>
     <message>
         <source>Impossibile scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht geschrieben werden!</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF: Seite %1 von %2 wird gedruckt (%3%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht weiter geschrieben werden!</translation>
     </message>
     <message>
         <source>Stampa PDF completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Druck abgeschlossen!</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -77,272 +81,283 @@ Dimensione: %4 Bytes (%5 MB)
 ----------------------------------------
 
 Dimensioni pagina: %6</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei erfolgreich erstellt!
+
+Name: %1
+Pfad: %2
+
+Seiten: %3
+Größe: %4 Bytes (%5 MB)
+----------------------------------------
+
+Seitengröße: %6</translation>
     </message>
 </context>
 <context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>La pagina mostrata</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigte Seite</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>von</translation>
     </message>
     <message>
         <source>Il numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Seiten</translation>
     </message>
     <message>
         <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahlen dieser Seite werden spaltenweise gezogen, jede Spalte aus ihrem eigenen Bereich</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlen nach Spalten ordnen</translation>
     </message>
     <message>
         <source>Selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>La selezione comprende tutte le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Auswahl umfasst alle Felder der Seite</translation>
     </message>
     <message>
         <source>Tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihe</translation>
     </message>
     <message>
         <source>da</source>
-        <translation type="unfinished"></translation>
+        <translation>von</translation>
     </message>
     <message>
         <source>Prima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Reihe der Auswahl</translation>
     </message>
     <message>
         <source>a</source>
-        <translation type="unfinished"></translation>
+        <translation>bis</translation>
     </message>
     <message>
         <source>Ultima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Reihe der Auswahl</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Prima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Spalte der Auswahl</translation>
     </message>
     <message>
         <source>Ultima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Spalte der Auswahl</translation>
     </message>
     <message>
         <source>Spunta le celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder der Auswahl ankreuzen</translation>
     </message>
     <message>
         <source>Riempi</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllen</translation>
     </message>
     <message>
         <source>Toglie la spunta alle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreuze der ausgewählten Felder entfernen</translation>
     </message>
     <message>
         <source>Svuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Inverte la spunta delle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Angekreuzte und leere Felder der Auswahl vertauschen</translation>
     </message>
     <message>
         <source>Inverti</source>
-        <translation type="unfinished"></translation>
+        <translation>Umkehren</translation>
     </message>
     <message>
         <source>Tipo delle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Feldtyp</translation>
     </message>
     <message>
         <source>Celle con un numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder mit einer Zahl</translation>
     </message>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>Celle con un testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder mit einem Text</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Celle con un&apos;immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder mit einem Bild</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Legt den Typ der oben ausgewählten Felder fest!&lt;/p&gt;&lt;p&gt;Einzelne Felder werden mit der rechten Maustaste geändert.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl setzen</translation>
     </message>
     <message>
         <source>Schema corrente</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Belegung</translation>
     </message>
     <message>
         <source>da pag.</source>
-        <translation type="unfinished"></translation>
+        <translation>von S.</translation>
     </message>
     <message>
         <source>Prima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Seite, auf die die Belegung kopiert wird</translation>
     </message>
     <message>
         <source>Ultima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Seite, auf die die Belegung kopiert wird</translation>
     </message>
     <message>
         <source>Copia lo schema su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegung auf alle Seiten kopieren</translation>
     </message>
     <message>
         <source>tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>alle</translation>
     </message>
     <message>
         <source>Copia lo schema della pagina mostrata sulle pagine indicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegung der angezeigten Seite auf die angegebenen Seiten kopieren</translation>
     </message>
     <message>
         <source>Copia</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Crea le pagine e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten erstellen und zum Kartensatz hinzufügen</translation>
     </message>
     <message>
         <source>Crea pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten erstellen</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Nuovo</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Per iniziare una nuova mappatura chiudere questa finestra e riaprirla dalla finestra principale</source>
-        <translation type="unfinished"></translation>
+        <translation>Für eine neue Belegung dieses Fenster schließen und im Hauptfenster erneut öffnen</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Apre uno schema di pagine da file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenbelegung aus einer Datei öffnen</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenbelegung in einer Datei speichern. Eine Seite mit mehr als 255 Feldern kann nicht vollständig wieder gelesen werden, und die Ordnung der Zahlen nach Spalten wird nicht gespeichert.</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Chiude la mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuelle Belegung schließen</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuelle Belegung</translation>
     </message>
     <message>
         <source>Non vi sono pagine da creare!</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Seiten zu erstellen!</translation>
     </message>
     <message>
         <source>MAPPATURA MANUALE</source>
-        <translation type="unfinished"></translation>
+        <translation>MANUELLE BELEGUNG</translation>
     </message>
     <message>
         <source>Tipo cambiato in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ geändert in: %1</translation>
     </message>
     <message>
         <source>I numeri da generare (%1) sono maggiori di quelli disponibili (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind mehr Zahlen zu erzeugen (%1) als verfügbar (%2).</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen in Ordnung</translation>
     </message>
     <message>
         <source>Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählten Seiten werden mit der aktuellen Belegung überschrieben. Fortfahren?</translation>
     </message>
     <message>
         <source>Copia schema effettuata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegung kopiert!</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten erstellt und zum Hauptkartensatz hinzugefügt!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Erstellen der Seiten!
+
+%1</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie wirklich schließen?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegung in Datei speichern</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellen der Datei abgebrochen!</translation>
     </message>
     <message>
         <source>Pagina %1 di %2 salvata</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2 gespeichert</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -354,773 +369,798 @@ Percorso: %3
 Pagine: %4
 Dimensione: %5 Bytes (%6 MB)
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Datei erfolgreich erstellt!
+
+Name: %1
+Erweiterung: %2
+Pfad: %3
+
+Seiten: %4
+Größe: %5 Bytes (%6 MB)
+</translation>
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Öffnen eines anderen Projekts geht die gesamte laufende Arbeit verloren. Fortfahren?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegungsdatei öffnen</translation>
     </message>
     <message>
         <source>Apertura file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen der Datei abgebrochen!</translation>
     </message>
     <message>
         <source>Sto leggendo la pagina %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lese Seite %1</translation>
     </message>
     <message>
         <source>Apertura completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen abgeschlossen!</translation>
     </message>
     <message>
         <source>Sto caricando la pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lade Seite %1 von %2</translation>
     </message>
 </context>
 <context>
     <name>FormatSelection</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialog</translation>
     </message>
     <message>
         <source>Seleziona la lingua:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache wählen:</translation>
     </message>
     <message>
         <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache des Programms und der Kommentare in den Einstellungen</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeinstellungen: </translation>
     </message>
     <message>
         <source>Impostazioni di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeinstellungen</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartengenerator für Quintra.</translation>
     </message>
     <message>
         <source>Numeri - Minimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlen - Minimum</translation>
     </message>
     <message>
         <source>Numeri - Massimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlen - Maximum</translation>
     </message>
     <message>
         <source>Classica - Numero blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch - Karten pro Seite</translation>
     </message>
     <message>
         <source>Classica - Numero righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch - Reihen pro Karte</translation>
     </message>
     <message>
         <source>Classica - Numero estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch - Belegte Felder pro Reihe</translation>
     </message>
     <message>
         <source>Classica - Numero colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch - Spalten</translation>
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch - Joker pro Reihe</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardtext in den Feldern</translation>
     </message>
     <message>
         <source>Immagine di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardbild in den Feldern</translation>
     </message>
     <message>
         <source>Directory di base dove salvare</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardordner zum Speichern</translation>
     </message>
     <message>
         <source>Lingua di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardsprache</translation>
     </message>
     <message>
         <source>Configurazione</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfiguration</translation>
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht kommentiert werden, falsches Format!</translation>
     </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
     <message>
         <source>Nessuna pagina da generare!</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Seiten zu erzeugen!</translation>
     </message>
     <message>
         <source>Nessun numero generato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zahlen erzeugt!</translation>
     </message>
     <message>
         <source>Genera per colonne:
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugung nach Spalten:
+%1 Zahlen können in Spalte Nr. %2 nicht erzeugt werden
+Die Spalte braucht %3 verschiedene Zahlen zwischen %4 und %5
+aber das ist unmöglich, da der Bereich nur %6 Zahlen umfasst.</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugung der Zahlen:
+Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartensatz</translation>
     </message>
     <message>
         <source>Numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenzahl</translation>
     </message>
     <message>
         <source>Numero totale di pagine (cartelle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtzahl der Seiten (Kartenbögen)</translation>
     </message>
     <message>
         <source>Numero di blocchi per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten pro Seite</translation>
     </message>
     <message>
         <source>Numero di righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihen pro Karte</translation>
     </message>
     <message>
         <source>Numero di colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Numero di celle (colonne) per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Felder (Spalten) pro Reihe</translation>
     </message>
     <message>
         <source>Celle di ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder jeder Reihe</translation>
     </message>
     <message>
         <source>Numero di estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegte Felder pro Reihe</translation>
     </message>
     <message>
         <source>Numero di celle da riempire (numeri,immagini,scritte) in ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der zu belegenden Felder (Zahlen, Bilder, Texte) in jeder Reihe</translation>
     </message>
     <message>
         <source>Numero di immagini per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder pro Reihe</translation>
     </message>
     <message>
         <source>Inserisci delle immagini al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (Joker) statt Zahlen in Felder setzen</translation>
     </message>
     <message>
         <source>Numero di scritte per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte pro Reihe</translation>
     </message>
     <message>
         <source>Inserisci del testo al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte statt Zahlen in Felder setzen</translation>
     </message>
     <message>
         <source>Numeri da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu ziehende Zahlen</translation>
     </message>
     <message>
         <source>Numero minimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Zahl</translation>
     </message>
     <message>
         <source>Numero massimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Zahl</translation>
     </message>
     <message>
         <source>Disegna a mano quali celle riempire, pagina per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Hand festlegen, welche Felder belegt werden, Seite für Seite</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuelle Belegung</translation>
     </message>
     <message>
         <source>Crea le pagine richieste e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewünschte Seiten erstellen und zum Kartensatz hinzufügen</translation>
     </message>
     <message>
         <source>Aggiungi pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten hinzufügen</translation>
     </message>
     <message>
         <source>Ctrl+Shift+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+N</translation>
     </message>
     <message>
         <source>Stampa la cartella su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartensatz in eine Datei drucken</translation>
     </message>
     <message>
         <source>STAMPA</source>
-        <translation type="unfinished"></translation>
+        <translation>DRUCKEN</translation>
     </message>
     <message>
         <source>Ctrl+P</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite</translation>
     </message>
     <message>
         <source>Pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigte Seite</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>von</translation>
     </message>
     <message>
         <source>Numero di pagine della cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenzahl des Kartensatzes</translation>
     </message>
     <message>
         <source>Elimina la pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigte Seite löschen</translation>
     </message>
     <message>
         <source>Elimina</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Formato</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierformat</translation>
     </message>
     <message>
         <source>Formato della carta su cui stampare</source>
-        <translation type="unfinished"></translation>
+        <translation>Format des Papiers, auf dem gedruckt wird</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi (mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartenabstand (mm)</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi della pagina, in millimetri</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand zwischen den Karten der Seite in Millimetern</translation>
     </message>
     <message>
         <source>I comandi di pagina e di blocco agiscono su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten- und Kartenbefehle wirken auf alle Seiten</translation>
     </message>
     <message>
         <source>Applica a tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf alle anwenden</translation>
     </message>
     <message>
         <source>Imposta lo spazio tra i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand zwischen den Karten festlegen</translation>
     </message>
     <message>
         <source>Applica</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Colori</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Colore di sfondo della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe der Seite</translation>
     </message>
     <message>
         <source>Colora sfondo</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe</translation>
     </message>
     <message>
         <source>Blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte</translation>
     </message>
     <message>
         <source>Blocco selezionato</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte Karte</translation>
     </message>
     <message>
         <source>Blocchi della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten der Seite</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Außenlinie</translation>
     </message>
     <message>
         <source>Spessore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Außenlinie der Karte (noch ohne Wirkung)</translation>
     </message>
     <message>
         <source>Spessore linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Innenlinie</translation>
     </message>
     <message>
         <source>Spessore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Innenlinien der Karte (noch ohne Wirkung)</translation>
     </message>
     <message>
         <source>I comandi di blocco agiscono su tutti i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartenbefehle wirken auf alle Karten</translation>
     </message>
     <message>
         <source>Applica a tutti</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf alle anwenden</translation>
     </message>
     <message>
         <source>Applica le impostazioni del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Karteneinstellungen anwenden (noch ohne Wirkung)</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle del blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe der Felder der Karte</translation>
     </message>
     <message>
         <source>Colore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Außenlinie der Karte (noch ohne Wirkung)</translation>
     </message>
     <message>
         <source>Colora linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Außenlinie</translation>
     </message>
     <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Innenlinien der Karte (noch ohne Wirkung)</translation>
     </message>
     <message>
         <source>Colora linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Innenlinie</translation>
     </message>
     <message>
         <source>Cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihe</translation>
     </message>
     <message>
         <source>Riga della cella nel suo blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihe des Feldes in seiner Karte</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Colonna della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte des Feldes</translation>
     </message>
     <message>
         <source>Tipo della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ des Feldes</translation>
     </message>
     <message>
         <source>Carattere delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftart der ausgewählten Felder</translation>
     </message>
     <message>
         <source>Carattere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftart...</translation>
     </message>
     <message>
         <source>Carattere della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftart des Feldes</translation>
     </message>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des ausgewählten Feldes wählen</translation>
     </message>
     <message>
         <source>Seleziona immagine...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Feldbefehle wirken auf dieselben Felder aller Seiten</translation>
     </message>
     <message>
         <source>Applica le impostazioni della cella (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Feldeinstellungen anwenden (noch ohne Wirkung)</translation>
     </message>
     <message>
         <source>Colore del testo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe der ausgewählten Felder</translation>
     </message>
     <message>
         <source>Colora testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe der ausgewählten Felder</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Strumenti</source>
-        <translation type="unfinished"></translation>
+        <translation>Extras</translation>
     </message>
     <message>
         <source>Aiuto</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Pulisci</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Le mappature si aprono dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegungen werden im Fenster der manuellen Belegung geöffnet</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegungen werden im Fenster der manuellen Belegung gespeichert</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Crea una nuova cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Kartensatz erstellen</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Programm beenden</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten vergleichen</translation>
     </message>
     <message>
         <source>Verifica che non vi siano blocchi uguali</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen, dass keine Karten gleich sind</translation>
     </message>
     <message>
         <source>Ctrl+B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+B</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Impostazioni del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmeinstellungen</translation>
     </message>
     <message>
         <source>Ctrl+,</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+,</translation>
     </message>
     <message>
         <source>Informazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Über das Programm</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei %1 %2!</translation>
     </message>
     <message>
         <source>La cartella non contiene pagine!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kartensatz enthält keine Seiten!</translation>
     </message>
     <message>
         <source>Aggiungere pagine alla cartella prima di proseguire.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügen Sie dem Kartensatz zuerst Seiten hinzu.</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellen der Datei abgebrochen!</translation>
     </message>
     <message>
         <source>Errore nella creazione del file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Erstellen der Datei:
+%1</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten in Datei speichern</translation>
     </message>
     <message>
         <source>Cartella classica</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassischer Kartensatz</translation>
     </message>
     <message>
         <source>Sei sicuro di voler uscire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Programm wirklich beenden?</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.
 Advanced Bingo cards generator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartengenerator für Quintra.
+Bingokarten mit allen Möglichkeiten.</translation>
     </message>
     <message>
         <source>Modifica valori</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte bearbeiten</translation>
     </message>
     <message>
         <source>Errore durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Ändern des Werts in der Tabelle.</translation>
     </message>
     <message>
         <source>Problema durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem beim Ändern des Werts in der Tabelle.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Wert als TEXT übernehmen?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Feld als LEERES FELD übernehmen?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld als BILD festgelegt.
+Der Pfad des Bildes muss in der Seitenleiste gewählt werden.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gezeigte Bild ist das des ausgewählten Feldes. Möchten Sie es ändern?</translation>
     </message>
     <message>
         <source>Apre un&apos;immagine da inserire nella cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild für das Feld öffnen</translation>
     </message>
     <message>
         <source>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visisbile. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gezeigte Bild wird für das ausgewählte Feld verwendet. Fortfahren?</translation>
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild festgelegt.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl des Feldbildes</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Kartensatz wirklich löschen und einen neuen erstellen?</translation>
     </message>
     <message>
         <source>Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellung abgebrochen.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartensatz mit %1 Seiten, %2 Karten %3X%4 erzeugt</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
-        <translation type="unfinished"></translation>
+        <translation>Probleme mit den Parametern: Fortfahren nicht möglich!</translation>
     </message>
     <message>
         <source>%1
 
 Vuoi proseguire comunque?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>Sto cancellando la precedente cartella...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der vorherige Kartensatz wird gelöscht...</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartensatz mit %1 Seiten, %2 Karten %3X%4 wird erstellt...</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugung der Zahlen:
+Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
     <message>
         <source>Sono state create solo pagine vuote!</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurden nur leere Seiten erstellt!</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante la generazione della pagina %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugung der Zahlen:
+Fehler beim Erzeugen der Seite %1.</translation>
     </message>
     <message>
         <source>Sto creando l&apos;ambiente per la mappatura manuale, attendere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Die manuelle Belegung wird vorbereitet, bitte warten...</translation>
     </message>
     <message>
         <source>Ambiente per la mappatura manuale creato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuelle Belegung bereit.</translation>
     </message>
     <message>
         <source>Celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder der Seite</translation>
     </message>
     <message>
         <source>La cartella non contiene la pagina da visualizzare (fuori range)!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kartensatz enthält die anzuzeigende Seite nicht (außerhalb des Bereichs)!</translation>
     </message>
     <message>
         <source>Cartella vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerer Kartensatz!</translation>
     </message>
     <message>
         <source>La cartella è vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kartensatz ist leer!</translation>
     </message>
     <message>
         <source>Problema nell&apos;eliminazione della pagina!
 Pagina non eliminata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem beim Löschen der Seite!
+Seite nicht gelöscht.</translation>
     </message>
     <message>
         <source>Pagina eliminata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite gelöscht.</translation>
     </message>
     <message>
         <source>Nessuna selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Auswahl</translation>
     </message>
     <message>
         <source>Cella mancante</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlendes Feld</translation>
     </message>
     <message>
         <source>Cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewähltes Feld</translation>
     </message>
     <message>
         <source>Selezione multipla</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrfachauswahl</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen in Ordnung</translation>
     </message>
     <message>
         <source>Estrazioni per riga: Per un corretto funzionamento si consiglia il valore 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegte Felder pro Reihe: Für eine einwandfreie Funktion wird der Wert 5 empfohlen.</translation>
     </message>
     <message>
         <source>Nessun elemento selezionato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ausgewählt!</translation>
     </message>
     <message>
         <source>Modifica colore sfondo blocchi applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe der Karten geändert.</translation>
     </message>
     <message>
         <source>Modifica colore testo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe des Feldes geändert.</translation>
     </message>
     <message>
         <source>Modifica colore sfondo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe des Feldes geändert.</translation>
     </message>
     <message>
         <source>Attenzione</source>
-        <translation type="unfinished"></translation>
+        <translation>Achtung</translation>
     </message>
     <message>
         <source>Errore: Le pagine hanno dimensioni diverse.
 Alcune celle sono state omesse!</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: Die Seiten sind unterschiedlich groß.
+Einige Felder wurden ausgelassen!</translation>
     </message>
     <message>
         <source>Modifica applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung übernommen.</translation>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftart festgelegt.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
 Pagine cartella non ancora generate.
 Impossibile procedere alla verifica!</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung auf gleiche Karten:
+Die Seiten des Kartensatzes wurden noch nicht erzeugt.
+Prüfung nicht möglich!</translation>
     </message>
     <message>
         <source>Non vi sono blocchi uguali!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine gleichen Karten!
+
+%1</translation>
     </message>
     <message>
         <source>Vi sono %1 blocchi uguali!
@@ -1128,177 +1168,183 @@ Impossibile procedere alla verifica!</source>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt %1 gleiche Karten!
+
+%2
+
+Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation type="unfinished"></translation>
+        <translation>... und %1 weitere Paare gleicher Karten.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
         <source>riga vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>leere Zeile</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>das erste Zeichen gibt nicht die Anzahl der Reihen der Seite an</translation>
     </message>
     <message>
         <source>troppo corta per le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>zu kurz für die Felder der Seite</translation>
     </message>
     <message>
         <source>oltre il massimo di %1 pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>über dem Höchstwert von %1 Seiten</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Zeilen der Datei beschreiben keine Seite und wurden übersprungen:</translation>
     </message>
     <message>
         <source>Riga %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2.</translation>
     </message>
     <message>
         <source>Righe da %1 a %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen %1 bis %2: %3.</translation>
     </message>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste geht bis Zeile %1 weiter.</translation>
     </message>
 </context>
 <context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Testo modificato</source>
-        <translation type="unfinished"></translation>
+        <translation>Text geändert</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie ohne Speichern schließen?</translation>
     </message>
     <message>
         <source>Salva su file</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei speichern</translation>
     </message>
     <message>
         <source>File salvato con successo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei gespeichert.</translation>
     </message>
     <message>
         <source>Errore nel salvataggio del file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Speichern der Datei!</translation>
     </message>
 </context>
 <context>
     <name>Options</name>
     <message>
         <source>Impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Consente di ri-selezionare le opzioni al primo avvio del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Optionen des ersten Programmstarts erneut wählen</translation>
     </message>
     <message>
         <source>Impostazioni iniziali (per il prossimo avvio)</source>
-        <translation type="unfinished"></translation>
+        <translation>Starteinstellungen (für den nächsten Start)</translation>
     </message>
     <message>
         <source>Azzera ed esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen und beenden</translation>
     </message>
     <message>
         <source>Azzera e continua</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen und fortfahren</translation>
     </message>
     <message>
         <source>Modifica le impostazioni direttamente</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen direkt bearbeiten</translation>
     </message>
     <message>
         <source>Modifica diretta</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt bearbeiten</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem beim Löschen der Datei:
+ %1</translation>
     </message>
     <message>
         <source>File di configurazione eliminato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationsdatei gelöscht.</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione e l&apos;uscita dal programma?</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationsdatei löschen und das Programm beenden?</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationsdatei löschen?</translation>
     </message>
 </context>
 <context>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 belegte Felder sind mit nur %2 Zahlen nicht möglich.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Joker passen nicht in nur %2 Spalten.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Texte passen nicht in nur %2 Spalten.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Texte und Bilder passen nicht in nur %2 Spalten.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Joker passen nicht in nur %2 belegte Felder.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Texte passen nicht in nur %2 belegte Felder.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Texte und Bilder passen nicht in nur %2 belegte Felder.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zahlen passen nicht in nur %2 Spalten.</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewünschte Gesamtzahl der Seiten (%1)
+übersteigt das erlaubte Maximum (%2).</translation>
     </message>
     <message>
         <source>Si sconsiglia di proseguire per le seguenti ragioni:
@@ -1306,26 +1352,30 @@ eccedono il massimo consentito (%2).</source>
 %2 -&gt; caselle totali in memoria.
 %3 -&gt; caselle massime gestibili.
 (eventuale crash del programma)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Fortfahren wird aus folgenden Gründen abgeraten:
+%1 -&gt; insgesamt gewünschte Felder.
+%2 -&gt; Felder im Speicher.
+%3 -&gt; höchstens verarbeitbare Felder.
+(das Programm könnte abstürzen)</translation>
     </message>
 </context>
 <context>
     <name>PersonaleChkBox</name>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer</translation>
     </message>
 </context>
 </TS>

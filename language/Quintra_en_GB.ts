@@ -5,66 +5,70 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 card %2 = Page %3 card %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
 Confronti tra blocchi: %2
 Celle verificate: %3
 Blocchi uguali: %4 (%5%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cards checked: %1
+Comparisons between cards: %2
+Cells checked: %3
+Identical cards: %4 (%5%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
 I blocchi di una pagina sono sempre diversi.</source>
-        <translation type="unfinished"></translation>
+        <translation>The card set is empty or has only one page.
+The cards of a page are always different.</translation>
     </message>
     <message>
         <source>Confronto pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparing page %1 of %2</translation>
     </message>
     <message>
         <source>numero</source>
-        <translation type="unfinished"></translation>
+        <translation>number</translation>
     </message>
     <message>
         <source>testo</source>
-        <translation type="unfinished"></translation>
+        <translation>text</translation>
     </message>
     <message>
         <source>immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>picture</translation>
     </message>
     <message>
         <source>vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>empty</translation>
     </message>
 </context>
 <context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown file format!</translation>
     </message>
     <message>
         <source>Formato %1 non disponibile. Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Format %1 is not available. Creation cancelled.</translation>
     </message>
     <message>
         <source>Impossibile scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot write to the file!</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF: printing page %1 of %2 (%3%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot go on writing to the file!</translation>
     </message>
     <message>
         <source>Stampa PDF completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF printing complete!</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -77,272 +81,283 @@ Dimensione: %4 Bytes (%5 MB)
 ----------------------------------------
 
 Dimensioni pagina: %6</source>
-        <translation type="unfinished"></translation>
+        <translation>File created successfully!
+
+Name: %1
+Path: %2
+
+Pages: %3
+Size: %4 bytes (%5 MB)
+----------------------------------------
+
+Page size: %6</translation>
     </message>
 </context>
 <context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Page</translation>
     </message>
     <message>
         <source>La pagina mostrata</source>
-        <translation type="unfinished"></translation>
+        <translation>The page shown</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>of</translation>
     </message>
     <message>
         <source>Il numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>The number of pages</translation>
     </message>
     <message>
         <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
-        <translation type="unfinished"></translation>
+        <translation>The numbers of this page are drawn column by column, each from its own range</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Sort numbers by column</translation>
     </message>
     <message>
         <source>Selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Selection</translation>
     </message>
     <message>
         <source>La selezione comprende tutte le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>The selection covers all the cells of the page</translation>
     </message>
     <message>
         <source>Tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>All</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Row</translation>
     </message>
     <message>
         <source>da</source>
-        <translation type="unfinished"></translation>
+        <translation>from</translation>
     </message>
     <message>
         <source>Prima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>First row of the selection</translation>
     </message>
     <message>
         <source>a</source>
-        <translation type="unfinished"></translation>
+        <translation>to</translation>
     </message>
     <message>
         <source>Ultima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Last row of the selection</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Column</translation>
     </message>
     <message>
         <source>Prima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>First column of the selection</translation>
     </message>
     <message>
         <source>Ultima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Last column of the selection</translation>
     </message>
     <message>
         <source>Spunta le celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Tick the cells of the selection</translation>
     </message>
     <message>
         <source>Riempi</source>
-        <translation type="unfinished"></translation>
+        <translation>Fill</translation>
     </message>
     <message>
         <source>Toglie la spunta alle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Untick the cells of the selection</translation>
     </message>
     <message>
         <source>Svuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>Inverte la spunta delle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Swap ticked and unticked cells of the selection</translation>
     </message>
     <message>
         <source>Inverti</source>
-        <translation type="unfinished"></translation>
+        <translation>Invert</translation>
     </message>
     <message>
         <source>Tipo delle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cell type</translation>
     </message>
     <message>
         <source>Celle con un numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Cells with a number</translation>
     </message>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Number</translation>
     </message>
     <message>
         <source>Celle con un testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Cells with a text</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Celle con un&apos;immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Cells with a picture</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Picture</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Sets the type of the cells selected above!&lt;/p&gt;&lt;p&gt;To change single cells, click them with the right mouse button.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Set selected</translation>
     </message>
     <message>
         <source>Schema corrente</source>
-        <translation type="unfinished"></translation>
+        <translation>Current layout</translation>
     </message>
     <message>
         <source>da pag.</source>
-        <translation type="unfinished"></translation>
+        <translation>from p.</translation>
     </message>
     <message>
         <source>Prima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>First page to copy the layout to</translation>
     </message>
     <message>
         <source>Ultima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Last page to copy the layout to</translation>
     </message>
     <message>
         <source>Copia lo schema su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy the layout to all pages</translation>
     </message>
     <message>
         <source>tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>all</translation>
     </message>
     <message>
         <source>Copia lo schema della pagina mostrata sulle pagine indicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy the layout of the page shown to the given pages</translation>
     </message>
     <message>
         <source>Copia</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Crea le pagine e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Create the pages and add them to the card set</translation>
     </message>
     <message>
         <source>Crea pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Create pages</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Nuovo</source>
-        <translation type="unfinished"></translation>
+        <translation>New</translation>
     </message>
     <message>
         <source>Per iniziare una nuova mappatura chiudere questa finestra e riaprirla dalla finestra principale</source>
-        <translation type="unfinished"></translation>
+        <translation>To start a new layout, close this window and open it again from the main window</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Apre uno schema di pagine da file</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a page layout from a file</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the page layout to a file. A page with more than 255 cells cannot be read back in full, and the sorting of numbers by column is not saved.</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Chiude la mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Close the manual layout</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual layout</translation>
     </message>
     <message>
         <source>Non vi sono pagine da creare!</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no pages to create!</translation>
     </message>
     <message>
         <source>MAPPATURA MANUALE</source>
-        <translation type="unfinished"></translation>
+        <translation>MANUAL LAYOUT</translation>
     </message>
     <message>
         <source>Tipo cambiato in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type changed to: %1</translation>
     </message>
     <message>
         <source>I numeri da generare (%1) sono maggiori di quelli disponibili (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>There are more numbers to generate (%1) than available (%2).</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings are correct</translation>
     </message>
     <message>
         <source>Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>The selected pages will be overwritten with the current layout. Continue?</translation>
     </message>
     <message>
         <source>Copia schema effettuata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout copied!</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages created and added to the main card set!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while creating the pages!
+
+%1</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to close?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the layout to a file</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>File creation cancelled!</translation>
     </message>
     <message>
         <source>Pagina %1 di %2 salvata</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 of %2 saved</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -354,773 +369,798 @@ Percorso: %3
 Pagine: %4
 Dimensione: %5 Bytes (%6 MB)
 </source>
-        <translation type="unfinished"></translation>
+        <translation>File created successfully!
+
+Name: %1
+Extension: %2
+Path: %3
+
+Pages: %4
+Size: %5 bytes (%6 MB)
+</translation>
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Opening another project discards all the work in progress. Continue?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a layout file</translation>
     </message>
     <message>
         <source>Apertura file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Opening the file cancelled!</translation>
     </message>
     <message>
         <source>Sto leggendo la pagina %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading page %1</translation>
     </message>
     <message>
         <source>Apertura completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>File opened!</translation>
     </message>
     <message>
         <source>Sto caricando la pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Loading page %1 of %2</translation>
     </message>
 </context>
 <context>
     <name>FormatSelection</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialog</translation>
     </message>
     <message>
         <source>Seleziona la lingua:</source>
-        <translation type="unfinished"></translation>
+        <translation>Select the language:</translation>
     </message>
     <message>
         <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Language of the program and of the comments in the settings</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
-        <translation type="unfinished"></translation>
+        <translation>Default settings: </translation>
     </message>
     <message>
         <source>Impostazioni di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Default settings</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Card generator for Quintra.</translation>
     </message>
     <message>
         <source>Numeri - Minimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Numbers - Minimum</translation>
     </message>
     <message>
         <source>Numeri - Massimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Numbers - Maximum</translation>
     </message>
     <message>
         <source>Classica - Numero blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Classic - Cards per page</translation>
     </message>
     <message>
         <source>Classica - Numero righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Classic - Rows per card</translation>
     </message>
     <message>
         <source>Classica - Numero estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Classic - Filled cells per row</translation>
     </message>
     <message>
         <source>Classica - Numero colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Classic - Columns</translation>
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Classic - Jokers per row</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Default text in cells</translation>
     </message>
     <message>
         <source>Immagine di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Default picture in cells</translation>
     </message>
     <message>
         <source>Directory di base dove salvare</source>
-        <translation type="unfinished"></translation>
+        <translation>Default folder for saving</translation>
     </message>
     <message>
         <source>Lingua di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Default language</translation>
     </message>
     <message>
         <source>Configurazione</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration</translation>
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot add comments to the file, wrong format!</translation>
     </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
     <message>
         <source>Nessuna pagina da generare!</source>
-        <translation type="unfinished"></translation>
+        <translation>No pages to generate!</translation>
     </message>
     <message>
         <source>Nessun numero generato!</source>
-        <translation type="unfinished"></translation>
+        <translation>No numbers generated!</translation>
     </message>
     <message>
         <source>Genera per colonne:
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generation by column:
+Cannot generate %1 numbers in column no. %2
+The column needs %3 different numbers between %4 and %5
+but this is impossible because the range has only %6 numbers.</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Number generation:
+Error while adding page %i.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Card set</translation>
     </message>
     <message>
         <source>Numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of pages</translation>
     </message>
     <message>
         <source>Numero totale di pagine (cartelle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Total number of pages (sheets of cards)</translation>
     </message>
     <message>
         <source>Numero di blocchi per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cards per page</translation>
     </message>
     <message>
         <source>Numero di righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Rows per card</translation>
     </message>
     <message>
         <source>Numero di colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Columns</translation>
     </message>
     <message>
         <source>Numero di celle (colonne) per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of cells (columns) per row</translation>
     </message>
     <message>
         <source>Celle di ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Cells of each row</translation>
     </message>
     <message>
         <source>Numero di estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Filled cells per row</translation>
     </message>
     <message>
         <source>Numero di celle da riempire (numeri,immagini,scritte) in ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of cells to fill (numbers, pictures, texts) in each row</translation>
     </message>
     <message>
         <source>Numero di immagini per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Pictures per row</translation>
     </message>
     <message>
         <source>Inserisci delle immagini al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Put pictures (jokers) in cells instead of numbers</translation>
     </message>
     <message>
         <source>Numero di scritte per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Texts per row</translation>
     </message>
     <message>
         <source>Inserisci del testo al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Put texts in cells instead of numbers</translation>
     </message>
     <message>
         <source>Numeri da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Numbers to draw</translation>
     </message>
     <message>
         <source>Numero minimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Lowest number</translation>
     </message>
     <message>
         <source>Numero massimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Highest number</translation>
     </message>
     <message>
         <source>Disegna a mano quali celle riempire, pagina per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose by hand which cells to fill, page by page</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual layout</translation>
     </message>
     <message>
         <source>Crea le pagine richieste e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Create the requested pages and add them to the card set</translation>
     </message>
     <message>
         <source>Aggiungi pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Add pages</translation>
     </message>
     <message>
         <source>Ctrl+Shift+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+N</translation>
     </message>
     <message>
         <source>Stampa la cartella su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Print the card set to a file</translation>
     </message>
     <message>
         <source>STAMPA</source>
-        <translation type="unfinished"></translation>
+        <translation>PRINT</translation>
     </message>
     <message>
         <source>Ctrl+P</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Page</translation>
     </message>
     <message>
         <source>Pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Page shown</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>of</translation>
     </message>
     <message>
         <source>Numero di pagine della cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of pages in the card set</translation>
     </message>
     <message>
         <source>Elimina la pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete the page shown</translation>
     </message>
     <message>
         <source>Elimina</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Formato</source>
-        <translation type="unfinished"></translation>
+        <translation>Paper size</translation>
     </message>
     <message>
         <source>Formato della carta su cui stampare</source>
-        <translation type="unfinished"></translation>
+        <translation>Size of the paper to print on</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi (mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Space between cards (mm)</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi della pagina, in millimetri</source>
-        <translation type="unfinished"></translation>
+        <translation>Space between the cards of the page, in millimetres</translation>
     </message>
     <message>
         <source>I comandi di pagina e di blocco agiscono su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Page and card commands act on all pages</translation>
     </message>
     <message>
         <source>Applica a tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply to all</translation>
     </message>
     <message>
         <source>Imposta lo spazio tra i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Set the space between the cards</translation>
     </message>
     <message>
         <source>Applica</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply</translation>
     </message>
     <message>
         <source>Colori</source>
-        <translation type="unfinished"></translation>
+        <translation>Colours</translation>
     </message>
     <message>
         <source>Colore di sfondo della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Background colour of the page</translation>
     </message>
     <message>
         <source>Colora sfondo</source>
-        <translation type="unfinished"></translation>
+        <translation>Background colour</translation>
     </message>
     <message>
         <source>Blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Card</translation>
     </message>
     <message>
         <source>Blocco selezionato</source>
-        <translation type="unfinished"></translation>
+        <translation>Selected card</translation>
     </message>
     <message>
         <source>Blocchi della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cards of the page</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Outer line width</translation>
     </message>
     <message>
         <source>Spessore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Width of the card&apos;s outer line (no effect yet)</translation>
     </message>
     <message>
         <source>Spessore linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Inner line width</translation>
     </message>
     <message>
         <source>Spessore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Width of the card&apos;s inner lines (no effect yet)</translation>
     </message>
     <message>
         <source>I comandi di blocco agiscono su tutti i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Card commands act on all cards</translation>
     </message>
     <message>
         <source>Applica a tutti</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply to all</translation>
     </message>
     <message>
         <source>Applica le impostazioni del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply the card settings (no effect yet)</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle del blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Background colour of the card&apos;s cells</translation>
     </message>
     <message>
         <source>Colore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Colour of the card&apos;s outer line (no effect yet)</translation>
     </message>
     <message>
         <source>Colora linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Outer line colour</translation>
     </message>
     <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Colour of the card&apos;s inner lines (no effect yet)</translation>
     </message>
     <message>
         <source>Colora linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Inner line colour</translation>
     </message>
     <message>
         <source>Cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Cell</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Row</translation>
     </message>
     <message>
         <source>Riga della cella nel suo blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Row of the cell in its card</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Column</translation>
     </message>
     <message>
         <source>Colonna della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Column of the cell</translation>
     </message>
     <message>
         <source>Tipo della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Type of the cell</translation>
     </message>
     <message>
         <source>Carattere delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Font of the selected cells</translation>
     </message>
     <message>
         <source>Carattere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Font...</translation>
     </message>
     <message>
         <source>Carattere della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Font of the cell</translation>
     </message>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose the picture of the selected cell</translation>
     </message>
     <message>
         <source>Seleziona immagine...</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose picture...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Cell commands act on the same cells of all pages</translation>
     </message>
     <message>
         <source>Applica le impostazioni della cella (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply the cell settings (no effect yet)</translation>
     </message>
     <message>
         <source>Colore del testo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Text colour of the selected cells</translation>
     </message>
     <message>
         <source>Colora testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Text colour</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Background colour of the selected cells</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Strumenti</source>
-        <translation type="unfinished"></translation>
+        <translation>Tools</translation>
     </message>
     <message>
         <source>Aiuto</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Pulisci</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Le mappature si aprono dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Layouts are opened from the manual layout editor</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Layouts are saved from the manual layout editor</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
-        <translation type="unfinished"></translation>
+        <translation>New</translation>
     </message>
     <message>
         <source>Crea una nuova cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Create a new card set</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit the program</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Compare cards</translation>
     </message>
     <message>
         <source>Verifica che non vi siano blocchi uguali</source>
-        <translation type="unfinished"></translation>
+        <translation>Check that no two cards are identical</translation>
     </message>
     <message>
         <source>Ctrl+B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+B</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Impostazioni del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Program settings</translation>
     </message>
     <message>
         <source>Ctrl+,</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+,</translation>
     </message>
     <message>
         <source>Informazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
-        <translation type="unfinished"></translation>
+        <translation>About the program</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcome to %1 %2!</translation>
     </message>
     <message>
         <source>La cartella non contiene pagine!</source>
-        <translation type="unfinished"></translation>
+        <translation>The card set has no pages!</translation>
     </message>
     <message>
         <source>Aggiungere pagine alla cartella prima di proseguire.</source>
-        <translation type="unfinished"></translation>
+        <translation>Add pages to the card set before continuing.</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>File creation cancelled!</translation>
     </message>
     <message>
         <source>Errore nella creazione del file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while creating the file:
+%1</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the cards to a file</translation>
     </message>
     <message>
         <source>Cartella classica</source>
-        <translation type="unfinished"></translation>
+        <translation>Classic card set</translation>
     </message>
     <message>
         <source>Sei sicuro di voler uscire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to quit?</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.
 Advanced Bingo cards generator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Card generator for Quintra.
+Advanced bingo card generator.</translation>
     </message>
     <message>
         <source>Modifica valori</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit values</translation>
     </message>
     <message>
         <source>Errore durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while changing the value in the table.</translation>
     </message>
     <message>
         <source>Problema durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem while changing the value in the table.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to set the value as TEXT?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to set the value as an EMPTY CELL?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cell set as PICTURE.
+The path of the picture must be chosen in the side panel.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture shown is that of the selected cell. Do you want to change it?</translation>
     </message>
     <message>
         <source>Apre un&apos;immagine da inserire nella cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a picture to put in the cell</translation>
     </message>
     <message>
         <source>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visisbile. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture shown will be that of the selected cell. Continue?</translation>
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Picture set.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Choice of the cell picture</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to delete the card set and create a new one?</translation>
     </message>
     <message>
         <source>Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Creation cancelled.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation type="unfinished"></translation>
+        <translation>Card set of %1 pages, %2 cards %3X%4 generated</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
-        <translation type="unfinished"></translation>
+        <translation>Problems with the parameters: cannot continue!</translation>
     </message>
     <message>
         <source>%1
 
 Vuoi proseguire comunque?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Sto cancellando la precedente cartella...</source>
-        <translation type="unfinished"></translation>
+        <translation>Deleting the previous card set...</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation type="unfinished"></translation>
+        <translation>Creating a card set of %1 pages, %2 cards %3X%4...</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Number generation:
+Error while adding page %i.</translation>
     </message>
     <message>
         <source>Sono state create solo pagine vuote!</source>
-        <translation type="unfinished"></translation>
+        <translation>Only empty pages were created!</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante la generazione della pagina %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Number generation:
+Error while generating page %1.</translation>
     </message>
     <message>
         <source>Sto creando l&apos;ambiente per la mappatura manuale, attendere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparing the manual layout, please wait...</translation>
     </message>
     <message>
         <source>Ambiente per la mappatura manuale creato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual layout ready.</translation>
     </message>
     <message>
         <source>Celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cells of the page</translation>
     </message>
     <message>
         <source>La cartella non contiene la pagina da visualizzare (fuori range)!</source>
-        <translation type="unfinished"></translation>
+        <translation>The card set does not contain the page to show (out of range)!</translation>
     </message>
     <message>
         <source>Cartella vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>Empty card set!</translation>
     </message>
     <message>
         <source>La cartella è vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>The card set is empty!</translation>
     </message>
     <message>
         <source>Problema nell&apos;eliminazione della pagina!
 Pagina non eliminata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem while deleting the page!
+Page not deleted.</translation>
     </message>
     <message>
         <source>Pagina eliminata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Page deleted.</translation>
     </message>
     <message>
         <source>Nessuna selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>No selection</translation>
     </message>
     <message>
         <source>Cella mancante</source>
-        <translation type="unfinished"></translation>
+        <translation>Missing cell</translation>
     </message>
     <message>
         <source>Cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Selected cell</translation>
     </message>
     <message>
         <source>Selezione multipla</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiple selection</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings are correct</translation>
     </message>
     <message>
         <source>Estrazioni per riga: Per un corretto funzionamento si consiglia il valore 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filled cells per row: the value 5 is recommended for proper operation.</translation>
     </message>
     <message>
         <source>Nessun elemento selezionato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing selected!</translation>
     </message>
     <message>
         <source>Modifica colore sfondo blocchi applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Card background colour changed.</translation>
     </message>
     <message>
         <source>Modifica colore testo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cell text colour changed.</translation>
     </message>
     <message>
         <source>Modifica colore sfondo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cell background colour changed.</translation>
     </message>
     <message>
         <source>Attenzione</source>
-        <translation type="unfinished"></translation>
+        <translation>Warning</translation>
     </message>
     <message>
         <source>Errore: Le pagine hanno dimensioni diverse.
 Alcune celle sono state omesse!</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: the pages have different sizes.
+Some cells were skipped!</translation>
     </message>
     <message>
         <source>Modifica applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Change applied.</translation>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Font set.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
 Pagine cartella non ancora generate.
 Impossibile procedere alla verifica!</source>
-        <translation type="unfinished"></translation>
+        <translation>Check for identical cards:
+The pages of the card set have not been generated yet.
+Cannot run the check!</translation>
     </message>
     <message>
         <source>Non vi sono blocchi uguali!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no identical cards!
+
+%1</translation>
     </message>
     <message>
         <source>Vi sono %1 blocchi uguali!
@@ -1128,177 +1168,183 @@ Impossibile procedere alla verifica!</source>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation type="unfinished"></translation>
+        <translation>There are %1 identical cards!
+
+%2
+
+Do you want to see them?</translation>
     </message>
     <message>
         <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation type="unfinished"></translation>
+        <translation>... and %1 more pairs of identical cards.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
         <source>riga vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>empty line</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>the first character does not give the number of rows of the page</translation>
     </message>
     <message>
         <source>troppo corta per le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>too short for the cells of the page</translation>
     </message>
     <message>
         <source>oltre il massimo di %1 pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>beyond the maximum of %1 pages</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
-        <translation type="unfinished"></translation>
+        <translation>These lines of the file do not describe a page and were skipped:</translation>
     </message>
     <message>
         <source>Riga %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Line %1: %2.</translation>
     </message>
     <message>
         <source>Righe da %1 a %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lines %1 to %2: %3.</translation>
     </message>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list goes on to line %1.</translation>
     </message>
 </context>
 <context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Testo modificato</source>
-        <translation type="unfinished"></translation>
+        <translation>Text changed</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to close without saving?</translation>
     </message>
     <message>
         <source>Salva su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Save to file</translation>
     </message>
     <message>
         <source>File salvato con successo.</source>
-        <translation type="unfinished"></translation>
+        <translation>File saved.</translation>
     </message>
     <message>
         <source>Errore nel salvataggio del file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while saving the file!</translation>
     </message>
 </context>
 <context>
     <name>Options</name>
     <message>
         <source>Impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>Consente di ri-selezionare le opzioni al primo avvio del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose the first-start options of the program again</translation>
     </message>
     <message>
         <source>Impostazioni iniziali (per il prossimo avvio)</source>
-        <translation type="unfinished"></translation>
+        <translation>Initial settings (for the next start)</translation>
     </message>
     <message>
         <source>Azzera ed esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset and quit</translation>
     </message>
     <message>
         <source>Azzera e continua</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset and continue</translation>
     </message>
     <message>
         <source>Modifica le impostazioni direttamente</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit the settings directly</translation>
     </message>
     <message>
         <source>Modifica diretta</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit directly</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem while deleting the file:
+ %1</translation>
     </message>
     <message>
         <source>File di configurazione eliminato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration file deleted.</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione e l&apos;uscita dal programma?</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete the configuration file and quit the program?</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete the configuration file?</translation>
     </message>
 </context>
 <context>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot create %1 filled cells with only %2 numbers.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 jokers in only %2 columns.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 texts in only %2 columns.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 texts and pictures in only %2 columns.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 jokers in only %2 filled cells.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 texts in only %2 filled cells.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 texts and pictures in only %2 filled cells.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot place %1 numbers in only %2 columns.</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>The total pages requested (%1)
+exceed the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Si sconsiglia di proseguire per le seguenti ragioni:
@@ -1306,26 +1352,30 @@ eccedono il massimo consentito (%2).</source>
 %2 -&gt; caselle totali in memoria.
 %3 -&gt; caselle massime gestibili.
 (eventuale crash del programma)</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuing is not advised for the following reasons:
+%1 -&gt; total cells requested.
+%2 -&gt; total cells in memory.
+%3 -&gt; most cells that can be handled.
+(the program may crash)</translation>
     </message>
 </context>
 <context>
     <name>PersonaleChkBox</name>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Number</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Picture</translation>
     </message>
     <message>
         <source>Vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Empty</translation>
     </message>
 </context>
 </TS>

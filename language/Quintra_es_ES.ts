@@ -5,66 +5,70 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Pág. %1 cartón %2 = Pág. %3 cartón %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
 Confronti tra blocchi: %2
 Celle verificate: %3
 Blocchi uguali: %4 (%5%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartones comprobados: %1
+Comparaciones entre cartones: %2
+Casillas comprobadas: %3
+Cartones iguales: %4 (%5%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
 I blocchi di una pagina sono sempre diversi.</source>
-        <translation type="unfinished"></translation>
+        <translation>La serie de cartones está vacía o solo tiene una página.
+Los cartones de una página son siempre distintos.</translation>
     </message>
     <message>
         <source>Confronto pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparando la página %1 de %2</translation>
     </message>
     <message>
         <source>numero</source>
-        <translation type="unfinished"></translation>
+        <translation>número</translation>
     </message>
     <message>
         <source>testo</source>
-        <translation type="unfinished"></translation>
+        <translation>texto</translation>
     </message>
     <message>
         <source>immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>imagen</translation>
     </message>
     <message>
         <source>vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>vacía</translation>
     </message>
 </context>
 <context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Formato de archivo desconocido!</translation>
     </message>
     <message>
         <source>Formato %1 non disponibile. Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato %1 no disponible. Creación cancelada.</translation>
     </message>
     <message>
         <source>Impossibile scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se puede escribir en el archivo!</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF: imprimiendo la página %1 de %2 (%3%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se puede seguir escribiendo en el archivo!</translation>
     </message>
     <message>
         <source>Stampa PDF completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Impresión en PDF completada!</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -77,272 +81,283 @@ Dimensione: %4 Bytes (%5 MB)
 ----------------------------------------
 
 Dimensioni pagina: %6</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Archivo creado correctamente!
+
+Nombre: %1
+Ruta: %2
+
+Páginas: %3
+Tamaño: %4 bytes (%5 MB)
+----------------------------------------
+
+Tamaño de página: %6</translation>
     </message>
 </context>
 <context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Página</translation>
     </message>
     <message>
         <source>La pagina mostrata</source>
-        <translation type="unfinished"></translation>
+        <translation>La página mostrada</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Il numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>El número de páginas</translation>
     </message>
     <message>
         <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
-        <translation type="unfinished"></translation>
+        <translation>Los números de esta página se extraen columna por columna, cada una de su propio intervalo</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar números por columnas</translation>
     </message>
     <message>
         <source>Selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección</translation>
     </message>
     <message>
         <source>La selezione comprende tutte le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>La selección abarca todas las casillas de la página</translation>
     </message>
     <message>
         <source>Tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>da</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Prima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera fila de la selección</translation>
     </message>
     <message>
         <source>a</source>
-        <translation type="unfinished"></translation>
+        <translation>a</translation>
     </message>
     <message>
         <source>Ultima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Última fila de la selección</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna</translation>
     </message>
     <message>
         <source>Prima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera columna de la selección</translation>
     </message>
     <message>
         <source>Ultima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Última columna de la selección</translation>
     </message>
     <message>
         <source>Spunta le celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar las casillas de la selección</translation>
     </message>
     <message>
         <source>Riempi</source>
-        <translation type="unfinished"></translation>
+        <translation>Llenar</translation>
     </message>
     <message>
         <source>Toglie la spunta alle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar las casillas de la selección</translation>
     </message>
     <message>
         <source>Svuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar</translation>
     </message>
     <message>
         <source>Inverte la spunta delle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir las marcas de las casillas de la selección</translation>
     </message>
     <message>
         <source>Inverti</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir</translation>
     </message>
     <message>
         <source>Tipo delle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de las casillas</translation>
     </message>
     <message>
         <source>Celle con un numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas con un número</translation>
     </message>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Celle con un testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas con un texto</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Celle con un&apos;immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas con una imagen</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;¡Establece el tipo de las casillas seleccionadas arriba!&lt;/p&gt;&lt;p&gt;Para cambiar una sola casilla, haga clic en ella con el botón derecho del ratón.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar a la selección</translation>
     </message>
     <message>
         <source>Schema corrente</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño actual</translation>
     </message>
     <message>
         <source>da pag.</source>
-        <translation type="unfinished"></translation>
+        <translation>de la pág.</translation>
     </message>
     <message>
         <source>Prima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera página en la que copiar el diseño</translation>
     </message>
     <message>
         <source>Ultima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Última página en la que copiar el diseño</translation>
     </message>
     <message>
         <source>Copia lo schema su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el diseño en todas las páginas</translation>
     </message>
     <message>
         <source>tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>todas</translation>
     </message>
     <message>
         <source>Copia lo schema della pagina mostrata sulle pagine indicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el diseño de la página mostrada en las páginas indicadas</translation>
     </message>
     <message>
         <source>Copia</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Crea le pagine e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear las páginas y añadirlas a la serie de cartones</translation>
     </message>
     <message>
         <source>Crea pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear páginas</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Nuovo</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Per iniziare una nuova mappatura chiudere questa finestra e riaprirla dalla finestra principale</source>
-        <translation type="unfinished"></translation>
+        <translation>Para empezar un nuevo diseño, cierre esta ventana y vuelva a abrirla desde la ventana principal</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Apre uno schema di pagine da file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un diseño de páginas desde un archivo</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el diseño de las páginas en un archivo. Una página con más de 255 casillas no se puede volver a leer entera y el orden de los números por columnas no se guarda.</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Chiude la mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar el diseño manual</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño manual</translation>
     </message>
     <message>
         <source>Non vi sono pagine da creare!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No hay páginas que crear!</translation>
     </message>
     <message>
         <source>MAPPATURA MANUALE</source>
-        <translation type="unfinished"></translation>
+        <translation>DISEÑO MANUAL</translation>
     </message>
     <message>
         <source>Tipo cambiato in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo cambiado a: %1</translation>
     </message>
     <message>
         <source>I numeri da generare (%1) sono maggiori di quelli disponibili (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay más números por generar (%1) que disponibles (%2).</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración correcta</translation>
     </message>
     <message>
         <source>Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Las páginas elegidas se sobrescribirán con el diseño actual. ¿Continuar?</translation>
     </message>
     <message>
         <source>Copia schema effettuata!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Diseño copiado!</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Páginas creadas y añadidas a la serie principal!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Error al crear las páginas!
+
+%1</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea cerrar?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el diseño en un archivo</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Creación del archivo cancelada!</translation>
     </message>
     <message>
         <source>Pagina %1 di %2 salvata</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 de %2 guardada</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -354,773 +369,798 @@ Percorso: %3
 Pagine: %4
 Dimensione: %5 Bytes (%6 MB)
 </source>
-        <translation type="unfinished"></translation>
+        <translation>¡Archivo creado correctamente!
+
+Nombre: %1
+Extensión: %2
+Ruta: %3
+
+Páginas: %4
+Tamaño: %5 bytes (%6 MB)
+</translation>
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Al abrir otro proyecto se perderá todo el trabajo en curso. ¿Continuar?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un archivo de diseño</translation>
     </message>
     <message>
         <source>Apertura file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Apertura del archivo cancelada!</translation>
     </message>
     <message>
         <source>Sto leggendo la pagina %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo la página %1</translation>
     </message>
     <message>
         <source>Apertura completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Apertura completada!</translation>
     </message>
     <message>
         <source>Sto caricando la pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando la página %1 de %2</translation>
     </message>
 </context>
 <context>
     <name>FormatSelection</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Diálogo</translation>
     </message>
     <message>
         <source>Seleziona la lingua:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el idioma:</translation>
     </message>
     <message>
         <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma del programa y de los comentarios de la configuración</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración predeterminada: </translation>
     </message>
     <message>
         <source>Impostazioni di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración predeterminada</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generador de cartones para la Quintra.</translation>
     </message>
     <message>
         <source>Numeri - Minimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Números - Mínimo</translation>
     </message>
     <message>
         <source>Numeri - Massimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Números - Máximo</translation>
     </message>
     <message>
         <source>Classica - Numero blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Clásica - Cartones por página</translation>
     </message>
     <message>
         <source>Classica - Numero righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Clásica - Filas por cartón</translation>
     </message>
     <message>
         <source>Classica - Numero estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Clásica - Casillas llenas por fila</translation>
     </message>
     <message>
         <source>Classica - Numero colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Clásica - Columnas</translation>
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Clásica - Comodines por fila</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto predeterminado en las casillas</translation>
     </message>
     <message>
         <source>Immagine di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen predeterminada en las casillas</translation>
     </message>
     <message>
         <source>Directory di base dove salvare</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta predeterminada para guardar</translation>
     </message>
     <message>
         <source>Lingua di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma predeterminado</translation>
     </message>
     <message>
         <source>Configurazione</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se puede comentar el archivo, formato incorrecto!</translation>
     </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
     <message>
         <source>Nessuna pagina da generare!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Ninguna página que generar!</translation>
     </message>
     <message>
         <source>Nessun numero generato!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Ningún número generado!</translation>
     </message>
     <message>
         <source>Genera per colonne:
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generación por columnas:
+No se pueden generar %1 números en la columna n.º %2
+La columna necesita %3 números distintos entre %4 y %5
+pero es imposible, ya que el intervalo solo tiene %6 números.</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generación de números:
+Error al añadir la página %i.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie de cartones</translation>
     </message>
     <message>
         <source>Numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de páginas</translation>
     </message>
     <message>
         <source>Numero totale di pagine (cartelle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Número total de páginas (hojas de cartones)</translation>
     </message>
     <message>
         <source>Numero di blocchi per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartones por página</translation>
     </message>
     <message>
         <source>Numero di righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Filas por cartón</translation>
     </message>
     <message>
         <source>Numero di colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas</translation>
     </message>
     <message>
         <source>Numero di celle (colonne) per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de casillas (columnas) por fila</translation>
     </message>
     <message>
         <source>Celle di ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas de cada fila</translation>
     </message>
     <message>
         <source>Numero di estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas llenas por fila</translation>
     </message>
     <message>
         <source>Numero di celle da riempire (numeri,immagini,scritte) in ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de casillas que llenar (números, imágenes, textos) en cada fila</translation>
     </message>
     <message>
         <source>Numero di immagini per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes por fila</translation>
     </message>
     <message>
         <source>Inserisci delle immagini al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Poner imágenes (comodines) en lugar de números en las casillas</translation>
     </message>
     <message>
         <source>Numero di scritte per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos por fila</translation>
     </message>
     <message>
         <source>Inserisci del testo al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Poner texto en lugar de números en las casillas</translation>
     </message>
     <message>
         <source>Numeri da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Números por extraer</translation>
     </message>
     <message>
         <source>Numero minimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Número más bajo</translation>
     </message>
     <message>
         <source>Numero massimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Número más alto</translation>
     </message>
     <message>
         <source>Disegna a mano quali celle riempire, pagina per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir a mano qué casillas llenar, página por página</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño manual</translation>
     </message>
     <message>
         <source>Crea le pagine richieste e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear las páginas pedidas y añadirlas a la serie de cartones</translation>
     </message>
     <message>
         <source>Aggiungi pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir páginas</translation>
     </message>
     <message>
         <source>Ctrl+Shift+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+N</translation>
     </message>
     <message>
         <source>Stampa la cartella su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir la serie de cartones en un archivo</translation>
     </message>
     <message>
         <source>STAMPA</source>
-        <translation type="unfinished"></translation>
+        <translation>IMPRIMIR</translation>
     </message>
     <message>
         <source>Ctrl+P</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Página</translation>
     </message>
     <message>
         <source>Pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Página mostrada</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Numero di pagine della cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de páginas de la serie de cartones</translation>
     </message>
     <message>
         <source>Elimina la pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar la página mostrada</translation>
     </message>
     <message>
         <source>Elimina</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Formato</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Formato della carta su cui stampare</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato del papel en el que imprimir</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi (mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio entre cartones (mm)</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi della pagina, in millimetri</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio entre los cartones de la página, en milímetros</translation>
     </message>
     <message>
         <source>I comandi di pagina e di blocco agiscono su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Los comandos de página y de cartón actúan sobre todas las páginas</translation>
     </message>
     <message>
         <source>Applica a tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar a todas</translation>
     </message>
     <message>
         <source>Imposta lo spazio tra i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Establecer el espacio entre los cartones</translation>
     </message>
     <message>
         <source>Applica</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Colori</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Colore di sfondo della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo de la página</translation>
     </message>
     <message>
         <source>Colora sfondo</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo</translation>
     </message>
     <message>
         <source>Blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartón</translation>
     </message>
     <message>
         <source>Blocco selezionato</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartón seleccionado</translation>
     </message>
     <message>
         <source>Blocchi della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartones de la página</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor línea exterior</translation>
     </message>
     <message>
         <source>Spessore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de la línea exterior del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Spessore linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor línea interior</translation>
     </message>
     <message>
         <source>Spessore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de las líneas interiores del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>I comandi di blocco agiscono su tutti i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Los comandos de cartón actúan sobre todos los cartones</translation>
     </message>
     <message>
         <source>Applica a tutti</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar a todos</translation>
     </message>
     <message>
         <source>Applica le impostazioni del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar la configuración del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle del blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo de las casillas del cartón</translation>
     </message>
     <message>
         <source>Colore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de la línea exterior del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Colora linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Color línea exterior</translation>
     </message>
     <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de las líneas interiores del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Colora linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Color línea interior</translation>
     </message>
     <message>
         <source>Cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>Riga della cella nel suo blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila de la casilla en su cartón</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna</translation>
     </message>
     <message>
         <source>Colonna della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna de la casilla</translation>
     </message>
     <message>
         <source>Tipo della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de la casilla</translation>
     </message>
     <message>
         <source>Carattere delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente de las casillas seleccionadas</translation>
     </message>
     <message>
         <source>Carattere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente...</translation>
     </message>
     <message>
         <source>Carattere della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente de la casilla</translation>
     </message>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la imagen de la casilla seleccionada</translation>
     </message>
     <message>
         <source>Seleziona immagine...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir imagen...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Los comandos de casilla actúan sobre las mismas casillas de todas las páginas</translation>
     </message>
     <message>
         <source>Applica le impostazioni della cella (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar la configuración de la casilla (aún sin efecto)</translation>
     </message>
     <message>
         <source>Colore del testo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto de las casillas seleccionadas</translation>
     </message>
     <message>
         <source>Colora testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo de las casillas seleccionadas</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Strumenti</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Aiuto</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Pulisci</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Le mappature si aprono dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Los diseños se abren desde el editor de diseño manual</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Los diseños se guardan desde el editor de diseño manual</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva</translation>
     </message>
     <message>
         <source>Crea una nuova cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una nueva serie de cartones</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir del programa</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar cartones</translation>
     </message>
     <message>
         <source>Verifica che non vi siano blocchi uguali</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar que no haya cartones iguales</translation>
     </message>
     <message>
         <source>Ctrl+B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+B</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Impostazioni del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración del programa</translation>
     </message>
     <message>
         <source>Ctrl+,</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+,</translation>
     </message>
     <message>
         <source>Informazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca del programa</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Bienvenido a %1 %2!</translation>
     </message>
     <message>
         <source>La cartella non contiene pagine!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡La serie de cartones no contiene páginas!</translation>
     </message>
     <message>
         <source>Aggiungere pagine alla cartella prima di proseguire.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añada páginas a la serie de cartones antes de continuar.</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Creación del archivo cancelada!</translation>
     </message>
     <message>
         <source>Errore nella creazione del file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al crear el archivo:
+%1</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los cartones en un archivo</translation>
     </message>
     <message>
         <source>Cartella classica</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie clásica</translation>
     </message>
     <message>
         <source>Sei sicuro di voler uscire?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea salir?</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.
 Advanced Bingo cards generator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generador de cartones para la Quintra.
+Generador avanzado de cartones de bingo.</translation>
     </message>
     <message>
         <source>Modifica valori</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar valores</translation>
     </message>
     <message>
         <source>Errore durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al modificar el valor en la tabla.</translation>
     </message>
     <message>
         <source>Problema durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema al modificar el valor en la tabla.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea establecer el valor como TEXTO?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea establecer el valor como CASILLA VACÍA?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla establecida como IMAGEN.
+La ruta de la imagen debe elegirse en el panel lateral.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen mostrada es la de la casilla seleccionada. ¿Desea cambiarla?</translation>
     </message>
     <message>
         <source>Apre un&apos;immagine da inserire nella cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una imagen para la casilla</translation>
     </message>
     <message>
         <source>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visisbile. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen mostrada será la de la casilla seleccionada. ¿Continuar?</translation>
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen establecida correctamente.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Elección de la imagen de la casilla</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea borrar la serie de cartones y crear una nueva?</translation>
     </message>
     <message>
         <source>Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Creación cancelada.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie de %1 páginas, %2 cartones %3X%4 generada</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Problemas con los parámetros: no se puede continuar!</translation>
     </message>
     <message>
         <source>%1
 
 Vuoi proseguire comunque?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+¿Desea continuar de todos modos?</translation>
     </message>
     <message>
         <source>Sto cancellando la precedente cartella...</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrando la serie anterior...</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation type="unfinished"></translation>
+        <translation>Creando una serie de %1 páginas, %2 cartones %3X%4...</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generación de números:
+Error al añadir la página %i.</translation>
     </message>
     <message>
         <source>Sono state create solo pagine vuote!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Solo se han creado páginas vacías!</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante la generazione della pagina %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Generación de números:
+Error al generar la página %1.</translation>
     </message>
     <message>
         <source>Sto creando l&apos;ambiente per la mappatura manuale, attendere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando el diseño manual, espere...</translation>
     </message>
     <message>
         <source>Ambiente per la mappatura manuale creato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño manual preparado.</translation>
     </message>
     <message>
         <source>Celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas de la página</translation>
     </message>
     <message>
         <source>La cartella non contiene la pagina da visualizzare (fuori range)!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡La serie de cartones no contiene la página que mostrar (fuera de rango)!</translation>
     </message>
     <message>
         <source>Cartella vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Serie de cartones vacía!</translation>
     </message>
     <message>
         <source>La cartella è vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡La serie de cartones está vacía!</translation>
     </message>
     <message>
         <source>Problema nell&apos;eliminazione della pagina!
 Pagina non eliminata.</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Problema al eliminar la página!
+Página no eliminada.</translation>
     </message>
     <message>
         <source>Pagina eliminata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Página eliminada correctamente.</translation>
     </message>
     <message>
         <source>Nessuna selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna selección</translation>
     </message>
     <message>
         <source>Cella mancante</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla inexistente</translation>
     </message>
     <message>
         <source>Cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla seleccionada</translation>
     </message>
     <message>
         <source>Selezione multipla</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección múltiple</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración correcta</translation>
     </message>
     <message>
         <source>Estrazioni per riga: Per un corretto funzionamento si consiglia il valore 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Casillas llenas por fila: para un funcionamiento correcto se recomienda el valor 5.</translation>
     </message>
     <message>
         <source>Nessun elemento selezionato!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Ningún elemento seleccionado!</translation>
     </message>
     <message>
         <source>Modifica colore sfondo blocchi applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo de los cartones modificado.</translation>
     </message>
     <message>
         <source>Modifica colore testo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto de la casilla modificado.</translation>
     </message>
     <message>
         <source>Modifica colore sfondo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo de la casilla modificado.</translation>
     </message>
     <message>
         <source>Attenzione</source>
-        <translation type="unfinished"></translation>
+        <translation>Atención</translation>
     </message>
     <message>
         <source>Errore: Le pagine hanno dimensioni diverse.
 Alcune celle sono state omesse!</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: las páginas tienen tamaños distintos.
+¡Se han omitido algunas casillas!</translation>
     </message>
     <message>
         <source>Modifica applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificación aplicada.</translation>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente establecida correctamente.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
 Pagine cartella non ancora generate.
 Impossibile procedere alla verifica!</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobación de cartones iguales:
+Aún no se han generado las páginas de la serie.
+¡No se puede realizar la comprobación!</translation>
     </message>
     <message>
         <source>Non vi sono blocchi uguali!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No hay cartones iguales!
+
+%1</translation>
     </message>
     <message>
         <source>Vi sono %1 blocchi uguali!
@@ -1128,177 +1168,183 @@ Impossibile procedere alla verifica!</source>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Hay %1 cartones iguales!
+
+%2
+
+¿Desea verlos?</translation>
     </message>
     <message>
         <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation type="unfinished"></translation>
+        <translation>... y otras %1 parejas de cartones iguales.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
         <source>riga vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>línea vacía</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>el primer carácter no indica el número de filas de la página</translation>
     </message>
     <message>
         <source>troppo corta per le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>demasiado corta para las casillas de la página</translation>
     </message>
     <message>
         <source>oltre il massimo di %1 pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>por encima del máximo de %1 páginas</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estas líneas del archivo no describen una página y se han omitido:</translation>
     </message>
     <message>
         <source>Riga %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2.</translation>
     </message>
     <message>
         <source>Righe da %1 a %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas de la %1 a la %2: %3.</translation>
     </message>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista continúa hasta la línea %1.</translation>
     </message>
 </context>
 <context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensajes</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Testo modificato</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto modificado</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea cerrar sin guardar?</translation>
     </message>
     <message>
         <source>Salva su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar en archivo</translation>
     </message>
     <message>
         <source>File salvato con successo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo guardado correctamente.</translation>
     </message>
     <message>
         <source>Errore nel salvataggio del file!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Error al guardar el archivo!</translation>
     </message>
 </context>
 <context>
     <name>Options</name>
     <message>
         <source>Impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Consente di ri-selezionare le opzioni al primo avvio del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a elegir las opciones del primer inicio del programa</translation>
     </message>
     <message>
         <source>Impostazioni iniziali (per il prossimo avvio)</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración inicial (para el próximo inicio)</translation>
     </message>
     <message>
         <source>Azzera ed esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer y salir</translation>
     </message>
     <message>
         <source>Azzera e continua</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer y continuar</translation>
     </message>
     <message>
         <source>Modifica le impostazioni direttamente</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar la configuración directamente</translation>
     </message>
     <message>
         <source>Modifica diretta</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición directa</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema al borrar el archivo:
+ %1</translation>
     </message>
     <message>
         <source>File di configurazione eliminato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de configuración eliminado correctamente.</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione e l&apos;uscita dal programma?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar el archivo de configuración y salir del programa?</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar el archivo de configuración?</translation>
     </message>
 </context>
 <context>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden crear %1 casillas llenas con solo %2 números.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 comodines en solo %2 columnas.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 textos en solo %2 columnas.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 textos e imágenes en solo %2 columnas.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 comodines en solo %2 casillas llenas.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 textos en solo %2 casillas llenas.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 textos e imágenes en solo %2 casillas llenas.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden poner %1 números en solo %2 columnas.</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>El total de páginas pedidas (%1)
+supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Si sconsiglia di proseguire per le seguenti ragioni:
@@ -1306,26 +1352,30 @@ eccedono il massimo consentito (%2).</source>
 %2 -&gt; caselle totali in memoria.
 %3 -&gt; caselle massime gestibili.
 (eventuale crash del programma)</source>
-        <translation type="unfinished"></translation>
+        <translation>Se desaconseja continuar por las siguientes razones:
+%1 -&gt; casillas totales pedidas.
+%2 -&gt; casillas totales en memoria.
+%3 -&gt; casillas máximas gestionables.
+(el programa podría bloquearse)</translation>
     </message>
 </context>
 <context>
     <name>PersonaleChkBox</name>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacía</translation>
     </message>
 </context>
 </TS>

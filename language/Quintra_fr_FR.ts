@@ -5,66 +5,70 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 carton %2 = Page %3 carton %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
 Confronti tra blocchi: %2
 Celle verificate: %3
 Blocchi uguali: %4 (%5%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartons vérifiés&#xa0;: %1
+Comparaisons entre cartons&#xa0;: %2
+Cases vérifiées&#xa0;: %3
+Cartons identiques&#xa0;: %4 (%5%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
 I blocchi di una pagina sono sempre diversi.</source>
-        <translation type="unfinished"></translation>
+        <translation>La série de cartons est vide ou n&apos;a qu&apos;une seule page.
+Les cartons d&apos;une page sont toujours différents.</translation>
     </message>
     <message>
         <source>Confronto pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison de la page %1 sur %2</translation>
     </message>
     <message>
         <source>numero</source>
-        <translation type="unfinished"></translation>
+        <translation>numéro</translation>
     </message>
     <message>
         <source>testo</source>
-        <translation type="unfinished"></translation>
+        <translation>texte</translation>
     </message>
     <message>
         <source>immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>image</translation>
     </message>
     <message>
         <source>vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>vide</translation>
     </message>
 </context>
 <context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de fichier inconnu&#xa0;!</translation>
     </message>
     <message>
         <source>Formato %1 non disponibile. Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Format %1 non disponible. Création annulée.</translation>
     </message>
     <message>
         <source>Impossibile scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire dans le fichier&#xa0;!</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF&#xa0;: impression de la page %1 sur %2 (%3%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de continuer à écrire dans le fichier&#xa0;!</translation>
     </message>
     <message>
         <source>Stampa PDF completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression PDF terminée&#xa0;!</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -77,272 +81,283 @@ Dimensione: %4 Bytes (%5 MB)
 ----------------------------------------
 
 Dimensioni pagina: %6</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier créé avec succès&#xa0;!
+
+Nom&#xa0;: %1
+Chemin&#xa0;: %2
+
+Pages&#xa0;: %3
+Taille&#xa0;: %4 octets (%5 Mo)
+----------------------------------------
+
+Dimensions de la page&#xa0;: %6</translation>
     </message>
 </context>
 <context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Page</translation>
     </message>
     <message>
         <source>La pagina mostrata</source>
-        <translation type="unfinished"></translation>
+        <translation>La page affichée</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>sur</translation>
     </message>
     <message>
         <source>Il numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de pages</translation>
     </message>
     <message>
         <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
-        <translation type="unfinished"></translation>
+        <translation>Les numéros de cette page sont tirés colonne par colonne, chacune dans son propre intervalle</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Ranger les numéros par colonne</translation>
     </message>
     <message>
         <source>Selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>La selezione comprende tutte le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>La sélection comprend toutes les cases de la page</translation>
     </message>
     <message>
         <source>Tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>da</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Prima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Première ligne de la sélection</translation>
     </message>
     <message>
         <source>a</source>
-        <translation type="unfinished"></translation>
+        <translation>à</translation>
     </message>
     <message>
         <source>Ultima riga della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière ligne de la sélection</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Prima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Première colonne de la sélection</translation>
     </message>
     <message>
         <source>Ultima colonna della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière colonne de la sélection</translation>
     </message>
     <message>
         <source>Spunta le celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Cocher les cases de la sélection</translation>
     </message>
     <message>
         <source>Riempi</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir</translation>
     </message>
     <message>
         <source>Toglie la spunta alle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Décocher les cases de la sélection</translation>
     </message>
     <message>
         <source>Svuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Inverte la spunta delle celle della selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser les cases cochées et non cochées de la sélection</translation>
     </message>
     <message>
         <source>Inverti</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser</translation>
     </message>
     <message>
         <source>Tipo delle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Type des cases</translation>
     </message>
     <message>
         <source>Celle con un numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases avec un numéro</translation>
     </message>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro</translation>
     </message>
     <message>
         <source>Celle con un testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases avec un texte</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Celle con un&apos;immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases avec une image</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Définit le type des cases sélectionnées ci-dessus&#xa0;!&lt;/p&gt;&lt;p&gt;Pour changer une seule case, cliquer dessus avec le bouton droit de la souris.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer à la sélection</translation>
     </message>
     <message>
         <source>Schema corrente</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition actuelle</translation>
     </message>
     <message>
         <source>da pag.</source>
-        <translation type="unfinished"></translation>
+        <translation>de la p.</translation>
     </message>
     <message>
         <source>Prima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Première page sur laquelle copier la disposition</translation>
     </message>
     <message>
         <source>Ultima pagina su cui copiare lo schema</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière page sur laquelle copier la disposition</translation>
     </message>
     <message>
         <source>Copia lo schema su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la disposition sur toutes les pages</translation>
     </message>
     <message>
         <source>tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes</translation>
     </message>
     <message>
         <source>Copia lo schema della pagina mostrata sulle pagine indicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la disposition de la page affichée sur les pages indiquées</translation>
     </message>
     <message>
         <source>Copia</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Crea le pagine e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer les pages et les ajouter à la série de cartons</translation>
     </message>
     <message>
         <source>Crea pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer les pages</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Nuovo</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Per iniziare una nuova mappatura chiudere questa finestra e riaprirla dalla finestra principale</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour commencer une nouvelle disposition, fermer cette fenêtre et la rouvrir depuis la fenêtre principale</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Apre uno schema di pagine da file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une disposition de pages depuis un fichier</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la disposition des pages dans un fichier. Une page de plus de 255 cases ne peut pas être relue en entier, et le rangement des numéros par colonne n&apos;est pas enregistré.</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Chiude la mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la disposition manuelle</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition manuelle</translation>
     </message>
     <message>
         <source>Non vi sono pagine da creare!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a aucune page à créer&#xa0;!</translation>
     </message>
     <message>
         <source>MAPPATURA MANUALE</source>
-        <translation type="unfinished"></translation>
+        <translation>DISPOSITION MANUELLE</translation>
     </message>
     <message>
         <source>Tipo cambiato in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type changé en&#xa0;: %1</translation>
     </message>
     <message>
         <source>I numeri da generare (%1) sono maggiori di quelli disponibili (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a plus de numéros à générer (%1) que de numéros disponibles (%2).</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres corrects</translation>
     </message>
     <message>
         <source>Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pages choisies seront remplacées par la disposition actuelle. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Copia schema effettuata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition copiée&#xa0;!</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages créées et ajoutées à la série principale&#xa0;!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de la création des pages&#xa0;!
+
+%1</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment fermer&#xa0;?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la disposition dans un fichier</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Création du fichier annulée&#xa0;!</translation>
     </message>
     <message>
         <source>Pagina %1 di %2 salvata</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 sur %2 enregistrée</translation>
     </message>
     <message>
         <source>File creato con successo!
@@ -354,773 +369,798 @@ Percorso: %3
 Pagine: %4
 Dimensione: %5 Bytes (%6 MB)
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier créé avec succès&#xa0;!
+
+Nom&#xa0;: %1
+Extension&#xa0;: %2
+Chemin&#xa0;: %3
+
+Pages&#xa0;: %4
+Taille&#xa0;: %5 octets (%6 Mo)
+</translation>
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ouverture d&apos;un autre projet fera perdre tout le travail en cours. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier de disposition</translation>
     </message>
     <message>
         <source>Apertura file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture du fichier annulée&#xa0;!</translation>
     </message>
     <message>
         <source>Sto leggendo la pagina %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de la page %1</translation>
     </message>
     <message>
         <source>Apertura completata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture terminée&#xa0;!</translation>
     </message>
     <message>
         <source>Sto caricando la pagina %1 di %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement de la page %1 sur %2</translation>
     </message>
 </context>
 <context>
     <name>FormatSelection</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialogue</translation>
     </message>
     <message>
         <source>Seleziona la lingua:</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la langue&#xa0;:</translation>
     </message>
     <message>
         <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du programme et des commentaires dans les paramètres</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres par défaut&#xa0;: </translation>
     </message>
     <message>
         <source>Impostazioni di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres par défaut</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Générateur de cartons pour la Quintra.</translation>
     </message>
     <message>
         <source>Numeri - Minimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéros - Minimum</translation>
     </message>
     <message>
         <source>Numeri - Massimo</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéros - Maximum</translation>
     </message>
     <message>
         <source>Classica - Numero blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Classique - Cartons par page</translation>
     </message>
     <message>
         <source>Classica - Numero righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Classique - Lignes par carton</translation>
     </message>
     <message>
         <source>Classica - Numero estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Classique - Cases remplies par ligne</translation>
     </message>
     <message>
         <source>Classica - Numero colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Classique - Colonnes</translation>
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Classique - Jokers par ligne</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte par défaut dans les cases</translation>
     </message>
     <message>
         <source>Immagine di base nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Image par défaut dans les cases</translation>
     </message>
     <message>
         <source>Directory di base dove salvare</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier d&apos;enregistrement par défaut</translation>
     </message>
     <message>
         <source>Lingua di default</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue par défaut</translation>
     </message>
     <message>
         <source>Configurazione</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration</translation>
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de commenter le fichier, format incorrect&#xa0;!</translation>
     </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
     <message>
         <source>Nessuna pagina da generare!</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune page à générer&#xa0;!</translation>
     </message>
     <message>
         <source>Nessun numero generato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun numéro généré&#xa0;!</translation>
     </message>
     <message>
         <source>Genera per colonne:
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>Génération par colonne&#xa0;:
+Impossible de générer %1 numéros dans la colonne n°&#xa0;%2
+La colonne demande %3 numéros différents entre %4 et %5
+mais c&apos;est impossible car l&apos;intervalle ne compte que %6 numéros.</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Génération des numéros&#xa0;:
+Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Série de cartons</translation>
     </message>
     <message>
         <source>Numero di pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de pages</translation>
     </message>
     <message>
         <source>Numero totale di pagine (cartelle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre total de pages (planches de cartons)</translation>
     </message>
     <message>
         <source>Numero di blocchi per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartons par page</translation>
     </message>
     <message>
         <source>Numero di righe per blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes par carton</translation>
     </message>
     <message>
         <source>Numero di colonne</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Numero di celle (colonne) per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de cases (colonnes) par ligne</translation>
     </message>
     <message>
         <source>Celle di ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases de chaque ligne</translation>
     </message>
     <message>
         <source>Numero di estrazioni per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases remplies par ligne</translation>
     </message>
     <message>
         <source>Numero di celle da riempire (numeri,immagini,scritte) in ogni riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de cases à remplir (numéros, images, textes) sur chaque ligne</translation>
     </message>
     <message>
         <source>Numero di immagini per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Images par ligne</translation>
     </message>
     <message>
         <source>Inserisci delle immagini al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre des images (jokers) à la place des numéros dans les cases</translation>
     </message>
     <message>
         <source>Numero di scritte per riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Textes par ligne</translation>
     </message>
     <message>
         <source>Inserisci del testo al posto dei numeri nelle celle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre du texte à la place des numéros dans les cases</translation>
     </message>
     <message>
         <source>Numeri da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéros à tirer</translation>
     </message>
     <message>
         <source>Numero minimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus petit numéro</translation>
     </message>
     <message>
         <source>Numero massimo da estrarre</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grand numéro</translation>
     </message>
     <message>
         <source>Disegna a mano quali celle riempire, pagina per pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir à la main les cases à remplir, page par page</translation>
     </message>
     <message>
         <source>Mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition manuelle</translation>
     </message>
     <message>
         <source>Crea le pagine richieste e le aggiunge alla cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer les pages demandées et les ajouter à la série de cartons</translation>
     </message>
     <message>
         <source>Aggiungi pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des pages</translation>
     </message>
     <message>
         <source>Ctrl+Shift+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Shift+N</translation>
     </message>
     <message>
         <source>Stampa la cartella su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer la série de cartons dans un fichier</translation>
     </message>
     <message>
         <source>STAMPA</source>
-        <translation type="unfinished"></translation>
+        <translation>IMPRIMER</translation>
     </message>
     <message>
         <source>Ctrl+P</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Page</translation>
     </message>
     <message>
         <source>Pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Page affichée</translation>
     </message>
     <message>
         <source>di</source>
-        <translation type="unfinished"></translation>
+        <translation>sur</translation>
     </message>
     <message>
         <source>Numero di pagine della cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de pages de la série de cartons</translation>
     </message>
     <message>
         <source>Elimina la pagina visualizzata</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la page affichée</translation>
     </message>
     <message>
         <source>Elimina</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Formato</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Formato della carta su cui stampare</source>
-        <translation type="unfinished"></translation>
+        <translation>Format du papier d&apos;impression</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi (mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace entre cartons (mm)</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi della pagina, in millimetri</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace entre les cartons de la page, en millimètres</translation>
     </message>
     <message>
         <source>I comandi di pagina e di blocco agiscono su tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Les commandes de page et de carton agissent sur toutes les pages</translation>
     </message>
     <message>
         <source>Applica a tutte</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer à toutes</translation>
     </message>
     <message>
         <source>Imposta lo spazio tra i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Définir l&apos;espace entre les cartons</translation>
     </message>
     <message>
         <source>Applica</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Colori</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs</translation>
     </message>
     <message>
         <source>Colore di sfondo della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de fond de la page</translation>
     </message>
     <message>
         <source>Colora sfondo</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du fond</translation>
     </message>
     <message>
         <source>Blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Carton</translation>
     </message>
     <message>
         <source>Blocco selezionato</source>
-        <translation type="unfinished"></translation>
+        <translation>Carton sélectionné</translation>
     </message>
     <message>
         <source>Blocchi della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartons de la page</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur ligne externe</translation>
     </message>
     <message>
         <source>Spessore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur de la ligne externe du carton (pas encore d&apos;effet)</translation>
     </message>
     <message>
         <source>Spessore linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur ligne interne</translation>
     </message>
     <message>
         <source>Spessore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur des lignes internes du carton (pas encore d&apos;effet)</translation>
     </message>
     <message>
         <source>I comandi di blocco agiscono su tutti i blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Les commandes de carton agissent sur tous les cartons</translation>
     </message>
     <message>
         <source>Applica a tutti</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer à tous</translation>
     </message>
     <message>
         <source>Applica le impostazioni del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer les paramètres du carton (pas encore d&apos;effet)</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle del blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de fond des cases du carton</translation>
     </message>
     <message>
         <source>Colore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de la ligne externe du carton (pas encore d&apos;effet)</translation>
     </message>
     <message>
         <source>Colora linea esterna</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur ligne externe</translation>
     </message>
     <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur des lignes internes du carton (pas encore d&apos;effet)</translation>
     </message>
     <message>
         <source>Colora linea interna</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur ligne interne</translation>
     </message>
     <message>
         <source>Cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Case</translation>
     </message>
     <message>
         <source>Riga</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne</translation>
     </message>
     <message>
         <source>Riga della cella nel suo blocco</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de la case dans son carton</translation>
     </message>
     <message>
         <source>Colonna</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Colonna della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne de la case</translation>
     </message>
     <message>
         <source>Tipo della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de la case</translation>
     </message>
     <message>
         <source>Carattere delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Police des cases sélectionnées</translation>
     </message>
     <message>
         <source>Carattere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Police...</translation>
     </message>
     <message>
         <source>Carattere della cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Police de la case</translation>
     </message>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l&apos;image de la case sélectionnée</translation>
     </message>
     <message>
         <source>Seleziona immagine...</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une image...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Les commandes de case agissent sur les mêmes cases de toutes les pages</translation>
     </message>
     <message>
         <source>Applica le impostazioni della cella (non ha ancora effetto)</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer les paramètres de la case (pas encore d&apos;effet)</translation>
     </message>
     <message>
         <source>Colore del testo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte des cases sélectionnées</translation>
     </message>
     <message>
         <source>Colora testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de fond des cases sélectionnées</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Strumenti</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>Aiuto</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Pulisci</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Apri</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Le mappature si aprono dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dispositions s&apos;ouvrent dans l&apos;éditeur de disposition manuelle</translation>
     </message>
     <message>
         <source>Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+O</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dispositions s&apos;enregistrent dans l&apos;éditeur de disposition manuelle</translation>
     </message>
     <message>
         <source>Ctrl+S</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle</translation>
     </message>
     <message>
         <source>Crea una nuova cartella</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une nouvelle série de cartons</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le programme</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer les cartons</translation>
     </message>
     <message>
         <source>Verifica che non vi siano blocchi uguali</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier qu&apos;il n&apos;y a pas de cartons identiques</translation>
     </message>
     <message>
         <source>Ctrl+B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+B</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Impostazioni del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres du programme</translation>
     </message>
     <message>
         <source>Ctrl+,</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+,</translation>
     </message>
     <message>
         <source>Informazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos du programme</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue dans %1 %2&#xa0;!</translation>
     </message>
     <message>
         <source>La cartella non contiene pagine!</source>
-        <translation type="unfinished"></translation>
+        <translation>La série de cartons ne contient aucune page&#xa0;!</translation>
     </message>
     <message>
         <source>Aggiungere pagine alla cartella prima di proseguire.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez des pages à la série de cartons avant de continuer.</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
-        <translation type="unfinished"></translation>
+        <translation>Création du fichier annulée&#xa0;!</translation>
     </message>
     <message>
         <source>Errore nella creazione del file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de la création du fichier&#xa0;:
+%1</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les cartons dans un fichier</translation>
     </message>
     <message>
         <source>Cartella classica</source>
-        <translation type="unfinished"></translation>
+        <translation>Série classique</translation>
     </message>
     <message>
         <source>Sei sicuro di voler uscire?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment quitter&#xa0;?</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.
 Advanced Bingo cards generator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Générateur de cartons pour la Quintra.
+Générateur avancé de cartons de loto.</translation>
     </message>
     <message>
         <source>Modifica valori</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les valeurs</translation>
     </message>
     <message>
         <source>Errore durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de la modification de la valeur dans le tableau.</translation>
     </message>
     <message>
         <source>Problema durante la modifica del valore nella tabella.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème lors de la modification de la valeur dans le tableau.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous définir la valeur comme TEXTE&#xa0;?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous définir la valeur comme CASE VIDE&#xa0;?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Case définie comme IMAGE.
+Le chemin de l&apos;image doit être choisi dans le panneau latéral.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image affichée est celle de la case sélectionnée. Voulez-vous la changer&#xa0;?</translation>
     </message>
     <message>
         <source>Apre un&apos;immagine da inserire nella cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une image à mettre dans la case</translation>
     </message>
     <message>
         <source>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visisbile. Proseguire?</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image affichée sera celle de la case sélectionnée. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image définie correctement.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
-        <translation type="unfinished"></translation>
+        <translation>Choix de l&apos;image de la case</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment supprimer la série de cartons et en créer une nouvelle&#xa0;?</translation>
     </message>
     <message>
         <source>Creazione annullata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Création annulée.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation type="unfinished"></translation>
+        <translation>Série de %1 pages, %2 cartons %3X%4 générée</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
-        <translation type="unfinished"></translation>
+        <translation>Problèmes dans les paramètres&#xa0;: impossible de continuer&#xa0;!</translation>
     </message>
     <message>
         <source>%1
 
 Vuoi proseguire comunque?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>Sto cancellando la precedente cartella...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppression de la série précédente...</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation type="unfinished"></translation>
+        <translation>Création d&apos;une série de %1 pages, %2 cartons %3X%4...</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante l&apos;aggiunta della pagina %i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Génération des numéros&#xa0;:
+Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Sono state create solo pagine vuote!</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules des pages vides ont été créées&#xa0;!</translation>
     </message>
     <message>
         <source>Generazione numeri:
 Errore durante la generazione della pagina %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Génération des numéros&#xa0;:
+Erreur lors de la génération de la page %1.</translation>
     </message>
     <message>
         <source>Sto creando l&apos;ambiente per la mappatura manuale, attendere...</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation de la disposition manuelle, veuillez patienter...</translation>
     </message>
     <message>
         <source>Ambiente per la mappatura manuale creato.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition manuelle prête.</translation>
     </message>
     <message>
         <source>Celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases de la page</translation>
     </message>
     <message>
         <source>La cartella non contiene la pagina da visualizzare (fuori range)!</source>
-        <translation type="unfinished"></translation>
+        <translation>La série de cartons ne contient pas la page à afficher (hors limites)&#xa0;!</translation>
     </message>
     <message>
         <source>Cartella vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>Série de cartons vide&#xa0;!</translation>
     </message>
     <message>
         <source>La cartella è vuota!</source>
-        <translation type="unfinished"></translation>
+        <translation>La série de cartons est vide&#xa0;!</translation>
     </message>
     <message>
         <source>Problema nell&apos;eliminazione della pagina!
 Pagina non eliminata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème lors de la suppression de la page&#xa0;!
+Page non supprimée.</translation>
     </message>
     <message>
         <source>Pagina eliminata correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Page supprimée.</translation>
     </message>
     <message>
         <source>Nessuna selezione</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sélection</translation>
     </message>
     <message>
         <source>Cella mancante</source>
-        <translation type="unfinished"></translation>
+        <translation>Case manquante</translation>
     </message>
     <message>
         <source>Cella selezionata</source>
-        <translation type="unfinished"></translation>
+        <translation>Case sélectionnée</translation>
     </message>
     <message>
         <source>Selezione multipla</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection multiple</translation>
     </message>
     <message>
         <source>Impostazioni corrette</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres corrects</translation>
     </message>
     <message>
         <source>Estrazioni per riga: Per un corretto funzionamento si consiglia il valore 5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases remplies par ligne&#xa0;: la valeur 5 est conseillée pour un bon fonctionnement.</translation>
     </message>
     <message>
         <source>Nessun elemento selezionato!</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun élément sélectionné&#xa0;!</translation>
     </message>
     <message>
         <source>Modifica colore sfondo blocchi applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de fond des cartons modifiée.</translation>
     </message>
     <message>
         <source>Modifica colore testo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte de la case modifiée.</translation>
     </message>
     <message>
         <source>Modifica colore sfondo cella applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de fond de la case modifiée.</translation>
     </message>
     <message>
         <source>Attenzione</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention</translation>
     </message>
     <message>
         <source>Errore: Le pagine hanno dimensioni diverse.
 Alcune celle sono state omesse!</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur&#xa0;: les pages ont des dimensions différentes.
+Certaines cases ont été ignorées&#xa0;!</translation>
     </message>
     <message>
         <source>Modifica applicata.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification appliquée.</translation>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Police définie correctement.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
 Pagine cartella non ancora generate.
 Impossibile procedere alla verifica!</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de cartons identiques&#xa0;:
+Les pages de la série n&apos;ont pas encore été générées.
+Impossible de lancer la vérification&#xa0;!</translation>
     </message>
     <message>
         <source>Non vi sono blocchi uguali!
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de cartons identiques&#xa0;!
+
+%1</translation>
     </message>
     <message>
         <source>Vi sono %1 blocchi uguali!
@@ -1128,177 +1168,183 @@ Impossibile procedere alla verifica!</source>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a %1 cartons identiques&#xa0;!
+
+%2
+
+Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
         <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation type="unfinished"></translation>
+        <translation>... et %1 autres paires de cartons identiques.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
         <source>riga vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne vide</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>le premier caractère n&apos;indique pas le nombre de lignes de la page</translation>
     </message>
     <message>
         <source>troppo corta per le celle della pagina</source>
-        <translation type="unfinished"></translation>
+        <translation>trop courte pour les cases de la page</translation>
     </message>
     <message>
         <source>oltre il massimo di %1 pagine</source>
-        <translation type="unfinished"></translation>
+        <translation>au-delà du maximum de %1 pages</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces lignes du fichier ne décrivent pas une page et ont été ignorées&#xa0;:</translation>
     </message>
     <message>
         <source>Riga %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Righe da %1 a %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes %1 à %2&#xa0;: %3.</translation>
     </message>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste continue jusqu&apos;à la ligne %1.</translation>
     </message>
 </context>
 <context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Salva</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Testo modificato</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte modifié</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous fermer sans enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>Salva su file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer dans un fichier</translation>
     </message>
     <message>
         <source>File salvato con successo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier enregistré.</translation>
     </message>
     <message>
         <source>Errore nel salvataggio del file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de l&apos;enregistrement du fichier&#xa0;!</translation>
     </message>
 </context>
 <context>
     <name>Options</name>
     <message>
         <source>Impostazioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Consente di ri-selezionare le opzioni al primo avvio del programma</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir à nouveau les options du premier démarrage du programme</translation>
     </message>
     <message>
         <source>Impostazioni iniziali (per il prossimo avvio)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres initiaux (au prochain démarrage)</translation>
     </message>
     <message>
         <source>Azzera ed esci</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser et quitter</translation>
     </message>
     <message>
         <source>Azzera e continua</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser et continuer</translation>
     </message>
     <message>
         <source>Modifica le impostazioni direttamente</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier directement les paramètres</translation>
     </message>
     <message>
         <source>Modifica diretta</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification directe</translation>
     </message>
     <message>
         <source>Opzioni</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème lors de la suppression du fichier&#xa0;:
+ %1</translation>
     </message>
     <message>
         <source>File di configurazione eliminato correttamente.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de configuration supprimé.</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione e l&apos;uscita dal programma?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le fichier de configuration et quitter le programme&#xa0;?</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le fichier de configuration&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer %1 cases remplies avec seulement %2 numéros.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 jokers dans seulement %2 colonnes.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 textes dans seulement %2 colonnes.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 textes et images dans seulement %2 colonnes.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 jokers dans seulement %2 cases remplies.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 textes dans seulement %2 cases remplies.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 textes et images dans seulement %2 cases remplies.</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de placer %1 numéros dans seulement %2 colonnes.</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre total de pages demandé (%1)
+dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Si sconsiglia di proseguire per le seguenti ragioni:
@@ -1306,26 +1352,30 @@ eccedono il massimo consentito (%2).</source>
 %2 -&gt; caselle totali in memoria.
 %3 -&gt; caselle massime gestibili.
 (eventuale crash del programma)</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est déconseillé de continuer pour les raisons suivantes&#xa0;:
+%1 -&gt; total des cases demandées.
+%2 -&gt; total des cases en mémoire.
+%3 -&gt; maximum de cases gérables.
+(le programme pourrait planter)</translation>
     </message>
 </context>
 <context>
     <name>PersonaleChkBox</name>
     <message>
         <source>Numero</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro</translation>
     </message>
     <message>
         <source>Testo</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Immagine</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Vuota</source>
-        <translation type="unfinished"></translation>
+        <translation>Vide</translation>
     </message>
 </context>
 </TS>
