@@ -7,9 +7,13 @@
 #include "settings/Product.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
+#include <QCursor>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QTableWidget>
 
@@ -23,6 +27,32 @@ QPixmap iconOf(const QImage &image)
     }
     return QPixmap::fromImage(image.scaled(largest, largest, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
+
+// A mouse press elsewhere ends the editing of a cell before it reaches the widget it is meant for. Its release goes to
+// the questions that are asked meanwhile: a spin box would then count on for ever, a button stay pressed. This sends
+// the release after the press.
+class LostMouseRelease final
+{
+public:
+    LostMouseRelease()
+        : m_pressed(QGuiApplication::mouseButtons() == Qt::LeftButton ? QApplication::focusWidget() : nullptr)
+        , m_position(QCursor::pos())
+    {
+    }
+    ~LostMouseRelease()
+    {
+        if (!m_pressed.isNull() && QGuiApplication::mouseButtons() == Qt::NoButton) {
+            QCoreApplication::postEvent(m_pressed, new QMouseEvent(QEvent::MouseButtonRelease,
+                                                                   m_pressed->mapFromGlobal(m_position), m_position,
+                                                                   Qt::LeftButton, Qt::NoButton, Qt::NoModifier));
+        }
+    }
+    Q_DISABLE_COPY_MOVE(LostMouseRelease)
+
+private:
+    QPointer<QWidget> m_pressed; // took the focus by the press
+    QPoint m_position;           // on the screen
+};
 } // namespace
 
 void MainWindow::tableItemChanged(QTableWidgetItem *item)
@@ -48,6 +78,7 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
     QTableWidget *const table = m_table;
     const CELL_VALUE before = cell->tipo;
     {
+        const LostMouseRelease release;
         const QScopedValueRollback<QTableWidget *> asking(m_tableAsking, table);
         setTypedText(cell, item->text());
     }

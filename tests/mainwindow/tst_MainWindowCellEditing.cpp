@@ -5,6 +5,7 @@
 #include "support/LogCapture.h"
 
 #include <QFileDialog>
+#include <QWindow>
 
 namespace {
 const QString title = QStringLiteral("Quintra - Modifica valori");
@@ -52,6 +53,22 @@ void showImageCell(PageWindow &w)
     w.select(0, 0);
 }
 
+// The user types a text and, instead of ending the line, clicks elsewhere in the window: the button is released over
+// the question that comes.
+void pressDuringEditing(PageWindow &w, const QPoint &place)
+{
+    w.table()->editItem(w.item(0, 0));
+    auto *editor = w.table()->viewport()->findChild<QLineEdit *>();
+    editor->setFocus();
+    QTest::keyClicks(editor, QStringLiteral("ciao"));
+    QWindow *handle = w.window->windowHandle();
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [handle, place](QMessageBox *) {
+        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, place);
+    });
+    QCursor::setPos(w.window->mapToGlobal(place));
+    QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, place);
+}
+
 QImage picture(const QSize &size, const QColor &colour)
 {
     QImage image(size, QImage::Format_RGB32);
@@ -82,6 +99,8 @@ private slots:
     void aFillerIsNoCell();
     void theGuardIsDownAfterEveryEdit();
     void aPageLoadedDuringAQuestionIsSafe();
+    void aClickThatEndsTheEditingStepsOnePage();
+    void aClickThatEndsTheEditingPressesAButton();
 
     void anImageIsChosen();
     void aPresentImageIsAskedAbout();
@@ -310,6 +329,32 @@ void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionIsSafe()
     QCOMPARE(w.window->findChildren<QTableWidget *>().size(), 1);
     w.type(0, 0, QStringLiteral("5"));
     QCOMPARE(w.cell(0, 0, 0).numero, 5U);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aClickThatEndsTheEditingStepsOnePage()
+{
+    PageWindow w;
+    w.showPages(9, {1, 1, 2});
+    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+    const QSpinBox *number = w.pageNumber();
+    const QPoint arrowUp(number->width() - 4, 4);
+    pressDuringEditing(w, number->mapTo(w.window.get(), arrowUp));
+    QTest::qWait(1200); // long enough for a pressed arrow to repeat
+    QCOMPARE(number->value(), 2);
+    QCOMPARE(w.cell(0, 0, 0).testo, QStringLiteral("ciao"));
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aClickThatEndsTheEditingPressesAButton()
+{
+    PageWindow w;
+    w.showPages(3, {1, 1, 2});
+    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+    const auto *button = w.find<QPushButton>("pagina_elimina");
+    pressDuringEditing(w, button->mapTo(w.window.get(), button->rect().center()));
+    QTRY_COMPARE(w.set()->getNumPages(), 2);
+    QVERIFY(!button->isDown());
     QCOMPARE(w.boxes.problems(), QStringList());
 }
 
