@@ -6,7 +6,9 @@
 #include "ui_MainWindow.h"
 
 #include <QColorDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QTableWidget>
@@ -14,6 +16,15 @@
 namespace {
 // More lines of equal blocks than these nobody reads.
 constexpr qint64 mostLines = 100000;
+
+// The font as it is drawn: of a family that is not installed the font dialog would choose just any.
+QFont installedFont(QFont font)
+{
+    if (!QFontDatabase().families().contains(font.family())) {
+        font.setFamily(QFontInfo(font).family());
+    }
+    return font;
+}
 } // namespace
 
 QVector<Pagina *> MainWindow::pagesInRange() const
@@ -252,7 +263,7 @@ void MainWindow::on_applica_tutti_blocchi_checkBox_clicked(bool checked)
 void MainWindow::on_seleziona_font_button_clicked()
 {
     bool chosen = false;
-    const QFont font = QFontDialog::getFont(&chosen, m_currentFont, this);
+    const QFont font = QFontDialog::getFont(&chosen, installedFont(m_currentFont), this);
     if (!chosen) {
         return;
     }
