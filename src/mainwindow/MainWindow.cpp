@@ -100,8 +100,13 @@ void MainWindow::replaceCardSet(std::unique_ptr<Cartella> cartella)
 
 void MainWindow::updateStatusBar(const QString &msg)
 {
+    constexpr qint64 briefly = 20; // milliseconds
     ui->statusBar->showMessage(msg);
+    if (m_manyMessages && m_lastRepaint.isValid() && !m_lastRepaint.hasExpired(briefly)) {
+        return;
+    }
     ui->statusBar->repaint(); // long operations run no event loop
+    m_lastRepaint.start();
 }
 
 void MainWindow::setStatusBarStyle()

@@ -5,6 +5,7 @@
 #include "mainwindow/ParameterRules.h"
 #include "model/Cartella.h"
 
+#include <QElapsedTimer>
 #include <QFont>
 #include <QMainWindow>
 #include <QPointer>
@@ -185,5 +186,7 @@ private:
     int m_pagesBeforeEditor = 0;      // page count when the editor was opened
     bool m_leaving = false;           // the user has confirmed leaving
     bool m_generated = false;         // a card set has been generated
+    bool m_manyMessages = false;      // more come than can be read: not every one is painted
+    QElapsedTimer m_lastRepaint;      // of the status bar
     bool m_editGuard = false;         // while set, changes of table items are not edits
 };

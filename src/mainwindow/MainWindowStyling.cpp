@@ -287,6 +287,7 @@ void MainWindow::on_actionConfronta_blocchi_triggered()
     qint64 pairs = 0;
     {
         const WaitCursor waiting(this);
+        const QScopedValueRollback<bool> progress(m_manyMessages, true);
         pairs = m_cartella->checkForEqualBlocks(nullptr, &summary);
     }
     if (pairs == 0) {
