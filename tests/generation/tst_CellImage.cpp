@@ -13,6 +13,18 @@
 #include <memory>
 
 namespace {
+// A file of one colour that has the same size in every colour.
+QByteArray bitmap(const QColor &color)
+{
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(color);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "BMP");
+    return bytes;
+}
+
 // A JPEG file 40 wide and 20 high, red at the left and blue at the right, whose camera noted that it must be turned a
 // quarter clockwise.
 QByteArray jpegLyingOnItsSide()
@@ -55,6 +67,7 @@ private slots:
     void whatIsNoPictureIsANullImage();
     void theDefaultPictureIsShared();
     void theDefaultPictureFollowsItsFile();
+    void aNewerFileOfTheSameSizeIsRead();
     void theDefaultPictureFollowsTheConfiguration();
     void withoutADefaultPictureItIsNull();
 
@@ -121,9 +134,14 @@ void tst_CellImage::theDefaultPictureFollowsItsFile()
 
     m_folder->writePicture(QStringLiteral("default.png"), QSize(300, 200), Qt::blue);
     QCOMPARE(defaultCellImage().size(), QSize(300, 200));
+}
 
-    // Of the same size in bytes, but newer.
-    m_folder->writePicture(QStringLiteral("default.png"), QSize(300, 200), Qt::green);
+void tst_CellImage::aNewerFileOfTheSameSizeIsRead()
+{
+    m_folder->write(QStringLiteral("default.png"), bitmap(Qt::red));
+    QCOMPARE(defaultCellImage().pixelColor(0, 0), QColor(Qt::red));
+
+    m_folder->write(QStringLiteral("default.png"), bitmap(Qt::green));
     QFile file(m_folder->path(QStringLiteral("default.png")));
     QVERIFY(file.open(QIODevice::ReadWrite));
     QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));

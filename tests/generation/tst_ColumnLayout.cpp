@@ -88,6 +88,24 @@ void forAllSmallRules(Check check)
     }
 }
 
+// How many numbers a successful search takes from the generator; -1 for more than any search here.
+int randomCallsOfSearch(const LayoutRules &rules, unsigned seed, int maxPasses)
+{
+    constexpr int most = 1000;
+    seedRandom(seed);
+    if (!searchLayout(rules, maxPasses)) {
+        return -1;
+    }
+    const int next = nextRandom();
+    seedRandom(seed);
+    for (int calls = 0; calls < most; ++calls) {
+        if (nextRandom() == next) {
+            return calls;
+        }
+    }
+    return -1;
+}
+
 // So tight that one pass hardly ever repairs a drawing.
 LayoutRules tightRules()
 {
@@ -112,6 +130,7 @@ private slots:
     void constructedLayoutsDiffer();
     void searchKeepsTheRules();
     void searchGivesUpAfterItsDrawings();
+    void passesAreCountedPerDrawing();
     void withoutSuccessTheLayoutIsConstructed();
     void withoutALayoutNoRandomCallIsMade();
     void fullRowsEnd();
@@ -261,6 +280,16 @@ void tst_ColumnLayout::searchGivesUpAfterItsDrawings()
     QVERIFY(!searchLayout(tightRules(), -5).has_value());
     seedRandom(1);
     QVERIFY(searchLayout(tightRules(), 1000).has_value());
+}
+
+// Three rows of three columns, two cells each: drawing costs 6 calls, moving a cell one.
+void tst_ColumnLayout::passesAreCountedPerDrawing()
+{
+    const auto rules = rulesFor(3, 2, {2, 2, 2});
+    QCOMPARE(randomCallsOfSearch(rules, 38, 1), 6 + 2); // one pass moves two cells
+    QCOMPARE(randomCallsOfSearch(rules, 14, 2), 6 + 2); // each of two passes moves one
+    // Without the second pass the rows are drawn again.
+    QVERIFY(randomCallsOfSearch(rules, 14, 1) >= 6 + 1 + 6);
 }
 
 void tst_ColumnLayout::withoutSuccessTheLayoutIsConstructed()

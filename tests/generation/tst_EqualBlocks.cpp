@@ -103,6 +103,8 @@ private slots:
     void signaturesSpellTheCells();
     void signaturesOfTheLargestNumbers();
     void signaturesOfLongTexts();
+    void signaturesOfWideRows();
+    void signaturesForgetFormerNumbers();
     void signaturesDoNotSeparateCells();
     void signaturesOfBlocksWithoutCells();
     void smallSetsAreNotChecked_data();
@@ -127,6 +129,7 @@ private slots:
     void theFirstLinesAlone();
     void theFirstLinesComeWithoutProgress();
     void manyEqualBlocksAreCountedAtOnce();
+    void manyDifferentBlocksAreToldApart();
     void unknownCellTypesStopTheProgram();
 };
 
@@ -155,6 +158,36 @@ void tst_EqualBlocks::signaturesOfLongTexts()
     setText(cellOf(set, 0, 0, 0), text);
     setText(cellOf(set, 0, 0, 1), text);
     QCOMPARE(blockSignature(set.pagine[0]->blocchi[0]), QStringLiteral("S%1S%1\n").arg(text));
+}
+
+void tst_EqualBlocks::signaturesOfWideRows()
+{
+    const Cartella set(1, 3, 255);
+    QString expected;
+    for (int r = 0; r < 3; ++r) {
+        for (int c = 0; c < 255; ++c) {
+            const auto number = static_cast<quint32>(r == 2 ? c * 7 : 100 + c);
+            setNumber(set.pagine[0]->blocchi[0].righe[r].celle[c], number);
+            expected += QString::number(number);
+        }
+        expected += QLatin1Char('\n');
+    }
+    QCOMPARE(blockSignature(set.pagine[0]->blocchi[0]), expected);
+}
+
+// A cell keeps the fields of its former types.
+void tst_EqualBlocks::signaturesForgetFormerNumbers()
+{
+    const Cartella set(1, 1, 3);
+    for (const quint32 former : {77U, 4294967295U, 4294966295U}) {
+        for (int c = 0; c < 3; ++c) {
+            setNumber(cellOf(set, 0, 0, c), former);
+        }
+        setText(cellOf(set, 0, 0, 0), QStringLiteral("x"));
+        cellOf(set, 0, 0, 1).tipo = CELL_VUOTA;
+        cellOf(set, 0, 0, 2).tipo = CELL_IMMAGINE;
+        QCOMPARE(blockSignature(set.pagine[0]->blocchi[0]), QStringLiteral("Sx J0\n"));
+    }
 }
 
 void tst_EqualBlocks::signaturesDoNotSeparateCells()
@@ -440,6 +473,20 @@ void tst_EqualBlocks::manyEqualBlocksAreCountedAtOnce()
     QCOMPARE(summaryLine(summary, 1), QStringLiteral("Confronti tra blocchi: 77305872420"));
     QCOMPARE(set.equalBlockLines(1000).size(), 1000);
     QVERIFY(timer.elapsed() < 20000);
+}
+
+// So many that some must share a hash value.
+void tst_EqualBlocks::manyDifferentBlocksAreToldApart()
+{
+    Cartella set(65535, 6, 1, 1);
+    unsigned value = 1;
+    for (const Pagina *page : qAsConst(set.pagine)) {
+        for (int b = 0; b < 6; ++b) {
+            value = value * 1103515245U + 12345U; // comes round only after all 32-bit values
+            setText(page->blocchi[b].righe[0].celle[0], QString::number(value, 36));
+        }
+    }
+    QCOMPARE(set.checkForEqualBlocks(), qint64(0));
 }
 
 void tst_EqualBlocks::unknownCellTypesStopTheProgram()
