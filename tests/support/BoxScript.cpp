@@ -27,8 +27,7 @@ bool isScripted(const QWidget *widget)
 QString press(QMessageBox *box, QMessageBox::StandardButton answer)
 {
     if (answer == QMessageBox::Escape) {
-        box->reject();
-        return QString();
+        return box->close() ? QString() : QStringLiteral("cannot be closed by its title bar");
     }
     QAbstractButton *button = box->button(answer);
     if (button == nullptr) {
