@@ -118,12 +118,13 @@ Source readCode(const QString &folder)
 {
     const QTemporaryDir scratch;
     const QString path = scratch.filePath(QStringLiteral("code.ts"));
-    const int result = QProcess::execute(QStringLiteral(QUINTRA_LUPDATE),
-                                         {QStringLiteral("-silent"), folder, QStringLiteral("-ts"), path});
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(QUINTRA_LUPDATE), {QStringLiteral("-silent"), folder, QStringLiteral("-ts"), path});
+    const bool succeeded = lupdate.waitForFinished() && lupdate.exitCode() == 0;
     QFile file(path);
-    if (result != 0 || !file.open(QIODevice::ReadOnly)) {
+    if (!succeeded || !file.open(QIODevice::ReadOnly)) {
         Source failed;
-        failed.error = QStringLiteral("lupdate failed on %1").arg(folder);
+        failed.error = QString::fromLocal8Bit(lupdate.readAllStandardError()) + lupdate.errorString();
         return failed;
     }
     return read(file.readAll());
