@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "personale/EditPersonale.h"
 
+#include "generation/GUtils.h"
 #include "mainwindow/WaitCursor.h"
-#include "msgarea/MsgArea.h"
 #include "personale/GeneraCartellaPersonale.h"
 #include "resources/Resources.h"
 #include "settings/Product.h"
@@ -10,6 +10,7 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QScrollBar>
 
 namespace {
 size_t cellCount(const PaginaPersonale &page)
@@ -70,19 +71,27 @@ EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 co
     }
     displayPage(0);
     ui->pageNumSpinBox->setValue(1);
-    ui->pageNumDisplay->display(m_pageCount);
+    showPageCount();
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocusedCell(now); });
     setWindowTitle(Product::nameAndRelease() + QStringLiteral(" - ") + tr("MAPPATURA MANUALE"));
     checkSettings();
     setWindowModality(Qt::ApplicationModal); // without effect once the window is shown
     m_open = true;
     show();
+    fitToolsWidth();
 }
 
 EditPersonale::~EditPersonale()
 {
     m_open = false;
     takeDisplayedBoxes();
+}
+
+// Only a shown widget knows its width for sure. A scroll bar, in a low window, hides nothing.
+void EditPersonale::fitToolsWidth()
+{
+    ui->toolsScrollArea->setFixedWidth(ui->toolsWidget->sizeHint().width() +
+                                       ui->toolsScrollArea->verticalScrollBar()->sizeHint().width());
 }
 
 void EditPersonale::buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick)
@@ -134,6 +143,12 @@ void EditPersonale::switchToPage(U16 page)
     ui->checkBox_ordinaNumxColonne->setChecked(m_pages[page].ordinaPerColonne != 0);
     repaint();
     m_currentPage = page;
+}
+
+void EditPersonale::showPageCount()
+{
+    ui->pageNumDisplay->setDigitCount(GUtils::numCifre(m_pageCount));
+    ui->pageNumDisplay->display(m_pageCount);
 }
 
 void EditPersonale::showFocusedCell(QWidget *focused)

@@ -68,10 +68,12 @@ private:
     enum class RightClick { CyclesType, Ignored };
     enum class Verdict { Unknown, Correct, TooManyNumbers };
 
+    void fitToolsWidth();
     void buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick);
     void takeDisplayedBoxes();
     void displayPage(U16 page);
     void switchToPage(U16 page);
+    void showPageCount();
     void showFocusedCell(QWidget *focused);
     // The page on display; null in an editor without pages.
     PaginaPersonale *displayedPage();

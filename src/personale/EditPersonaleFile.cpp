@@ -146,7 +146,7 @@ void EditPersonale::replacePages(const std::vector<MappingFile::SchemaPagina> &s
     }
     checkSettings();
     ui->pageNumSpinBox->setValue(1);
-    ui->pageNumDisplay->display(m_pageCount);
+    showPageCount();
     updatePageRange();
 }
 

@@ -9,7 +9,8 @@
 #include <QStylePainter>
 
 namespace {
-constexpr int tilePadding = 4; // pixels between the edge of a cell and its content
+constexpr int tilePadding = 3;     // pixels between the edge of a cell and its content
+constexpr double signScale = 0.75; // of the font of the type's letter to that of the number
 
 // Boxes at the same place of different pages share one text.
 const QString &positionText(U8 row, U8 column)
@@ -42,11 +43,18 @@ QColor tileColor(CELL_VALUE tipo, bool ticked)
     color.setAlpha(ticked ? 130 : 35);
     return color;
 }
+QFont signFont(QFont font)
+{
+    font.setPointSizeF(font.pointSizeF() * signScale);
+    return font;
+}
 } // namespace
 
 PersonaleChkBox::PersonaleChkBox()
     : tipo(CELL_VUOTA)
 {
+    static const int positionType = qRegisterMetaType<U8>("U8"); // an argument of the signals
+    Q_UNUSED(positionType)
     setPosition(0, 0);
     setStatusTip(typeName(tipo));
     connect(this, &QCheckBox::toggled, this, &PersonaleChkBox::checked);
@@ -84,12 +92,20 @@ void PersonaleChkBox::setPosition(U8 row, U8 column)
     setToolTip(positionText(row, column));
 }
 
+// Numbers of two digits fit without moving the grid.
 QSize PersonaleChkBox::sizeHint() const
 {
-    const int line = fontMetrics().height();
-    const QSize empty(3 * line, line + 3 * tilePadding);
-    const QSize content = QCheckBox::sizeHint() + QSize(2 * tilePadding + line, 0);
-    return content.expandedTo(empty);
+    const int indicator =
+        style()->pixelMetric(QStyle::PM_IndicatorWidth) + style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
+    const QFontMetrics metrics = fontMetrics();
+    const int number = qMax(metrics.horizontalAdvance(text()), metrics.horizontalAdvance(QStringLiteral("00")));
+    const int sign = QFontMetrics(signFont(font())).horizontalAdvance(QLatin1Char('M'));
+    return QSize(indicator + number + sign + 4 * tilePadding, metrics.height() + 3 * tilePadding);
+}
+
+bool PersonaleChkBox::hitButton(const QPoint &position) const
+{
+    return rect().contains(position);
 }
 
 void PersonaleChkBox::checked(bool b)
@@ -147,6 +163,7 @@ void PersonaleChkBox::paintEvent(QPaintEvent *)
     option.rect.adjust(tilePadding, 0, -tilePadding, 0);
     painter.drawControl(QStyle::CE_CheckBox, option);
 
+    painter.setFont(signFont(font()));
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(option.rect, Qt::AlignRight | Qt::AlignVCenter, statusTip().left(1));
 }

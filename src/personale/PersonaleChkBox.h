@@ -37,6 +37,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    // The whole cell can be clicked.
+    bool hitButton(const QPoint &position) const override;
 
 private:
     static QString typeName(CELL_VALUE value);
