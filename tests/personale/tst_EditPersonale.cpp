@@ -1,0 +1,871 @@
+// SPDX-License-Identifier: MIT
+#include "EditorUnderTest.h"
+#include "support/FatalMessage.h"
+
+#include <QMenu>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+class TestEditPersonale : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theWindowOpensOnPageOne();
+    void withoutPagesTheWindowClosesAtOnce();
+    void theWindowThatOpenedItTakesNoInput();
+    void theTextsOfTheForm_data();
+    void theTextsOfTheForm();
+    void theMenuHoldsItsCommands();
+    void everyInputHasAToolTip();
+
+    void switchingShowsThePage();
+    void pageNumbersBeyondTheLastAreClamped();
+    void theColumnFlagBelongsToThePage();
+    void boxesOutOfDisplayHaveNoParent();
+
+    void aRowStartAboveThePageIsTheLastRow();
+    void aRowStartAboveTheEndRaisesTheEnd();
+    void aRowEndAboveThePageIsTheLastRow();
+    void aRowEndBelowTheStartLowersTheStart();
+    void aColumnStartAboveThePageIsTheLastColumn();
+    void aColumnStartAboveTheEndRaisesTheEnd();
+    void aColumnEndAboveThePageIsTheLastColumn();
+    void aColumnEndBelowTheStartLowersTheStart();
+
+    void fillEmptyAndInvertWorkOnTheRectangle();
+    void fillEmptyAndInvertWorkOnTheWholePage();
+    void theChosenTypeIsSetInScope_data();
+    void theChosenTypeIsSetInScope();
+    void withoutAChosenTypeCellsBecomeEmpty();
+
+    void rightClicksCycleTheType();
+    void anUnknownTypeBecomesEmptyByRightClick();
+    void anUnknownTypeStopsACopy();
+
+    void tooManyNumbersForbidTheCreation();
+    void textCellsAreNotCounted();
+    void theCountIsKeptWhenThePageIsSwitched();
+
+    void theCopyRangeIsClamped();
+    void theCopyRangeStaysInOrder();
+    void allPagesDisableTheCopyRange();
+    void copyingTakesTickTypeAndFlag();
+    void decliningTheCopyChangesNothing();
+    void copyingAGoodSchemeToManyPagesLeavesTheCreationAllowed();
+
+    void creatingAddsThePagesAndShowsTheNumbers();
+    void theMenuCreatesToo();
+    void aFailedCreationTellsWhy();
+    void warningsOfASuccessAreNotShown();
+    void anImpossibleOtherPageGetsZeros();
+
+    void decliningToCloseKeepsTheWindow();
+    void closingReportsAndDeletesTheWindow();
+    void theMainWindowFollowsTheActivation();
+    void theMainWindowFollowsTheWindowState();
+    void theMainWindowIsBackAfterClosing();
+    void aMaximizedMainWindowComesBackMaximized();
+    void otherChangesAreAccepted();
+    void theMainWindowMayGoFirst();
+
+    void eighteenRowsOfNineFitWithoutScrolling();
+    void largerPagesScrollToTheFocusedCell();
+    void openingAndClosingFiftyTimes();
+};
+
+void TestEditPersonale::theWindowOpensOnPageOne()
+{
+    EditorUnderTest t(3, 9, 4);
+    QCOMPARE(t.editor->windowTitle(), QStringLiteral("Quintra v0.704 - MAPPATURA MANUALE"));
+    QVERIFY(t.editor->isVisible());
+    QVERIFY(t.editor->isWindow());
+    QCOMPARE(t.editor->parentWidget(), &t.mainWindow);
+    QCOMPARE(t.spin("pageNumSpinBox")->value(), 1);
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 4);
+    QCOMPARE(t.grid()->count(), 27);
+    for (int row = 0; row < 3; ++row) {
+        for (int column = 0; column < 9; ++column) {
+            const PersonaleChkBox *box = t.box(row, column);
+            QVERIFY(box != nullptr);
+            QVERIFY(box->isVisible());
+            QCOMPARE(int(box->riga), row);
+            QCOMPARE(int(box->colonna), column);
+            QCOMPARE(box->toolTip(), QStringLiteral("%1,%2").arg(row + 1).arg(column + 1));
+            QCOMPARE(box->tipo, CELL_VUOTA);
+            QVERIFY(!box->isChecked());
+        }
+    }
+    QCOMPARE(t.verdict(), QStringLiteral("Impostazioni corrette"));
+    QCOMPARE(t.picture(), QStringLiteral("ok"));
+    QVERIFY(t.canCreate());
+    for (const char *name : {"pageNumSpinBox", "impostaDAspinBox", "impostaAspinBox"}) {
+        QCOMPARE(t.spin(name)->minimum(), 1);
+        QCOMPARE(t.spin(name)->maximum(), 65535);
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::withoutPagesTheWindowClosesAtOnce()
+{
+    BoxScript boxes;
+    boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"), QStringLiteral("Non vi sono pagine da creare!"),
+                    QMessageBox::Ok, QMessageBox::Warning);
+    QWidget mainWindow;
+    mainWindow.show();
+    Cartella cartella;
+    const QPointer<EditPersonale> editor = new EditPersonale(&mainWindow, &cartella, 3, 9, 0, 1, 90, 0);
+    QVERIFY(!editor.isNull());
+    QSignalSpy done(editor, &EditPersonale::done);
+    QVERIFY(!editor->isVisible());
+    editor->close(); // still no question
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(editor.isNull());
+    QCOMPARE(done.size(), 0);
+    QVERIFY(!mainWindow.isMinimized());
+    QCOMPARE(boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::theWindowThatOpenedItTakesNoInput()
+{
+    QWidget mainWindow;
+    QCheckBox control(&mainWindow);
+    mainWindow.resize(200, 100);
+    control.setGeometry(mainWindow.rect());
+    mainWindow.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&mainWindow));
+    QTest::mouseClick(mainWindow.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(9, 50));
+    QVERIFY(control.isChecked()); // so far it does
+
+    Cartella cartella;
+    EditPersonale editor(&mainWindow, &cartella, 3, 9, 1, 1, 90, 0);
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    QCOMPARE(QApplication::activeModalWidget(), &editor);
+    QTest::mouseClick(mainWindow.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(9, 50));
+    QTest::keyClick(mainWindow.windowHandle(), Qt::Key_Space);
+    QVERIFY(control.isChecked());
+}
+
+void TestEditPersonale::theTextsOfTheForm_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    const QList<QPair<const char *, const char *>> texts{
+        {"checkBox_ordinaNumxColonne", "Ordina numeri sulle colonne"},
+        {"selezione_tutte_ckbox", "Tutte"},
+        {"riempiButton", "Riempi"},
+        {"svuotaButton", "Svuota"},
+        {"invertiButton", "Inverti"},
+        {"num_radioButton", "Numero"},
+        {"txt_radioButton", "Testo"},
+        {"img_radioButton", "Immagine"},
+        {"setNumTxtImgButton", "Imposta selezionate"},
+        {"impostasuttute_checkBox", "tutte"},
+        {"impostaschemacorrenteButton", "Copia"},
+        {"row_label", "Riga"},
+        {"col_label", "Colonna"},
+        {"row_from_label", "da"},
+        {"row_to_label", "a"},
+        {"impostaDAlabel", "da pag."},
+        {"impostaAlabel", "a"},
+    };
+    for (const auto &entry : texts) {
+        QTest::newRow(entry.first) << QString(QLatin1String(entry.first)) << QString(QLatin1String(entry.second));
+    }
+}
+
+void TestEditPersonale::theTextsOfTheForm()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    EditorUnderTest t;
+    const auto *widget = t.editor->findChild<QWidget *>(name);
+    QVERIFY(widget != nullptr);
+    QCOMPARE(widget->property("text").toString(), text);
+}
+
+void TestEditPersonale::theMenuHoldsItsCommands()
+{
+    EditorUnderTest t;
+    const auto *menu = t.find<QMenu>("menuFile");
+    QCOMPARE(menu->title(), QStringLiteral("File"));
+    QStringList names;
+    for (const QAction *action : menu->actions()) {
+        if (!action->isSeparator()) {
+            names << action->objectName();
+        }
+    }
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("actionNuovo"), QStringLiteral("actionOpen"), QStringLiteral("actionSave"),
+                          QStringLiteral("actionCreaPagine"), QStringLiteral("actionEsci")}));
+    const QString saveTip = t.find<QAction>("actionSave")->toolTip();
+    QVERIFY(saveTip.contains(QStringLiteral("255")));
+    QVERIFY(saveTip.contains(QStringLiteral("colonne")));
+    QVERIFY(menu->toolTipsVisible());
+    QCOMPARE(t.find<QAction>("actionOpen")->shortcut(), QKeySequence(QKeySequence::Open));
+    QCOMPARE(t.find<QAction>("actionSave")->shortcut(), QKeySequence(QKeySequence::Save));
+}
+
+void TestEditPersonale::everyInputHasAToolTip()
+{
+    EditorUnderTest t;
+    for (const QWidget *widget : t.editor->findChildren<QWidget *>()) {
+        const bool input = qobject_cast<const QAbstractButton *>(widget) != nullptr ||
+                           qobject_cast<const QSpinBox *>(widget) != nullptr;
+        if (input && !widget->objectName().startsWith(QLatin1String("qt_"))) {
+            QVERIFY2(!widget->toolTip().isEmpty(), qPrintable(widget->objectName()));
+        }
+    }
+    const QString tip = t.button("setNumTxtImgButton")->toolTip();
+    QCOMPARE(tip, QStringLiteral("<p>Imposta il tipo delle celle selezionate sopra!</p><p>Per cambiare le singole "
+                                 "celle usare il tasto destro del mouse su di esse.</p>"));
+}
+
+void TestEditPersonale::switchingShowsThePage()
+{
+    EditorUnderTest t(1, 3, 3);
+    t.tick(0, 0, CELL_NUMERO);
+    QPointer<PersonaleChkBox> first = t.box(0, 0);
+    t.showPage(2);
+    QCOMPARE(t.drawn(), QStringLiteral("ooo"));
+    QVERIFY(t.box(0, 0) != first);
+    QVERIFY(t.box(0, 2)->isVisible());
+    QVERIFY(!first->isVisible());
+    t.tick(0, 2, CELL_TESTO);
+    t.showPage(1);
+    QCOMPARE(t.box(0, 0), first.data());
+    QVERIFY(first->isVisible());
+    QCOMPARE(t.drawn(), QStringLiteral("Noo"));
+    t.showPage(2);
+    QCOMPARE(t.drawn(), QStringLiteral("ooS"));
+    QCOMPARE(t.grid()->count(), 3);
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+}
+
+void TestEditPersonale::pageNumbersBeyondTheLastAreClamped()
+{
+    EditorUnderTest t(1, 2, 3);
+    t.showPage(3);
+    t.tick(0, 0, CELL_NUMERO);
+    t.showPage(1);
+    t.showPage(65535);
+    QCOMPARE(t.spin("pageNumSpinBox")->value(), 3);
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+}
+
+void TestEditPersonale::theColumnFlagBelongsToThePage()
+{
+    EditorUnderTest t(1, 2, 3);
+    const auto *flag = t.button("checkBox_ordinaNumxColonne");
+    t.showPage(2);
+    t.click("checkBox_ordinaNumxColonne");
+    QVERIFY(flag->isChecked());
+    t.showPage(1);
+    QVERIFY(!flag->isChecked());
+    t.showPage(2);
+    QVERIFY(flag->isChecked());
+    t.click("checkBox_ordinaNumxColonne");
+    t.showPage(3);
+    t.showPage(2);
+    QVERIFY(!flag->isChecked());
+}
+
+void TestEditPersonale::boxesOutOfDisplayHaveNoParent()
+{
+    EditorUnderTest t(1, 2, 2);
+    const PersonaleChkBox *box = t.box(0, 0);
+    QVERIFY(box->parentWidget() != nullptr);
+    t.showPage(2);
+    QVERIFY(box->parentWidget() == nullptr);
+    QVERIFY(box->isHidden());
+    QCOMPARE(QGuiApplication::topLevelWindows().size(), 2); // none of the boxes became one
+}
+
+void TestEditPersonale::aRowStartAboveThePageIsTheLastRow()
+{
+    EditorUnderTest t(3, 9);
+    t.spin("row_from_spinBox")->setValue(200);
+    QCOMPARE(t.spin("row_from_spinBox")->value(), 3);
+    QCOMPARE(t.spin("row_to_spinBox")->value(), 3);
+}
+
+void TestEditPersonale::aRowStartAboveTheEndRaisesTheEnd()
+{
+    EditorUnderTest t(5, 9);
+    t.spin("row_to_spinBox")->setValue(2);
+    t.spin("row_from_spinBox")->setValue(3);
+    QCOMPARE(t.spin("row_from_spinBox")->value(), 3);
+    QCOMPARE(t.spin("row_to_spinBox")->value(), 3);
+}
+
+void TestEditPersonale::aRowEndAboveThePageIsTheLastRow()
+{
+    EditorUnderTest t(3, 9);
+    t.spin("row_to_spinBox")->setValue(4);
+    QCOMPARE(t.spin("row_to_spinBox")->value(), 3);
+    QCOMPARE(t.spin("row_from_spinBox")->value(), 1);
+}
+
+void TestEditPersonale::aRowEndBelowTheStartLowersTheStart()
+{
+    EditorUnderTest t(5, 9);
+    t.spin("row_to_spinBox")->setValue(5);
+    t.spin("row_from_spinBox")->setValue(4);
+    t.spin("row_to_spinBox")->setValue(2);
+    QCOMPARE(t.spin("row_from_spinBox")->value(), 2);
+    QCOMPARE(t.spin("row_to_spinBox")->value(), 2);
+}
+
+void TestEditPersonale::aColumnStartAboveThePageIsTheLastColumn()
+{
+    EditorUnderTest t(3, 9);
+    t.spin("col_from_spinBox")->setValue(200);
+    QCOMPARE(t.spin("col_from_spinBox")->value(), 9);
+    QCOMPARE(t.spin("col_to_spinBox")->value(), 9);
+}
+
+void TestEditPersonale::aColumnStartAboveTheEndRaisesTheEnd()
+{
+    EditorUnderTest t(3, 9);
+    t.spin("col_to_spinBox")->setValue(2);
+    t.spin("col_from_spinBox")->setValue(7);
+    QCOMPARE(t.spin("col_to_spinBox")->value(), 7);
+}
+
+void TestEditPersonale::aColumnEndAboveThePageIsTheLastColumn()
+{
+    EditorUnderTest t(3, 9);
+    t.spin("col_to_spinBox")->setValue(255);
+    QCOMPARE(t.spin("col_to_spinBox")->value(), 9);
+}
+
+void TestEditPersonale::aColumnEndBelowTheStartLowersTheStart()
+{
+    EditorUnderTest t(3, 9);
+    t.spin("col_from_spinBox")->setValue(6);
+    t.spin("col_to_spinBox")->setValue(4);
+    QCOMPARE(t.spin("col_from_spinBox")->value(), 4);
+}
+
+void TestEditPersonale::fillEmptyAndInvertWorkOnTheRectangle()
+{
+    EditorUnderTest t(4, 4);
+    t.select(2, 3, 2, 4);
+    t.click("riempiButton");
+    QCOMPARE(t.drawn(), QStringLiteral("oooo oOOO oOOO oooo"));
+    t.select(3, 4, 1, 2);
+    t.click("invertiButton");
+    QCOMPARE(t.drawn(), QStringLiteral("oooo oOOO OoOO OOoo"));
+    t.select(1, 4, 3, 3);
+    t.click("svuotaButton");
+    QCOMPARE(t.drawn(), QStringLiteral("oooo oOoO OooO OOoo"));
+}
+
+void TestEditPersonale::fillEmptyAndInvertWorkOnTheWholePage()
+{
+    EditorUnderTest t(2, 3);
+    t.select(1, 1, 1, 1);
+    t.selectAll(true);
+    for (const char *name : {"row_from_spinBox", "row_to_spinBox", "col_from_spinBox", "col_to_spinBox"}) {
+        QVERIFY(!t.spin(name)->isEnabled());
+    }
+    t.click("riempiButton");
+    QCOMPARE(t.drawn(), QStringLiteral("OOO OOO"));
+    t.box(1, 1)->setChecked(false);
+    t.click("invertiButton");
+    QCOMPARE(t.drawn(), QStringLiteral("ooo oOo"));
+    t.click("svuotaButton");
+    QCOMPARE(t.drawn(), QStringLiteral("ooo ooo"));
+    t.showPage(2);
+    QCOMPARE(t.drawn(), QStringLiteral("ooo ooo"));
+}
+
+void TestEditPersonale::theChosenTypeIsSetInScope_data()
+{
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<QString>("drawn");
+    QTest::addColumn<QString>("tip");
+    QTest::newRow("number") << QStringLiteral("num_radioButton") << QStringLiteral("oo Nn") << QStringLiteral("Numero");
+    QTest::newRow("text") << QStringLiteral("txt_radioButton") << QStringLiteral("oo Ss") << QStringLiteral("Testo");
+    QTest::newRow("image") << QStringLiteral("img_radioButton") << QStringLiteral("oo Ii")
+                           << QStringLiteral("Immagine");
+}
+
+void TestEditPersonale::theChosenTypeIsSetInScope()
+{
+    QFETCH(QString, radio);
+    QFETCH(QString, drawn);
+    QFETCH(QString, tip);
+    EditorUnderTest t(2, 2);
+    t.box(1, 0)->setChecked(true);
+    t.select(2, 2, 1, 2);
+    t.editor->findChild<QAbstractButton *>(radio)->click();
+    t.click("setNumTxtImgButton");
+    QCOMPARE(t.drawn(), drawn);
+    QCOMPARE(t.box(1, 1)->statusTip(), tip);
+    QCOMPARE(t.box(0, 0)->statusTip(), QStringLiteral("Vuota"));
+}
+
+void TestEditPersonale::withoutAChosenTypeCellsBecomeEmpty()
+{
+    EditorUnderTest t(1, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    auto *radio = t.button("num_radioButton");
+    radio->setAutoExclusive(false);
+    radio->setChecked(false);
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    QCOMPARE(t.drawn(), QStringLiteral("Oo"));
+}
+
+void TestEditPersonale::rightClicksCycleTheType()
+{
+    EditorUnderTest t(1, 2);
+    t.tick(0, 1, CELL_NUMERO);
+    const QStringList drawn{QStringLiteral("oS"), QStringLiteral("oI"), QStringLiteral("oO"), QStringLiteral("oN")};
+    const QStringList names{QStringLiteral("testo"), QStringLiteral("immagine"), QStringLiteral("vuota"),
+                            QStringLiteral("numero")};
+    for (int i = 0; i < 4; ++i) {
+        QTest::mouseClick(t.box(0, 1), Qt::RightButton);
+        QCOMPARE(t.drawn(), drawn[i]);
+        QCOMPARE(t.status(), QStringLiteral("Tipo cambiato in: ") + names[i]);
+        QCOMPARE(t.box(0, 1)->statusTip().toLower(), names[i]);
+    }
+}
+
+void TestEditPersonale::anUnknownTypeBecomesEmptyByRightClick()
+{
+    EditorUnderTest t(1, 2);
+    t.box(0, 0)->tipo = static_cast<CELL_VALUE>(7);
+    QTest::mouseClick(t.box(0, 0), Qt::RightButton);
+    QCOMPARE(t.box(0, 0)->tipo, CELL_VUOTA);
+}
+
+void TestEditPersonale::anUnknownTypeStopsACopy()
+{
+    EditorUnderTest t(1, 1, 2);
+    t.box(0, 0)->tipo = static_cast<CELL_VALUE>(7);
+    const QString text = fatalMessageOf([&t]() { t.copyTo(2, 2); });
+    QCOMPARE(text, QStringLiteral("CELL_TYPE UNKNOWN"));
+}
+
+void TestEditPersonale::tooManyNumbersForbidTheCreation()
+{
+    EditorUnderTest t(10, 10, 1, 1, 90);
+    t.select(1, 9, 1, 10);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    QVERIFY(t.canCreate());
+    QCOMPARE(t.verdict(), QStringLiteral("Impostazioni corrette"));
+    t.tick(9, 0, CELL_NUMERO);
+    QVERIFY(!t.canCreate());
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (91) sono maggiori di quelli disponibili (90)."));
+    QCOMPARE(t.picture(), QStringLiteral("warning"));
+    t.tick(9, 1, CELL_NUMERO);
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (92) sono maggiori di quelli disponibili (90)."));
+    t.box(9, 0)->setChecked(false);
+    QVERIFY(!t.canCreate());
+    QTest::mouseClick(t.box(9, 1), Qt::RightButton); // a text now
+    QVERIFY(t.canCreate());
+    QCOMPARE(t.verdict(), QStringLiteral("Impostazioni corrette"));
+    QCOMPARE(t.picture(), QStringLiteral("ok"));
+}
+
+void TestEditPersonale::textCellsAreNotCounted()
+{
+    EditorUnderTest t(1, 4, 1, 1, 2);
+    t.selectAll(true);
+    t.click("riempiButton");
+    QVERIFY(t.canCreate()); // empty cells
+    t.button("txt_radioButton")->click();
+    t.click("setNumTxtImgButton");
+    QVERIFY(t.canCreate());
+    t.button("num_radioButton")->click();
+    t.click("setNumTxtImgButton");
+    QVERIFY(!t.canCreate());
+    t.click("svuotaButton");
+    QVERIFY(t.canCreate());
+}
+
+// The count belongs to no page for sure: it goes on from the page before until types are set again.
+void TestEditPersonale::theCountIsKeptWhenThePageIsSwitched()
+{
+    EditorUnderTest t(1, 3, 2, 1, 2);
+    for (int column = 0; column < 3; ++column) {
+        t.tick(0, column, CELL_NUMERO);
+    }
+    QVERIFY(!t.canCreate());
+    t.showPage(2);
+    QVERIFY(!t.canCreate());
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (3) sono maggiori di quelli disponibili (2)."));
+    t.tick(0, 0, CELL_NUMERO);
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (4) sono maggiori di quelli disponibili (2)."));
+    t.select(1, 1, 2, 2);
+    t.click("setNumTxtImgButton"); // counts anew
+    QVERIFY(t.canCreate());
+    t.showPage(1);
+    QVERIFY(t.canCreate());
+}
+
+void TestEditPersonale::theCopyRangeIsClamped()
+{
+    EditorUnderTest t(1, 1, 5);
+    t.spin("impostaAspinBox")->setValue(65535);
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 5);
+    t.spin("impostaDAspinBox")->setValue(65535);
+    QCOMPARE(t.spin("impostaDAspinBox")->value(), 5);
+}
+
+void TestEditPersonale::theCopyRangeStaysInOrder()
+{
+    EditorUnderTest t(1, 1, 5);
+    t.spin("impostaAspinBox")->setValue(3);
+    t.spin("impostaDAspinBox")->setValue(4);
+    QCOMPARE(t.spin("impostaDAspinBox")->value(), 3);
+    t.spin("impostaAspinBox")->setValue(2);
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 3);
+}
+
+void TestEditPersonale::allPagesDisableTheCopyRange()
+{
+    EditorUnderTest t(1, 1, 5);
+    t.spin("impostaAspinBox")->setValue(3);
+    t.spin("impostaDAspinBox")->setValue(2);
+    t.button("impostasuttute_checkBox")->click();
+    QCOMPARE(t.spin("impostaDAspinBox")->value(), 1);
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 5);
+    QVERIFY(!t.spin("impostaDAspinBox")->isEnabled());
+    QVERIFY(!t.spin("impostaAspinBox")->isEnabled());
+    t.button("impostasuttute_checkBox")->click();
+    QVERIFY(t.spin("impostaDAspinBox")->isEnabled());
+    QVERIFY(t.spin("impostaAspinBox")->isEnabled());
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 5);
+}
+
+void TestEditPersonale::copyingTakesTickTypeAndFlag()
+{
+    EditorUnderTest t(1, 3, 4);
+    t.showPage(2);
+    t.tick(0, 2, CELL_IMMAGINE);
+    t.showPage(4);
+    t.tick(0, 0, CELL_TESTO);
+    t.showPage(1);
+    t.tick(0, 0, CELL_NUMERO);
+    t.box(0, 1)->setTipo(CELL_TESTO);
+    t.click("checkBox_ordinaNumxColonne");
+    t.copyTo(1, 3);
+    QCOMPARE(t.status(), QStringLiteral("Copia schema effettuata!"));
+    for (int number = 1; number <= 3; ++number) {
+        t.showPage(number);
+        QCOMPARE(t.drawn(), QStringLiteral("Nso"));
+        QVERIFY(t.button("checkBox_ordinaNumxColonne")->isChecked());
+        QCOMPARE(t.box(0, 1)->statusTip(), QStringLiteral("Testo"));
+    }
+    t.showPage(4);
+    QCOMPARE(t.drawn(), QStringLiteral("Soo"));
+    QVERIFY(!t.button("checkBox_ordinaNumxColonne")->isChecked());
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::decliningTheCopyChangesNothing()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    t.button("impostasuttute_checkBox")->click();
+    t.boxes.expectBox(QStringLiteral("Quintra"),
+                      QStringLiteral("Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?"),
+                      QMessageBox::No, [](QMessageBox *box) {
+                          QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+                          QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
+                      });
+    t.click("impostaschemacorrenteButton");
+    QCOMPARE(t.status(), QString());
+    t.showPage(2);
+    QCOMPARE(t.drawn(), QStringLiteral("oo"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::copyingAGoodSchemeToManyPagesLeavesTheCreationAllowed()
+{
+    EditorUnderTest t(1, 3, 11, 1, 3);
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    QVERIFY(t.canCreate());
+    t.copyTo(1, 11);
+    QVERIFY(t.canCreate());
+    t.box(0, 0)->setChecked(false);
+    t.copyTo(1, 11);
+    t.tick(0, 0, CELL_NUMERO);
+    QVERIFY(t.canCreate()); // 3 numbers, not more
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::creatingAddsThePagesAndShowsTheNumbers()
+{
+    EditorUnderTest t(2, 3, 3);
+    t.tick(0, 1, CELL_NUMERO);
+    t.tick(1, 2, CELL_TESTO);
+    t.copyTo(1, 3);
+    QSignalSpy done(t.editor, &EditPersonale::done);
+    t.expectCreated();
+    t.click("creapagineButton");
+    QCOMPARE(t.cartella.getNumPages(), 3);
+    for (const Pagina *page : t.cartella.pagine) {
+        const Cella &number = page->blocchi[0].righe[0].celle[1];
+        QCOMPARE(number.tipo, CELL_NUMERO);
+        QVERIFY(number.numero >= 1 && number.numero <= 90);
+        QCOMPARE(page->blocchi[0].righe[1].celle[2].tipo, CELL_TESTO);
+    }
+    QCOMPARE(t.box(0, 1)->text(), QString::number(t.cartella.pagine[0]->blocchi[0].righe[0].celle[1].numero));
+    QCOMPARE(t.box(1, 2)->text(), QString());
+    t.showPage(3);
+    QCOMPARE(t.box(0, 1)->text(), QString::number(t.cartella.pagine[2]->blocchi[0].righe[0].celle[1].numero));
+    QCOMPARE(done.size(), 0);
+    QVERIFY(t.editor->isVisible());
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::theMenuCreatesToo()
+{
+    EditorUnderTest t(1, 2, 1);
+    t.tick(0, 0, CELL_NUMERO);
+    for (int times = 1; times <= 2; ++times) {
+        t.expectCreated();
+        t.trigger("actionCreaPagine");
+        QCOMPARE(t.cartella.getNumPages(), times);
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::aFailedCreationTellsWhy()
+{
+    EditorUnderTest t(10, 9, 1, 1, 90);
+    t.select(1, 10, 1, 1);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    t.click("checkBox_ordinaNumxColonne");
+    t.boxes.expectBox(
+        QStringLiteral("Quintra - Mappatura manuale"),
+        QStringLiteral(
+            "Errore durante la creazione delle pagine!\n\nGenera per colonne:\nImpossibile generare 10 numeri "
+            "sulla colonna n^ 1\nLa colonna vorrebbe 10 numeri diversi tra 1 e 9\nma cio' risulta "
+            "impossibile in quanto il range e' composto da 9 numeri."),
+        QMessageBox::Ok, QMessageBox::Warning);
+    t.click("creapagineButton");
+    QCOMPARE(t.cartella.getNumPages(), 1); // added before the failure
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::warningsOfASuccessAreNotShown()
+{
+    EditorUnderTest t(1, 2, 1);
+    t.tick(0, 0, CELL_TESTO);
+    t.expectCreated();
+    t.click("creapagineButton");
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+// Only the page on display is checked before the creation.
+void TestEditPersonale::anImpossibleOtherPageGetsZeros()
+{
+    EditorUnderTest t(1, 3, 2, 1, 2);
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    t.showPage(2);
+    t.click("setNumTxtImgButton");
+    QVERIFY(t.canCreate());
+    t.expectCreated();
+    t.click("creapagineButton");
+    t.showPage(1);
+    QCOMPARE(t.box(0, 0)->text(), QStringLiteral("0"));
+    QCOMPARE(t.cartella.pagine[0]->blocchi[0].righe[0].celle[2].numero, 0U);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::decliningToCloseKeepsTheWindow()
+{
+    EditorUnderTest t;
+    QSignalSpy done(t.editor, &EditPersonale::done);
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"), QStringLiteral("Sei sicuro di voler chiudere?"),
+                      QMessageBox::No, [](QMessageBox *box) {
+                          QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+                          QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
+                      });
+    t.trigger("actionEsci");
+    QVERIFY(t.editor->isVisible());
+    t.expectCloseQuestion(QMessageBox::Escape);
+    t.editor->close();
+    QVERIFY(t.editor->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!t.editor.isNull());
+    QCOMPARE(done.size(), 0);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::closingReportsAndDeletesTheWindow()
+{
+    EditorUnderTest t;
+    QSignalSpy done(t.editor, &EditPersonale::done);
+    t.expectCloseQuestion(QMessageBox::Yes);
+    t.trigger("actionEsci");
+    QCOMPARE(done.size(), 1);
+    QVERIFY(!t.editor->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(t.editor.isNull());
+    QCOMPARE(done.size(), 1);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::theMainWindowFollowsTheActivation()
+{
+    EditorUnderTest t;
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(t.editor);
+    QVERIFY(!t.mainWindow.isMinimized());
+    QApplication::setActiveWindow(&other);
+    QVERIFY(t.mainWindow.isMinimized());
+    QApplication::setActiveWindow(t.editor);
+    QVERIFY(!t.mainWindow.isMinimized());
+    QVERIFY(!t.mainWindow.isMaximized());
+    QVERIFY(t.mainWindow.isVisible());
+}
+
+void TestEditPersonale::theMainWindowFollowsTheWindowState()
+{
+    EditorUnderTest t;
+    QApplication::setActiveWindow(t.editor);
+    t.editor->showMinimized();
+    QVERIFY(t.mainWindow.isMinimized());
+    t.editor->showNormal();
+    QVERIFY(!t.mainWindow.isMinimized());
+    t.editor->showMaximized();
+    QVERIFY(!t.mainWindow.isMinimized());
+    QVERIFY(!t.mainWindow.isMaximized());
+}
+
+void TestEditPersonale::theMainWindowIsBackAfterClosing()
+{
+    EditorUnderTest t;
+    QApplication::setActiveWindow(t.editor);
+    t.mainWindow.showMinimized(); // as while the question is asked
+    t.expectCloseQuestion(QMessageBox::Yes);
+    t.editor->close();
+    QVERIFY(!t.mainWindow.isMinimized());
+    QApplication::setActiveWindow(nullptr);
+    QCoreApplication::processEvents();
+    QVERIFY(!t.mainWindow.isMinimized());
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonale::aMaximizedMainWindowComesBackMaximized()
+{
+    QWidget mainWindow;
+    mainWindow.showMaximized();
+    Cartella cartella;
+    EditPersonale editor(&mainWindow, &cartella, 1, 1, 1, 1, 90, 0);
+    editor.showMinimized();
+    QVERIFY(mainWindow.isMinimized());
+    editor.showNormal();
+    QVERIFY(!mainWindow.isMinimized());
+    QVERIFY(mainWindow.isMaximized());
+}
+
+void TestEditPersonale::otherChangesAreAccepted()
+{
+    EditorUnderTest t;
+    for (const QEvent::Type type : {QEvent::PaletteChange, QEvent::StyleChange, QEvent::LanguageChange,
+                                    QEvent::FontChange, QEvent::EnabledChange}) {
+        QEvent event(type);
+        event.ignore();
+        QCoreApplication::sendEvent(t.editor, &event);
+        QVERIFY(event.isAccepted());
+        QVERIFY(!t.mainWindow.isMinimized());
+    }
+    t.editor->setPalette(QPalette(Qt::darkGray));
+    t.editor->setEnabled(false);
+    t.editor->setEnabled(true);
+}
+
+void TestEditPersonale::theMainWindowMayGoFirst()
+{
+    Cartella cartella;
+    auto mainWindow = std::make_unique<QWidget>();
+    mainWindow->show();
+    const QPointer<EditPersonale> editor = new EditPersonale(mainWindow.get(), &cartella, 2, 2, 2, 1, 90, 0);
+    QApplication::setActiveWindow(editor);
+    mainWindow.reset();
+    QVERIFY(editor.isNull());
+
+    EditPersonale alone(nullptr, &cartella, 2, 2, 2, 1, 90, 0); // nothing to follow it
+    QApplication::setActiveWindow(&alone);
+    QApplication::setActiveWindow(nullptr);
+    QVERIFY(alone.isVisible());
+}
+
+void TestEditPersonale::eighteenRowsOfNineFitWithoutScrolling()
+{
+    EditorUnderTest t(18, 9);
+    t.editor->resize(1024, 676); // of 1024 x 700, without a title bar
+    QCoreApplication::processEvents();
+    const auto *area = t.find<QScrollArea>("boxesScrollArea");
+    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(area->verticalScrollBar()->maximum(), 0);
+    const auto *tools = t.find<QWidget>("toolsWidget");
+    QVERIFY(tools->width() >= tools->minimumSizeHint().width());
+    QVERIFY(tools->height() >= tools->minimumSizeHint().height());
+}
+
+void TestEditPersonale::largerPagesScrollToTheFocusedCell()
+{
+    EditorUnderTest t(60, 40);
+    t.editor->resize(1024, 676);
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(t.editor);
+    const auto *area = t.find<QScrollArea>("boxesScrollArea");
+    QVERIFY(area->horizontalScrollBar()->maximum() > 0);
+    QVERIFY(area->verticalScrollBar()->maximum() > 0);
+    t.box(0, 0)->setFocus();
+    for (int i = 0; i < 50; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    }
+    QCOMPARE(QApplication::focusWidget(), t.box(50, 0));
+    QVERIFY(area->verticalScrollBar()->value() > 0);
+    const QPoint corner = t.box(50, 0)->mapTo(area->viewport(), QPoint(0, 0));
+    QVERIFY(area->viewport()->rect().contains(corner));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(t.box(50, 0)->isChecked());
+}
+
+// In every state: any page on display, after opening a file and copying, closed or deleted, events still waiting.
+void TestEditPersonale::openingAndClosingFiftyTimes()
+{
+    for (int round = 0; round < 50; ++round) {
+        EditorUnderTest t(3, 5, 4);
+        t.tick(1, 1, CELL_NUMERO);
+        t.showPage(1 + round % 4);
+        if (round % 3 == 0) {
+            t.open(round % 2 == 0 ? "!Nn\n#NNNooo\n" : "\n");
+        }
+        if (round % 3 == 1) {
+            t.copyTo(1, 4);
+        }
+        if (round % 5 == 0 && t.grid()->count() > 0) {
+            t.showPage(2);
+        }
+        if (round % 2 == 0) {
+            t.expectCloseQuestion(QMessageBox::Yes);
+            t.editor->close();
+        }
+        if (round % 4 < 2) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        QCOMPARE(t.boxes.problems(), QStringList());
+    }
+}
+
+QTEST_MAIN(TestEditPersonale)
+#include "tst_EditPersonale.moc"

@@ -1,0 +1,514 @@
+// SPDX-License-Identifier: MIT
+#include "EditorUnderTest.h"
+#include "msgarea/MsgArea.h"
+#include "support/LogCapture.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
+
+namespace {
+// The text of the window that reports, empty without one.
+QString reportText(const EditorUnderTest &t)
+{
+    const auto windows = t.editor->findChildren<MsgArea *>();
+    if (windows.isEmpty()) {
+        return QString();
+    }
+    if (const auto *edit = windows.last()->findChild<QTextEdit *>()) {
+        return edit->toPlainText();
+    }
+    const auto *edit = windows.last()->findChild<QPlainTextEdit *>();
+    return edit != nullptr ? edit->toPlainText() : QString();
+}
+
+void reportMatches(const EditorUnderTest &t, const QString &name, int pages, const QByteArray &content)
+{
+    QCOMPARE(reportText(t), QStringLiteral("File creato con successo!\n\nNome: %1\nEstensione: QcF\nPercorso: %2\n\n"
+                                           "Pagine: %3\nDimensione: %4 Bytes (0.00 MB)\n")
+                                .arg(name, QFileInfo(t.folder.path(name)).absolutePath())
+                                .arg(pages)
+                                .arg(content.size()));
+}
+} // namespace
+
+class TestEditPersonaleFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void savingWritesEveryPage();
+    void savingReportsWithoutWaiting();
+    void theSuffixIsAddedUnlessExact_data();
+    void theSuffixIsAddedUnlessExact();
+    void theDialogsStartInTheSaveFolderWithTheFilter();
+    void theFolderIsRemembered();
+    void cancellingTheSaveIsTold();
+    void aFileThatCannotBeWrittenIsReportedAllTheSame();
+
+    void openingReplacesThePages();
+    void openingAsksFirst();
+    void cancellingTheOpenIsTold();
+    void aFileThatCannotBeReadLeavesNoPages();
+    void pagesAreReadBackAsSaved();
+    void theColumnFlagIsLostAndItsCheckBoxKeepsItsState();
+    void rightClicksDoNothingOnLoadedPages();
+    void ticksOfLoadedPagesAreCounted();
+    void theCountIsThatOfPageOne();
+    void laterAndLargerPagesAreLoadedSafely();
+    void thirtyRowsOfNineComeBackWithoutColumns();
+    void skippedLinesAreListed();
+    void withoutSkippedLinesThereIsNoList();
+    void aFileWithoutLinesLeavesAnEmptyEditor();
+    void afterAFileWithoutLinesAnotherOpens();
+    void theCopyRangeFollowsThePageCount();
+    void copyingToAPageOfAnotherSizeRebuildsIt();
+    void loadedPagesAreCreated();
+};
+
+void TestEditPersonaleFile::savingWritesEveryPage()
+{
+    EditorUnderTest t(2, 2, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    t.tick(0, 1, CELL_VUOTA);
+    t.box(1, 0)->setTipo(CELL_TESTO);
+    t.box(1, 1)->setTipo(CELL_IMMAGINE);
+    t.showPage(2);
+    t.tick(1, 1, CELL_IMMAGINE);
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionSave");
+    QCOMPARE(t.folder.read(QStringLiteral("out.QcF")), QByteArray("\"NOsi\n\"oooI\n"));
+    QCOMPARE(t.status(), QStringLiteral("Pagina 2 di 2 salvata"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(t.drawn(), QStringLiteral("oo oI"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::savingReportsWithoutWaiting()
+{
+    EditorUnderTest t(2, 2, 3);
+    t.expectSave(t.folder.path(QStringLiteral("my.page.QcF")));
+    t.trigger("actionSave");
+    const auto *report = t.editor->findChild<MsgArea *>();
+    QVERIFY(report != nullptr);
+    QVERIFY(report->isVisible());
+    QCOMPARE(report->windowModality(), Qt::WindowModal);
+    reportMatches(t, QStringLiteral("my.page"), 3, "\"oooo\n\"oooo\n\"oooo\n");
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theSuffixIsAddedUnlessExact_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("exact") << QStringLiteral("a.QcF") << QStringLiteral("a.QcF");
+    QTest::newRow("lower case") << QStringLiteral("a.qcf") << QStringLiteral("a.qcf.QcF");
+    QTest::newRow("other") << QStringLiteral("a.txt") << QStringLiteral("a.txt.QcF");
+    QTest::newRow("none") << QStringLiteral("a") << QStringLiteral("a.QcF");
+}
+
+void TestEditPersonaleFile::theSuffixIsAddedUnlessExact()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, written);
+    EditorUnderTest t(1, 1, 1);
+    t.expectSave(t.folder.path(chosen));
+    t.trigger("actionSave");
+    QCOMPARE(QDir(t.folder.path(QString())).entryList({QStringLiteral("a*")}, QDir::Files), QStringList(written));
+    QCOMPARE(t.folder.read(written), QByteArray("!o\n"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theDialogsStartInTheSaveFolderWithTheFilter()
+{
+    EditorUnderTest t(1, 1, 1);
+    t.folder.write(QStringLiteral("here/x.QcF"), "!o\n");
+    t.config.defaultSaveDir = t.folder.path(QStringLiteral("here"));
+    const auto look = [&t](QWidget *dialog) {
+        const auto *chooser = qobject_cast<QFileDialog *>(dialog);
+        QCOMPARE(chooser->directory(), QDir(t.folder.path(QStringLiteral("here"))));
+        QCOMPARE(chooser->nameFilters().value(0), QStringLiteral("QcF (*.QcF)"));
+    };
+    t.boxes.expectFileDialog(QStringLiteral("Salva le cartelle su file"), QString(), look);
+    t.trigger("actionSave");
+    t.boxes.expectBox(
+        QStringLiteral("Quintra"),
+        QStringLiteral("Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?"),
+        QMessageBox::Yes);
+    t.boxes.expectFileDialog(QStringLiteral("Apre un file di cartelle"), QString(), look);
+    t.trigger("actionOpen");
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theFolderIsRemembered()
+{
+    EditorUnderTest t(1, 1, 1);
+    const QByteArray configured = t.folder.read(QStringLiteral("config.ini"));
+    t.folder.write(QStringLiteral("one/x.QcF"), "!N\n");
+    t.folder.write(QStringLiteral("two/y.QcF"), "!N\n");
+    t.expectOpen(t.folder.path(QStringLiteral("one/x.QcF")));
+    t.trigger("actionOpen");
+    QCOMPARE(QDir(t.config.defaultSaveDir), QDir(t.folder.path(QStringLiteral("one"))));
+    t.expectSave(t.folder.path(QStringLiteral("two/z.QcF")));
+    t.trigger("actionSave");
+    QCOMPARE(QDir(t.config.defaultSaveDir), QDir(t.folder.path(QStringLiteral("two"))));
+    QCOMPARE(t.folder.read(QStringLiteral("config.ini")), configured); // only in memory
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::cancellingTheSaveIsTold()
+{
+    EditorUnderTest t(1, 1, 1);
+    const QString before = t.config.defaultSaveDir;
+    t.expectSave(QString());
+    t.trigger("actionSave");
+    QCOMPARE(t.status(), QStringLiteral("Creazione file annullata!"));
+    QCOMPARE(t.config.defaultSaveDir, before);
+    QVERIFY(t.editor->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::aFileThatCannotBeWrittenIsReportedAllTheSame()
+{
+    EditorUnderTest t(1, 1, 1);
+    QVERIFY(QDir(t.folder.path(QString())).mkdir(QStringLiteral("folder.QcF")));
+    const qint64 size = QFileInfo(t.folder.path(QStringLiteral("folder.QcF"))).size();
+    t.tick(0, 0, CELL_NUMERO);
+    LogCapture log;
+    t.boxes.expectFileDialog(QStringLiteral("Salva le cartelle su file"), t.folder.path(QStringLiteral("folder")));
+    // The name without suffix is free, the one with it is a folder.
+    t.trigger("actionSave");
+    QVERIFY(reportText(t).startsWith(QStringLiteral("File creato con successo!\n\nNome: folder\n")));
+    QVERIFY(reportText(t).contains(QStringLiteral("Dimensione: %1 Bytes").arg(size)));
+    QCOMPARE(t.drawn(), QStringLiteral("N"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::openingReplacesThePages()
+{
+    EditorUnderTest t(3, 9, 2);
+    t.showPage(2);
+    t.open("\"NsIo\n!SSS\n!n\n");
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(t.spin("pageNumSpinBox")->value(), 1);
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 3);
+    QCOMPARE(t.grid()->count(), 4);
+    QCOMPARE(t.drawn(), QStringLiteral("Ns Io"));
+    QVERIFY(t.box(1, 1)->isVisible());
+    QCOMPARE(t.box(1, 0)->toolTip(), QStringLiteral("2,1"));
+    QCOMPARE(t.box(1, 0)->statusTip(), QStringLiteral("Immagine"));
+    QCOMPARE(t.box(1, 1)->statusTip(), QStringLiteral("Vuota"));
+    t.showPage(2);
+    QCOMPARE(t.drawn(), QStringLiteral("SSS"));
+    t.showPage(9);
+    QCOMPARE(t.spin("pageNumSpinBox")->value(), 3);
+    QCOMPARE(t.drawn(), QStringLiteral("n"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::openingAsksFirst()
+{
+    EditorUnderTest t(1, 2, 1);
+    t.tick(0, 0, CELL_NUMERO);
+    t.boxes.expectBox(
+        QStringLiteral("Quintra"),
+        QStringLiteral("Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?"),
+        QMessageBox::No, [](QMessageBox *box) {
+            QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+            QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
+        });
+    t.trigger("actionOpen");
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.status(), QString());
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::cancellingTheOpenIsTold()
+{
+    EditorUnderTest t(1, 2, 1);
+    t.tick(0, 0, CELL_NUMERO);
+    t.expectOpen(QString());
+    t.trigger("actionOpen");
+    QCOMPARE(t.status(), QStringLiteral("Apertura file annullata!"));
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::aFileThatCannotBeReadLeavesNoPages()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.folder.write(QStringLiteral("in.QcF"), "!N\n");
+    const QString path = t.folder.path(QStringLiteral("in.QcF"));
+    t.boxes.expectBox(
+        QStringLiteral("Quintra"),
+        QStringLiteral("Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?"),
+        QMessageBox::Yes);
+    t.boxes.expectFileDialog(QStringLiteral("Apre un file di cartelle"), path, [path](QWidget *dialog) {
+        // Gone between the choice and the reading.
+        connect(qobject_cast<QFileDialog *>(dialog), &QFileDialog::fileSelected, [path]() { QFile::remove(path); });
+    });
+    LogCapture log;
+    t.trigger("actionOpen");
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 0);
+    QCOMPARE(t.grid()->count(), 0);
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::pagesAreReadBackAsSaved()
+{
+    EditorUnderTest t(3, 9, 2);
+    const QByteArray line = "#NnNnNnNnNoooooooooSsIiNnNnN\n";
+    t.open(line + "!O\n");
+    QCOMPARE(t.drawn(), QStringLiteral("NnNnNnNnN ooooooooo SsIiNnNnN"));
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionSave");
+    QCOMPARE(t.folder.read(QStringLiteral("out.QcF")), line + "!O\n");
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theColumnFlagIsLostAndItsCheckBoxKeepsItsState()
+{
+    EditorUnderTest t(1, 1, 2);
+    t.click("checkBox_ordinaNumxColonne");
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionSave");
+    t.expectOpen(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionOpen");
+    QVERIFY(t.button("checkBox_ordinaNumxColonne")->isChecked()); // of the page before
+    t.showPage(2);
+    t.showPage(1);
+    QVERIFY(!t.button("checkBox_ordinaNumxColonne")->isChecked());
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::rightClicksDoNothingOnLoadedPages()
+{
+    EditorUnderTest t(1, 2, 1);
+    t.open("!Nn\n");
+    QTest::mouseClick(t.box(0, 0), Qt::RightButton);
+    QCOMPARE(t.drawn(), QStringLiteral("Nn"));
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    QTest::mouseClick(t.box(0, 1), Qt::LeftButton);
+    QCOMPARE(t.drawn(), QStringLiteral("NN"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::ticksOfLoadedPagesAreCounted()
+{
+    EditorUnderTest t(1, 1, 1, 1, 2);
+    t.open("!NNnn\n");
+    QVERIFY(t.canCreate());
+    QTest::mouseClick(t.box(0, 2), Qt::LeftButton);
+    QVERIFY(!t.canCreate());
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (3) sono maggiori di quelli disponibili (2)."));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theCountIsThatOfPageOne()
+{
+    EditorUnderTest t(1, 3, 1, 1, 2);
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    QVERIFY(!t.canCreate());
+    t.open("!Nn\n!NNNNNN\n");
+    QVERIFY(t.canCreate());
+    t.open("!NNN\n!N\n");
+    QVERIFY(!t.canCreate());
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (3) sono maggiori di quelli disponibili (2)."));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+// While they are loaded, page one counts as the one on display; it does not have their cells.
+void TestEditPersonaleFile::laterAndLargerPagesAreLoadedSafely()
+{
+    EditorUnderTest t(1, 1, 1, 1, 90);
+    t.open("!N\n)" + QByteArray(81, 'N') + "\n#" + QByteArray(60, 'S') + "\n");
+    QCOMPARE(t.drawn(), QStringLiteral("N"));
+    QVERIFY(t.canCreate());
+    t.showPage(2);
+    QCOMPARE(t.grid()->count(), 81);
+    t.showPage(3);
+    QCOMPARE(t.grid()->count(), 60);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
+{
+    EditorUnderTest t(30, 9, 1);
+    t.selectAll(true);
+    t.click("riempiButton");
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionSave");
+    t.expectOpen(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionOpen");
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 1);
+    QCOMPARE(t.grid()->count(), 0);
+    t.click("riempiButton");
+    t.spin("col_from_spinBox")->setValue(3);
+    t.spin("row_from_spinBox")->setValue(300);
+    t.click("setNumTxtImgButton");
+    t.expectCreated();
+    t.click("creapagineButton");
+    QCOMPARE(t.cartella.getNumPages(), 1);
+    QCOMPARE(t.cartella.getMaxPageColSize(0), U8(0));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::skippedLinesAreListed()
+{
+    EditorUnderTest t(1, 1, 1);
+    t.open("!N\n\n\n NN\n#NN\n!S\n");
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 2);
+    QCOMPARE(t.drawn(), QStringLiteral("N"));
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    const auto *report = t.editor->findChild<MsgArea *>();
+    QVERIFY(report != nullptr);
+    QVERIFY(report->isVisible());
+    QCOMPARE(reportText(t), QStringLiteral("Queste righe del file non descrivono una pagina e sono state saltate:\n"
+                                           "Righe da 2 a 3: riga vuota.\n"
+                                           "Riga 4: il primo carattere non indica il numero di righe della pagina.\n"
+                                           "Riga 5: troppo corta per le celle della pagina."));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::withoutSkippedLinesThereIsNoList()
+{
+    EditorUnderTest t(1, 1, 1);
+    t.open("!N\n!S\n");
+    QVERIFY(t.editor->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::aFileWithoutLinesLeavesAnEmptyEditor()
+{
+    EditorUnderTest t(2, 2, 3);
+    t.showPage(3);
+    t.open("");
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 0);
+    QCOMPARE(t.grid()->count(), 0);
+    for (const char *name : {"riempiButton", "svuotaButton", "invertiButton", "setNumTxtImgButton",
+                             "impostaschemacorrenteButton", "checkBox_ordinaNumxColonne", "pageNumSpinBox"}) {
+        QVERIFY2(!t.find<QWidget>(name)->isEnabled(), name);
+    }
+    // Harmless even when they are called.
+    for (const int value : {1, 7, 65535}) {
+        t.editor->on_pageNumSpinBox_valueChanged(value);
+        t.editor->on_row_from_spinBox_valueChanged(value);
+        t.editor->on_row_to_spinBox_valueChanged(value);
+        t.editor->on_col_from_spinBox_valueChanged(value);
+        t.editor->on_col_to_spinBox_valueChanged(value);
+        t.editor->on_impostaDAspinBox_valueChanged(value);
+        t.editor->on_impostaAspinBox_valueChanged(value);
+    }
+    t.editor->on_checkBox_ordinaNumxColonne_clicked();
+    t.editor->on_riempiButton_clicked();
+    t.editor->on_svuotaButton_clicked();
+    t.editor->on_invertiButton_clicked();
+    t.editor->on_setNumTxtImgButton_clicked();
+    t.editor->on_checkboxChecked(0, 0, true);
+    t.editor->on_checkboxRClicked(0, 0);
+    t.editor->on_impostasuttute_checkBox_clicked(true);
+    t.expectCopyQuestion(QMessageBox::Yes);
+    t.editor->on_impostaschemacorrenteButton_clicked();
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Errore durante la creazione delle pagine!\n\nNessuna pagina da generare!"),
+                      QMessageBox::Ok, QMessageBox::Warning);
+    t.editor->on_creapagineButton_clicked();
+    t.expectSave(t.folder.path(QStringLiteral("none.QcF")));
+    t.trigger("actionSave");
+    QCOMPARE(t.folder.read(QStringLiteral("none.QcF")).size(), 0);
+    QVERIFY(QFileInfo::exists(t.folder.path(QStringLiteral("none.QcF"))));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::afterAFileWithoutLinesAnotherOpens()
+{
+    EditorUnderTest t(2, 2, 3);
+    t.open("");
+    t.open("!NN\n!S\n");
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 2);
+    QCOMPARE(t.drawn(), QStringLiteral("NN"));
+    QVERIFY(t.button("riempiButton")->isEnabled());
+    t.showPage(2);
+    QCOMPARE(t.drawn(), QStringLiteral("S"));
+    t.expectCloseQuestion(QMessageBox::Yes);
+    t.editor->close();
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theCopyRangeFollowsThePageCount()
+{
+    EditorUnderTest t(1, 1, 9);
+    t.spin("impostaAspinBox")->setValue(8);
+    t.spin("impostaDAspinBox")->setValue(6);
+    t.open("!N\n!s\n!s\n");
+    QCOMPARE(t.spin("impostaDAspinBox")->value(), 3);
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 3);
+    t.button("impostasuttute_checkBox")->click();
+    t.open("!N\n!s\n!s\n!s\n!s\n");
+    QCOMPARE(t.spin("impostaDAspinBox")->value(), 1);
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 5);
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::copyingToAPageOfAnotherSizeRebuildsIt()
+{
+    EditorUnderTest t(1, 1, 1, 1, 6);
+    t.open("\"NsIo\n!SSSSS\n\"nnnn\n");
+    t.copyTo(1, 3);
+    for (int number = 2; number <= 3; ++number) {
+        t.showPage(number);
+        QCOMPARE(t.grid()->count(), 4);
+        QCOMPARE(t.drawn(), QStringLiteral("Ns Io"));
+        QCOMPARE(t.box(1, 0)->toolTip(), QStringLiteral("2,1"));
+        QCOMPARE(int(t.box(1, 0)->riga), 1);
+        QCOMPARE(int(t.box(1, 0)->colonna), 0);
+    }
+    t.showPage(2);
+    QTest::mouseClick(t.box(0, 1), Qt::RightButton); // its boxes were made by the editor
+    QCOMPARE(t.drawn(), QStringLiteral("Ni Io"));
+    t.showPage(3);
+    QTest::mouseClick(t.box(0, 1), Qt::RightButton); // those of the same size are still the loaded ones
+    QCOMPARE(t.drawn(), QStringLiteral("Ns Io"));
+
+    t.showPage(2);
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    QVERIFY(t.canCreate());
+    t.open("!N\n!NNNNNNN\n");
+    t.showPage(2);
+    t.copyTo(1, 1);
+    QVERIFY(!t.canCreate()); // counted anew: seven
+    QTest::mouseClick(t.box(0, 0), Qt::LeftButton);
+    QVERIFY(t.canCreate());
+    t.showPage(1);
+    QCOMPARE(t.drawn(), QStringLiteral("NNNNNNN"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::loadedPagesAreCreated()
+{
+    EditorUnderTest t(1, 1, 1);
+    t.open("!NsO\n\"SIno\n");
+    t.expectCreated();
+    LogCapture log; // the second page draws no numbers
+    t.trigger("actionCreaPagine");
+    QCOMPARE(t.cartella.getNumPages(), 2);
+    QCOMPARE(t.cartella.getMaxPageColSize(0), U8(3));
+    QCOMPARE(t.cartella.getMaxPageColSize(1), U8(2));
+    QCOMPARE(t.cartella.pagine[1]->blocchi[0].righe[0].celle[1].tipo, CELL_IMMAGINE);
+    QCOMPARE(t.box(0, 0)->text(), QString::number(t.cartella.pagine[0]->blocchi[0].righe[0].celle[0].numero));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+QTEST_MAIN(TestEditPersonaleFile)
+#include "tst_EditPersonaleFile.moc"

@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: MIT
+#include "personale/PersonaleChkBox.h"
+#include "support/FatalMessage.h"
+
+#include <QGridLayout>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+// Turns every text of the class into "<class>:<text>".
+class EchoTranslator final : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return QString::fromUtf8(context) + QLatin1Char(':') + QString::fromUtf8(sourceText);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+// A window of 3 x 4 boxes.
+struct Grid
+{
+    Grid()
+        : layout(new QGridLayout(&window))
+        , boxes(std::make_unique<PersonaleChkBox[]>(12))
+    {
+        for (size_t i = 0; i < 12; ++i) {
+            boxes[i].setPosition(static_cast<U8>(i / 4), static_cast<U8>(i % 4));
+            layout->addWidget(&boxes[i], boxes[i].riga, boxes[i].colonna);
+        }
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+    ~Grid()
+    {
+        for (size_t i = 0; i < 12; ++i) {
+            boxes[i].setParent(nullptr);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Grid)
+    PersonaleChkBox &at(size_t row, size_t column) { return boxes[row * 4 + column]; }
+
+    QWidget window;
+    QGridLayout *layout;
+    std::unique_ptr<PersonaleChkBox[]> boxes;
+};
+
+QImage picture(CELL_VALUE tipo, bool ticked, const QPalette &palette)
+{
+    PersonaleChkBox box;
+    box.setPalette(palette);
+    box.setTipo(tipo);
+    box.setChecked(ticked);
+    box.resize(box.sizeHint());
+    QImage image(box.size(), QImage::Format_RGB32);
+    image.fill(palette.window().color());
+    box.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+QPalette darkPalette()
+{
+    return QPalette(QColor(53, 53, 53), QColor(35, 35, 35));
+}
+} // namespace
+
+class TestPersonaleChkBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aNewBoxIsAnUntickedEmptyCell();
+    void thePositionIsToldFromOne();
+    void theStatusTipNamesTheType_data();
+    void theStatusTipNamesTheType();
+    void settingTheSameTypeLeavesTheStatusTip();
+    void theNamesAreTranslatedInTheContextOfTheClass();
+    void anUnknownTypeStopsTheProgram();
+    void everyChangeOfTheTickIsReported();
+    void aRightClickIsReportedAndLeavesTheTick();
+    void aLeftClickTicks();
+    void arrowsMoveToTheNeighbours();
+    void arrowsStayAtTheEdges();
+    void spaceTicks();
+    void typeAndTickAreSeen_data();
+    void typeAndTickAreSeen();
+    void aNumberIsPaintedAsItsText();
+};
+
+void TestPersonaleChkBox::aNewBoxIsAnUntickedEmptyCell()
+{
+    const PersonaleChkBox box;
+    QCOMPARE(box.tipo, CELL_VUOTA);
+    QCOMPARE(box.riga, U8(0));
+    QCOMPARE(box.colonna, U8(0));
+    QVERIFY(!box.isChecked());
+    QCOMPARE(box.text(), QString());
+    QCOMPARE(box.toolTip(), QStringLiteral("1,1"));
+    QCOMPARE(box.statusTip(), QStringLiteral("Vuota"));
+    QVERIFY(box.parentWidget() == nullptr);
+}
+
+void TestPersonaleChkBox::thePositionIsToldFromOne()
+{
+    PersonaleChkBox box;
+    box.setPosition(2, 8);
+    QCOMPARE(box.riga, U8(2));
+    QCOMPARE(box.colonna, U8(8));
+    QCOMPARE(box.toolTip(), QStringLiteral("3,9"));
+    box.setPosition(254, 254);
+    QCOMPARE(box.toolTip(), QStringLiteral("255,255"));
+}
+
+void TestPersonaleChkBox::theStatusTipNamesTheType_data()
+{
+    QTest::addColumn<int>("tipo");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("number") << 0 << QStringLiteral("Numero");
+    QTest::newRow("text") << 1 << QStringLiteral("Testo");
+    QTest::newRow("image") << 2 << QStringLiteral("Immagine");
+    QTest::newRow("empty") << 3 << QStringLiteral("Vuota");
+}
+
+void TestPersonaleChkBox::theStatusTipNamesTheType()
+{
+    QFETCH(int, tipo);
+    QFETCH(QString, name);
+    PersonaleChkBox box;
+    box.setTipo(tipo == CELL_NUMERO ? CELL_TESTO : CELL_NUMERO);
+    box.setTipo(static_cast<CELL_VALUE>(tipo));
+    QCOMPARE(static_cast<int>(box.tipo), tipo);
+    QCOMPARE(box.statusTip(), name);
+}
+
+void TestPersonaleChkBox::settingTheSameTypeLeavesTheStatusTip()
+{
+    PersonaleChkBox box;
+    box.setTipo(CELL_TESTO);
+    box.setStatusTip(QStringLiteral("other"));
+    box.setTipo(CELL_TESTO);
+    QCOMPARE(box.statusTip(), QStringLiteral("other"));
+}
+
+void TestPersonaleChkBox::theNamesAreTranslatedInTheContextOfTheClass()
+{
+    EchoTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    PersonaleChkBox box;
+    const QString empty = box.statusTip();
+    box.setTipo(CELL_NUMERO);
+    const QString number = box.statusTip();
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(empty, QStringLiteral("PersonaleChkBox:Vuota"));
+    QCOMPARE(number, QStringLiteral("PersonaleChkBox:Numero"));
+}
+
+void TestPersonaleChkBox::anUnknownTypeStopsTheProgram()
+{
+    const QString text = fatalMessageOf([]() {
+        PersonaleChkBox box;
+        box.setTipo(static_cast<CELL_VALUE>(4));
+    });
+    QCOMPARE(text, QStringLiteral("CELL_TYPE UNKNOWN"));
+}
+
+void TestPersonaleChkBox::everyChangeOfTheTickIsReported()
+{
+    PersonaleChkBox box;
+    box.setPosition(4, 7);
+    QSignalSpy ticks(&box, &PersonaleChkBox::schecked);
+    box.setChecked(true);
+    box.setChecked(true);
+    box.setChecked(false);
+    box.click();
+    QCOMPARE(ticks.size(), 3);
+    const QList<bool> expected{true, false, true};
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(ticks[i][0].value<U8>(), U8(4));
+        QCOMPARE(ticks[i][1].value<U8>(), U8(7));
+        QCOMPARE(ticks[i][2].toBool(), expected[i]);
+    }
+}
+
+void TestPersonaleChkBox::aRightClickIsReportedAndLeavesTheTick()
+{
+    for (const bool ticked : {true, false}) {
+        PersonaleChkBox box;
+        box.setPosition(1, 2);
+        box.setChecked(ticked);
+        box.show();
+        QSignalSpy clicks(&box, &PersonaleChkBox::rclicked);
+        QSignalSpy ticks(&box, &PersonaleChkBox::schecked);
+        QTest::mouseClick(&box, Qt::RightButton);
+        QCOMPARE(clicks.size(), 1);
+        QCOMPARE(clicks[0][0].value<U8>(), U8(1));
+        QCOMPARE(clicks[0][1].value<U8>(), U8(2));
+        QCOMPARE(ticks.size(), 0);
+        QCOMPARE(box.isChecked(), ticked);
+    }
+}
+
+void TestPersonaleChkBox::aLeftClickTicks()
+{
+    PersonaleChkBox box;
+    box.show();
+    QSignalSpy clicks(&box, &PersonaleChkBox::rclicked);
+    QTest::mouseClick(&box, Qt::LeftButton);
+    QVERIFY(box.isChecked());
+    QTest::mouseClick(&box, Qt::LeftButton);
+    QVERIFY(!box.isChecked());
+    QCOMPARE(clicks.size(), 0);
+}
+
+void TestPersonaleChkBox::arrowsMoveToTheNeighbours()
+{
+    Grid grid;
+    grid.at(1, 1).setFocus();
+    QTest::keyClick(&grid.at(1, 1), Qt::Key_Down);
+    QCOMPARE(QApplication::focusWidget(), &grid.at(2, 1));
+    QTest::keyClick(&grid.at(2, 1), Qt::Key_Right);
+    QCOMPARE(QApplication::focusWidget(), &grid.at(2, 2));
+    QTest::keyClick(&grid.at(2, 2), Qt::Key_Up);
+    QCOMPARE(QApplication::focusWidget(), &grid.at(1, 2));
+    QTest::keyClick(&grid.at(1, 2), Qt::Key_Left);
+    QCOMPARE(QApplication::focusWidget(), &grid.at(1, 1));
+}
+
+void TestPersonaleChkBox::arrowsStayAtTheEdges()
+{
+    Grid grid;
+    grid.at(0, 0).setFocus();
+    QTest::keyClick(&grid.at(0, 0), Qt::Key_Up);
+    QTest::keyClick(&grid.at(0, 0), Qt::Key_Left);
+    QCOMPARE(QApplication::focusWidget(), &grid.at(0, 0));
+    grid.at(2, 3).setFocus();
+    QTest::keyClick(&grid.at(2, 3), Qt::Key_Down);
+    QTest::keyClick(&grid.at(2, 3), Qt::Key_Right);
+    QCOMPARE(QApplication::focusWidget(), &grid.at(2, 3));
+
+    PersonaleChkBox alone; // without a grid the arrows do nothing
+    QTest::keyClick(&alone, Qt::Key_Down);
+    QVERIFY(!alone.isChecked());
+}
+
+void TestPersonaleChkBox::spaceTicks()
+{
+    Grid grid;
+    grid.at(1, 1).setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(grid.at(1, 1).isChecked());
+}
+
+void TestPersonaleChkBox::typeAndTickAreSeen_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << QPalette(QColor(239, 239, 239));
+    QTest::newRow("dark") << darkPalette();
+}
+
+void TestPersonaleChkBox::typeAndTickAreSeen()
+{
+    QFETCH(QPalette, palette);
+    QList<QImage> seen;
+    QList<QRgb> tiles;
+    for (const CELL_VALUE tipo : {CELL_NUMERO, CELL_TESTO, CELL_IMMAGINE, CELL_VUOTA}) {
+        for (const bool ticked : {true, false}) {
+            const QImage image = picture(tipo, ticked, palette);
+            const QRgb tile = image.pixel(image.width() / 2, 4); // above the sign, beside the indicator
+            QVERIFY(!tiles.contains(tile));
+            tiles.append(tile);
+            QVERIFY(!seen.contains(image));
+            seen.append(image);
+        }
+    }
+}
+
+void TestPersonaleChkBox::aNumberIsPaintedAsItsText()
+{
+    PersonaleChkBox box;
+    const int emptyWidth = box.sizeHint().width();
+    box.resize(box.sizeHint());
+    box.setChecked(true);
+    const QImage without = box.grab().toImage();
+    box.setText(QStringLiteral("90"));
+    QCOMPARE(box.sizeHint().width(), emptyWidth); // numbers of two digits do not move the grid
+    QVERIFY(box.grab().toImage() != without);
+    box.setText(QStringLiteral("1234567"));
+    QVERIFY(box.sizeHint().width() > emptyWidth);
+}
+
+QTEST_MAIN(TestPersonaleChkBox)
+#include "tst_PersonaleChkBox.moc"
