@@ -9,6 +9,9 @@
 namespace {
 constexpr unsigned shortNumbers = 1000;
 constexpr int longestShortText = 3;
+// Places in the table of short texts behind those of the numbers: one that is never read, that of an empty cell.
+constexpr unsigned notShort = shortNumbers;
+constexpr unsigned emptyCell = notShort + 1;
 
 // The text of a number below 1000 or of an empty cell.
 struct ShortText
@@ -17,7 +20,7 @@ struct ShortText
     ushort length;
 };
 
-using ShortTexts = std::array<ShortText, shortNumbers + 1>;
+using ShortTexts = std::array<ShortText, emptyCell + 1>;
 
 constexpr ShortText shortTextOf(unsigned number)
 {
@@ -29,28 +32,26 @@ constexpr ShortText shortTextOf(unsigned number)
                           : ShortText{{hundreds, tens, ones}, 3};
 }
 
-// The texts of the short numbers, then that of an empty cell.
 constexpr ShortTexts makeShortTexts()
 {
     ShortTexts texts{};
     for (unsigned number = 0; number < shortNumbers; ++number) {
         texts[number] = shortTextOf(number);
     }
-    texts[shortNumbers] = {{' ', 0, 0}, 1};
+    texts[emptyCell] = {{' ', 0, 0}, 1};
     return texts;
 }
 
 constexpr ShortTexts shortTexts = makeShortTexts();
 
-// Index of the cell's text in shortTexts, or one beyond it. Numbers and empty cells come mixed in a way that no
-// processor can predict, and this is most of the equal-block check: hence tables instead of branches.
+// Place of the cell's text in shortTexts, or notShort. Numbers and empty cells come mixed in a way that no processor
+// can predict, and this is most of the equal-block check: hence tables instead of branches.
 unsigned shortTextIndex(const Cella &cell)
 {
-    constexpr unsigned notShort = shortNumbers + 1;
     constexpr std::array<unsigned, 4> numberBits{~0U, 0, 0, 0}; // by type
-    constexpr std::array<unsigned, 4> offset{0, notShort, notShort, shortNumbers};
+    constexpr std::array<unsigned, 4> offset{0, notShort, notShort, emptyCell};
     const auto type = static_cast<unsigned>(cell.tipo);
-    return type < offset.size() ? (cell.numero & numberBits[type]) + offset[type] : notShort;
+    return type < offset.size() ? std::min(cell.numero & numberBits[type], notShort) + offset[type] : notShort;
 }
 
 QString longText(const Cella &cell)
@@ -77,7 +78,7 @@ public:
         ushort *end = roomFor(row.nCelle);
         for (int c = 0; c < row.nCelle; ++c) {
             const unsigned index = shortTextIndex(row.celle[c]);
-            if (index < shortTexts.size()) {
+            if (index != notShort) {
                 const ShortText &text = shortTexts[index];
                 std::copy_n(text.characters.data(), longestShortText, end);
                 end += text.length;
