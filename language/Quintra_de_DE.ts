@@ -1016,7 +1016,7 @@ Der Pfad des Bildes muss in der Seitenleiste gewählt werden.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Kartensatz mit %1 Seiten, %2 Karten %3X%4 erzeugt</translation>
+        <translation>Kartensatz erzeugt: Seiten %1, Karten pro Seite %2 (%3X%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1036,7 +1036,7 @@ Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Kartensatz mit %1 Seiten, %2 Karten %3X%4 wird erstellt...</translation>
+        <translation>Kartensatz wird erstellt: Seiten %1, Karten pro Seite %2 (%3X%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1168,7 +1168,7 @@ Prüfung nicht möglich!</translation>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation>Es gibt %1 gleiche Karten!
+        <translation>Gleiche Karten gefunden: %1!
 
 %2
 
@@ -1265,7 +1265,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>Impostazioni iniziali (per il prossimo avvio)</source>
-        <translation>Starteinstellungen (für den nächsten Start)</translation>
+        <translation>Einstellungen (ab dem nächsten Start)</translation>
     </message>
     <message>
         <source>Azzera ed esci</source>

@@ -1016,7 +1016,7 @@ The path of the picture must be chosen in the side panel.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Card set of %1 pages, %2 cards %3X%4 generated</translation>
+        <translation>Card set generated: pages %1, cards per page %2 (%3X%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1036,7 +1036,7 @@ Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Creating a card set of %1 pages, %2 cards %3X%4...</translation>
+        <translation>Creating a card set: pages %1, cards per page %2 (%3X%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1168,7 +1168,7 @@ Cannot run the check!</translation>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation>There are %1 identical cards!
+        <translation>Identical cards found: %1!
 
 %2
 

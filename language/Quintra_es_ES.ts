@@ -918,7 +918,7 @@ Error al añadir la página %i.</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
-        <translation>¡Bienvenido a %1 %2!</translation>
+        <translation>¡Le damos la bienvenida a %1 %2!</translation>
     </message>
     <message>
         <source>La cartella non contiene pagine!</source>
@@ -1016,7 +1016,7 @@ La ruta de la imagen debe elegirse en el panel lateral.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Serie de %1 páginas, %2 cartones %3X%4 generada</translation>
+        <translation>Serie de cartones generada: páginas %1, cartones por página %2 (%3X%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1036,7 +1036,7 @@ Vuoi proseguire comunque?</source>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Creando una serie de %1 páginas, %2 cartones %3X%4...</translation>
+        <translation>Creando una serie de cartones: páginas %1, cartones por página %2 (%3X%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1168,7 +1168,7 @@ Aún no se han generado las páginas de la serie.
 %2
 
 Vuoi visualizzarli?</source>
-        <translation>¡Hay %1 cartones iguales!
+        <translation>¡Cartones iguales encontrados: %1!
 
 %2
 

@@ -1016,7 +1016,7 @@ Le chemin de l&apos;image doit être choisi dans le panneau latéral.</translati
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Série de %1 pages, %2 cartons %3X%4 générée</translation>
+        <translation>Série de cartons générée&#xa0;: pages %1, cartons par page %2 (%3X%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1036,7 +1036,7 @@ Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Création d&apos;une série de %1 pages, %2 cartons %3X%4...</translation>
+        <translation>Création d&apos;une série de cartons&#xa0;: pages %1, cartons par page %2 (%3X%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1168,7 +1168,7 @@ Impossible de lancer la vérification&#xa0;!</translation>
 %2
 
 Vuoi visualizzarli?</source>
-        <translation>Il y a %1 cartons identiques&#xa0;!
+        <translation>Cartons identiques trouvés&#xa0;: %1&#xa0;!
 
 %2
 

@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: MIT
+#include "generation/GUtils.h"
+#include "mainwindow/MainWindow.h"
+#include "model/Cartella.h"
+#include "msgarea/MsgArea.h"
+#include "personale/EditPersonale.h"
+#include "settings/Config.h"
+#include "settings/FormatSelection.h"
+#include "settings/Options.h"
+#include "settings/Product.h"
+#include "support/BoxScript.h"
+#include "support/ScratchFolder.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSet>
+#include <QStyleOptionGroupBox>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+const QSize smallestScreen(1024, 700); // device-independent pixels
+const QString sourceLanguage = QStringLiteral("it_IT");
+const QStringList languages = {sourceLanguage, QStringLiteral("en_GB"), QStringLiteral("de_DE"),
+                               QStringLiteral("fr_FR"), QStringLiteral("es_ES")};
+
+// What the windows need to live: the translation files of the build, a picture, the settings, the utilities.
+class Program final
+{
+public:
+    Program()
+        : config((prepareFolder(), qApp))
+        , utils(qApp)
+    {
+        globalConfig = &config;
+        globalUtils = &utils;
+    }
+    ~Program()
+    {
+        globalConfig = nullptr;
+        globalUtils = nullptr;
+    }
+    Q_DISABLE_COPY_MOVE(Program)
+
+    bool speak(const QString &language)
+    {
+        config.language = language; // chosen by the first-start dialog when it opens
+        return utils.loadTranslations(language);
+    }
+
+private:
+    void prepareFolder()
+    {
+        folder.writePicture(QStringLiteral("default.png"), QSize(8, 6), Qt::red);
+        const QDir built(QStringLiteral(QUINTRA_LANGUAGE_FOLDER));
+        QDir::current().mkdir(QStringLiteral("language"));
+        for (const QString &name : built.entryList(QDir::Files)) {
+            QFile::copy(built.filePath(name), folder.path(QStringLiteral("language/") + name));
+        }
+    }
+
+    ScratchFolder folder;
+
+public:
+    Config config;
+    GUtils utils;
+    BoxScript boxes;
+};
+
+enum Window { Main, FirstStart, Settings, Mapping, Messages };
+
+std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
+{
+    constexpr U8 rows = 3;
+    constexpr U8 columns = 9;
+    constexpr U16 pages = 2;
+    constexpr int lowest = 1;
+    constexpr int highest = 90;
+    switch (window) {
+    case Main:
+        return std::make_unique<MainWindow>();
+    case FirstStart:
+        return std::make_unique<FormatSelection>();
+    case Settings:
+        return std::make_unique<Options>(nullptr);
+    case Mapping:
+        return std::make_unique<EditPersonale>(nullptr, cartella, rows, columns, pages, lowest, highest, 0);
+    default:
+        return std::make_unique<MsgArea>(nullptr, true);
+    }
+}
+
+// Texts of the toolkit come from translations of its own.
+bool isToolkitsOwn(const QWidget *widget)
+{
+    return qobject_cast<QDialogButtonBox *>(widget->parentWidget()) != nullptr;
+}
+
+QString textOf(const QWidget *widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+        return label->text();
+    }
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
+        return button->text();
+    }
+    const auto *group = qobject_cast<const QGroupBox *>(widget);
+    return group != nullptr ? group->title() : QString();
+}
+
+// All texts of the window's own, in an order that is the same in every language.
+QStringList textsOf(const QWidget &window)
+{
+    QStringList texts(window.windowTitle().section(QStringLiteral(" - "), 1));
+    for (const auto *widget : window.findChildren<QWidget *>()) {
+        if (widget->isVisibleTo(&window) && !isToolkitsOwn(widget)) {
+            texts << textOf(widget) << widget->toolTip() << widget->statusTip() << widget->accessibleName();
+        }
+    }
+    for (const auto *action : window.findChildren<QAction *>()) {
+        if (!action->objectName().isEmpty()) { // those of text editors and toolkit dialogs have none
+            texts << action->text() << action->toolTip();
+        }
+    }
+    return texts.join(QLatin1Char('\n')).split(QLatin1Char('\n')); // tool tips can be several texts
+}
+
+// The translation in a window of this class; empty when there is none.
+QString translationOf(const QString &source, const QString &className, const QTranslator &translator)
+{
+    const QString text = translator.translate(qUtf8Printable(className), qUtf8Printable(source));
+    return text.isEmpty() ? translator.translate("PersonaleChkBox", qUtf8Printable(source)) : text;
+}
+
+// Names, numbers and the like.
+bool isForEveryLanguage(const QString &text)
+{
+    static const QRegularExpression word(QStringLiteral("[a-z]{3}"), QRegularExpression::CaseInsensitiveOption);
+    return !text.contains(word) || text.contains(Product::nameText());
+}
+
+QString describe(const QWidget *widget)
+{
+    return QStringLiteral("%1 \"%2\"").arg(widget->objectName(), textOf(widget));
+}
+
+bool isTitleCut(const QGroupBox *group)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(group);
+    option.text = group->title();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    const QRect place = group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, group);
+    return place.left() + group->fontMetrics().horizontalAdvance(group->title()) > group->width();
+}
+
+bool isCut(const QWidget *widget)
+{
+    if (const auto *group = qobject_cast<const QGroupBox *>(widget)) {
+        return isTitleCut(group);
+    }
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    if (label != nullptr && label->wordWrap()) {
+        return false;
+    }
+    return widget->width() < widget->sizeHint().width() || widget->height() < widget->sizeHint().height();
+}
+
+// A pane whose content is wider than itself hides the ends of its texts. A grid of cells, which has no label, may.
+bool isPaneTooNarrow(const QWidget *widget)
+{
+    const auto *pane = qobject_cast<const QScrollArea *>(widget);
+    return pane != nullptr && pane->findChild<QLabel *>() != nullptr && pane->horizontalScrollBar()->maximum() > 0;
+}
+
+// The widgets of the shown window whose texts have too little room.
+QStringList cutTexts(const QWidget &window)
+{
+    QStringList cut;
+    for (const auto *widget : window.findChildren<QWidget *>()) {
+        const bool hidden = !widget->isVisibleTo(&window);
+        if (!hidden && ((!textOf(widget).isEmpty() && isCut(widget)) || isPaneTooNarrow(widget))) {
+            cut << describe(widget);
+        }
+    }
+    return cut;
+}
+
+// Dialogs keep the size they ask for; the others are made as large as the smallest screen.
+void showOnSmallestScreen(QWidget *window)
+{
+    if (qobject_cast<QDialog *>(window) == nullptr) {
+        window->showNormal();
+        window->resize(smallestScreen);
+    }
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QCoreApplication::processEvents(); // the layouts settle
+}
+} // namespace
+
+class tst_LanguageOfWindows final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyTextIsTranslated_data();
+    void everyTextIsTranslated();
+    void noTextIsCut_data();
+    void noTextIsCut();
+    void aTextTooLongForItsPlaceIsFound();
+    void theKindsOfCellsHaveDifferentInitials_data();
+    void theKindsOfCellsHaveDifferentInitials();
+
+private:
+    static void addWindows();
+};
+
+void tst_LanguageOfWindows::addWindows()
+{
+    struct Row
+    {
+        Window window;
+        QLatin1String className;
+    };
+    const Row rows[] = {{Main, QLatin1String("MainWindow")},
+                        {FirstStart, QLatin1String("FormatSelection")},
+                        {Settings, QLatin1String("Options")},
+                        {Mapping, QLatin1String("EditPersonale")},
+                        {Messages, QLatin1String("MsgArea")}};
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("window");
+    QTest::addColumn<QString>("className");
+    for (const QString &language : languages) {
+        for (const Row &row : rows) {
+            const QString name = row.className + QLatin1Char(' ') + language;
+            QTest::newRow(qPrintable(name)) << language << int(row.window) << QString(row.className);
+        }
+    }
+}
+
+void tst_LanguageOfWindows::everyTextIsTranslated_data()
+{
+    addWindows();
+}
+
+void tst_LanguageOfWindows::everyTextIsTranslated()
+{
+    QFETCH(QString, language);
+    QFETCH(int, window);
+    QFETCH(QString, className);
+    Program program;
+    Cartella cartella;
+    QVERIFY(program.speak(sourceLanguage));
+    const QStringList source = textsOf(*makeWindow(window, &cartella));
+
+    QVERIFY(program.speak(language));
+    const QStringList shown = textsOf(*makeWindow(window, &cartella));
+
+    QTranslator translator;
+    QVERIFY(
+        translator.load(Product::nameText() + QLatin1Char('_') + language, QStringLiteral(QUINTRA_LANGUAGE_FOLDER)));
+    QCOMPARE(shown.size(), source.size());
+    int translated = 0;
+    for (int i = 0; i < source.size(); ++i) {
+        const QString wanted = translationOf(source[i], className, translator);
+        if (wanted.isEmpty()) {
+            QVERIFY2(isForEveryLanguage(source[i]), qPrintable(source[i]));
+            QCOMPARE(shown[i], source[i]);
+        } else {
+            QCOMPARE(shown[i], wanted);
+            ++translated;
+        }
+    }
+    QVERIFY(translated > 0);
+    QCOMPARE(program.boxes.problems(), QStringList());
+}
+
+void tst_LanguageOfWindows::noTextIsCut_data()
+{
+    addWindows();
+}
+
+void tst_LanguageOfWindows::noTextIsCut()
+{
+    QFETCH(QString, language);
+    QFETCH(int, window);
+    Program program;
+    Cartella cartella;
+    QVERIFY(program.speak(language));
+    const std::unique_ptr<QWidget> shown = makeWindow(window, &cartella);
+    showOnSmallestScreen(shown.get());
+
+    QCOMPARE(cutTexts(*shown).join(QStringLiteral(", ")), QString());
+    QVERIFY(shown->width() <= smallestScreen.width());
+    QVERIFY(shown->height() <= smallestScreen.height());
+    QCOMPARE(program.boxes.problems(), QStringList());
+}
+
+void tst_LanguageOfWindows::aTextTooLongForItsPlaceIsFound()
+{
+    Program program;
+    Options dialog(nullptr);
+    dialog.setFixedSize(dialog.sizeHint());
+    auto *group = dialog.findChild<QGroupBox *>();
+    auto *button = dialog.findChild<QPushButton *>(QStringLiteral("butt_azzeraesci"));
+    showOnSmallestScreen(&dialog);
+    QCOMPARE(cutTexts(dialog), QStringList());
+
+    group->setTitle(QString(200, QLatin1Char('m')));
+    QCOMPARE(cutTexts(dialog).size(), 1);
+
+    group->setTitle(QString());
+    button->setText(QString(200, QLatin1Char('m')));
+    QVERIFY(!cutTexts(dialog).isEmpty());
+}
+
+void tst_LanguageOfWindows::theKindsOfCellsHaveDifferentInitials_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : languages) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+// The editor of the manual mapping marks each cell with the first letter of its kind.
+void tst_LanguageOfWindows::theKindsOfCellsHaveDifferentInitials()
+{
+    QFETCH(QString, language);
+    Program program;
+    QVERIFY(program.speak(language));
+    QSet<QChar> initials;
+    for (const CELL_VALUE kind : {CELL_NUMERO, CELL_TESTO, CELL_IMMAGINE, CELL_VUOTA}) {
+        PersonaleChkBox box;
+        box.setTipo(kind);
+        initials.insert(box.statusTip().at(0).toUpper());
+    }
+    QCOMPARE(initials.size(), 4);
+}
+
+QTEST_MAIN(tst_LanguageOfWindows)
+#include "tst_LanguageOfWindows.moc"
