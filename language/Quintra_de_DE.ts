@@ -1265,7 +1265,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>Impostazioni iniziali (per il prossimo avvio)</source>
-        <translation>Einstellungen (ab dem nächsten Start)</translation>
+        <translation>Einstellungen ab dem nächsten Start</translation>
     </message>
     <message>
         <source>Azzera ed esci</source>
