@@ -84,6 +84,7 @@ EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 co
 EditPersonale::~EditPersonale()
 {
     m_open = false;
+    disconnect(qApp, nullptr, this, nullptr); // the focus moves once more, when the form is gone
     takeDisplayedBoxes();
 }
 
