@@ -121,7 +121,7 @@ void tst_Config::theSecondStartIsNoFirstStart()
 void tst_Config::theFieldsHoldTheDefaultsAfterAFirstStart()
 {
     const ScratchFolder folder;
-    const Config config(qApp);
+    const Config config(QCoreApplication::instance());
     QCOMPARE(config.nMin, 1);
     QCOMPARE(config.nMax, 90);
     QCOMPARE(config.classicNBlocks, 6);
@@ -135,7 +135,7 @@ void tst_Config::theFieldsHoldTheDefaultsAfterAFirstStart()
     QCOMPARE(config.language, QLocale::system().name());
     QCOMPARE(config.outputFormatId, 0);
     QCOMPARE(config.outputFormatName, QStringLiteral("PDF"));
-    QCOMPARE(config.application, qApp);
+    QCOMPARE(config.application, QCoreApplication::instance());
 }
 
 void tst_Config::everyKeyIsRead()

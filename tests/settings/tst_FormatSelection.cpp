@@ -102,6 +102,7 @@ private slots:
     void choosingALanguageChangesTheDialog();
     void choosingALanguageRewritesTheComments();
     void choosingALanguageLeavesTheKeysAlone();
+    void theDialogGrowsWithItsTexts();
     void aBrokenTranslationShowsTheSourceTexts();
     void aMalformedConfigurationIsReportedAndReset();
 
@@ -392,6 +393,20 @@ void tst_FormatSelection::choosingALanguageLeavesTheKeysAlone()
     FormatSelection dialog;
     dialog.findChild<QComboBox *>(QStringLiteral("lang_selection"))->setCurrentIndex(1);
     QCOMPARE(m_folder->read(QStringLiteral("config.ini")), commentedIn("IT ").replace("=TXT", "=a; b, \\\\c \xe8"));
+}
+
+void tst_FormatSelection::theDialogGrowsWithItsTexts()
+{
+    m_folder->write(QStringLiteral("language/Quintra_en_GB.qm"), m_english);
+    m_folder->write(QStringLiteral("language/Quintra_xx_XX.qm"), fileOf(QStringLiteral("much longer texts")));
+    FormatSelection dialog;
+    dialog.show();
+    const int before = dialog.width();
+    dialog.findChild<QComboBox *>(QStringLiteral("lang_selection"))->setCurrentIndex(1);
+    QTRY_VERIFY(dialog.width() > before);
+    for (const QLabel *label : dialog.findChildren<QLabel *>()) {
+        QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+    }
 }
 
 void tst_FormatSelection::aBrokenTranslationShowsTheSourceTexts()
