@@ -4,6 +4,7 @@
 #include "support/LogCapture.h"
 
 #include <QTest>
+#include <QTime>
 
 #include <algorithm>
 #include <cstdlib>
@@ -90,16 +91,18 @@ private slots:
 
 void tst_GUtils::startingSeedsWithTheMilliseconds()
 {
+    constexpr int perDay = 24 * 60 * 60 * 1000;
+    const int before = QTime::currentTime().msecsSinceStartOfDay();
     const GUtils utils(QCoreApplication::instance());
-    const int first = nextRandom();
-    const int second = nextRandom();
-    int matching = 0;
-    for (unsigned milliseconds = 0; milliseconds < 1000; ++milliseconds) {
-        seedRandom(milliseconds);
-        const bool same = nextRandom() == first && nextRandom() == second;
-        matching += same ? 1 : 0;
+    const QVector<int> drawn{nextRandom(), nextRandom(), nextRandom()};
+    const int elapsed = (QTime::currentTime().msecsSinceStartOfDay() - before + perDay) % perDay;
+
+    bool found = false;
+    for (int passed = 0; passed <= elapsed && !found; ++passed) {
+        seedRandom(static_cast<unsigned>((before + passed) % 1000));
+        found = QVector<int>{nextRandom(), nextRandom(), nextRandom()} == drawn;
     }
-    QVERIFY(matching >= 1);
+    QVERIFY(found);
 }
 
 void tst_GUtils::allNumbersOfTheRangeAreDrawnOnce()

@@ -614,6 +614,7 @@ void tst_GeneraCartellaClassica::noPageIsRefused()
 {
     const LogCapture log;
     QVERIFY(!GeneraCartellaClassica().generate(nullptr, 9, 5, 0, 0, 1, 90));
+    QCOMPARE(log.warnings().size(), 1);
 }
 
 void tst_GeneraCartellaClassica::aPageWithoutBlocksIsRefused()
@@ -621,6 +622,7 @@ void tst_GeneraCartellaClassica::aPageWithoutBlocksIsRefused()
     Pagina page;
     const LogCapture log;
     QVERIFY(!GeneraCartellaClassica().generate(&page, 9, 5, 0, 0, 1, 90));
+    QCOMPARE(log.warnings().size(), 1);
 }
 
 // One column with one number more than a draw can count: the only way to be left without numbers.

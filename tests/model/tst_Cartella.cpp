@@ -56,6 +56,7 @@ private slots:
     void vectorsOfDifferentLengthsAreRefused();
     void theFirstLengthBindsLaterCalls();
     void aShorterListOfBlocksIsRefused();
+    void aLongerListOfBlocksIsReadUpToTheFirstLength();
     void sizesTakeTheWidestRow();
     void sizesOfAnEmptySetAreZero();
     void pagesBeyondTheCountAreRefusedWithAWarning();
@@ -165,11 +166,17 @@ void tst_Cartella::onePageIsMadeInOneGo()
 
 void tst_Cartella::aSetHasItsDefaultsHoweverItIsMade()
 {
-    const Cartella set(2, 1, 1, 1);
-    QCOMPARE(set.pagineEsterne, U8(0));
-    QCOMPARE(set.margineSuperiore, 3.0);
-    QCOMPARE(set.margineDestro, 2.0);
-    QCOMPARE(set.formato, 0);
+    const Cartella equalPages(2, 1, 1, 1);
+    const Cartella onePage(U8(1), U8(1), U8(1));
+    const Cartella differentPages(QVector<U8>{1, 2}, QVector<U8>{3, 4}, QVector<U8>{5, 6});
+    for (const Cartella *set : {&equalPages, &onePage, &differentPages}) {
+        QCOMPARE(set->pagineEsterne, U8(0));
+        QCOMPARE(set->margineSuperiore, 3.0);
+        QCOMPARE(set->margineInferiore, 3.0);
+        QCOMPARE(set->margineSinistro, 2.0);
+        QCOMPARE(set->margineDestro, 2.0);
+        QCOMPARE(set->formato, 0);
+    }
 }
 
 void tst_Cartella::zeroBlocksAreRefused()
@@ -270,6 +277,17 @@ void tst_Cartella::aShorterListOfBlocksIsRefused()
     QVERIFY(!set.generateBlocks({1}, {1, 1}, {1, 1}));
     QCOMPARE(log.warnings().size(), 1);
     QCOMPARE(set.getNumPages(), 2);
+}
+
+void tst_Cartella::aLongerListOfBlocksIsReadUpToTheFirstLength()
+{
+    Cartella set;
+    QVERIFY(set.generateBlocks({1, 1}, {1, 1}, {1, 1}));
+    const LogCapture log;
+    QVERIFY(set.generateBlocks({3, 4, 5}, {1, 1}, {1, 1}));
+    QCOMPARE(log.warnings(), noWarnings);
+    QCOMPARE(set.getNumPages(), 4);
+    QCOMPARE(set.pagine[3]->nBlocchi, U8(4));
 }
 
 void tst_Cartella::sizesTakeTheWidestRow()

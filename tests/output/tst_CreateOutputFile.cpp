@@ -82,6 +82,15 @@ private slots:
         }
     }
 
+    void suffixMustBeTheNameOfTheConfiguredFormat()
+    {
+        m_config->outputFormatName = QStringLiteral("CARTE");
+        QCOMPARE(create(QStringLiteral("a.pdf")), -1);
+        QCOMPARE(m_report, QStringLiteral("Formato file sconosciuto!"));
+        QVERIFY(create(QStringLiteral("a.carte")) > 0);
+        QCOMPARE(PdfTools::pageCount(QStringLiteral("a.carte")), 1);
+    }
+
     void formatSwitchedOffIsUnknown()
     {
         m_config->outputFormatId = -1;
@@ -212,6 +221,8 @@ private slots:
         QCOMPARE(output.create(QStringLiteral("pieno.pdf"), set.get(), m_report), -1);
         QCOMPARE(m_report, QStringLiteral("Impossibile continuare a scrivere sul file!"));
         QVERIFY(!textsOf(progress).contains(QStringLiteral("Stampa PDF completata!")));
+        const bool allPagesDrawn = progress.size() == pages;
+        QCOMPARE(allPagesDrawn, pages == 1);
     }
 
     void emptySetIsPrintedWithoutProgress()
