@@ -61,7 +61,7 @@ struct Pagina
 };
 
 // The card set: an ordered list of pages of blocks (the cards) of rows of cells. All indices are 0-based.
-// A refused call writes one debug warning, returns false, 0 or -1, and leaves the set unchanged.
+// A refused call returns false, 0 or -1 and leaves the set unchanged; most write a debug warning.
 class Cartella final : public QObject
 {
     Q_OBJECT
