@@ -490,6 +490,10 @@ Größe: %5 Bytes (%6 MB)
         <source>Impossibile commentare il file, formato errato!</source>
         <translation>Die Datei kann nicht kommentiert werden, falsches Format!</translation>
     </message>
+    <message>
+        <source>Continua con queste impostazioni</source>
+        <translation>Mit diesen Einstellungen fortfahren</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>

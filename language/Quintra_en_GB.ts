@@ -490,6 +490,10 @@ Size: %5 bytes (%6 MB)
         <source>Impossibile commentare il file, formato errato!</source>
         <translation>Cannot add comments to the file, wrong format!</translation>
     </message>
+    <message>
+        <source>Continua con queste impostazioni</source>
+        <translation>Continue with these settings</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>

@@ -490,6 +490,10 @@ Tamaño: %5 bytes (%6 MB)
         <source>Impossibile commentare il file, formato errato!</source>
         <translation>¡No se puede comentar el archivo, formato incorrecto!</translation>
     </message>
+    <message>
+        <source>Continua con queste impostazioni</source>
+        <translation>Continuar con esta configuración</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>

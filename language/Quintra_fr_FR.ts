@@ -490,6 +490,10 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <source>Impossibile commentare il file, formato errato!</source>
         <translation>Impossible de commenter le fichier, format incorrect&#xa0;!</translation>
     </message>
+    <message>
+        <source>Continua con queste impostazioni</source>
+        <translation>Continuer avec ces paramètres</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>

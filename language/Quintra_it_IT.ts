@@ -490,6 +490,10 @@ Dimensione: %5 Bytes (%6 MB)
         <source>Impossibile commentare il file, formato errato!</source>
         <translation>Impossibile commentare il file, formato errato!</translation>
     </message>
+    <message>
+        <source>Continua con queste impostazioni</source>
+        <translation>Continua con queste impostazioni</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
