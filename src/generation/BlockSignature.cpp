@@ -9,9 +9,6 @@
 namespace {
 constexpr unsigned shortNumbers = 1000;
 constexpr int longestShortText = 3;
-// Places in the table of short texts behind those of the numbers: one that is never read, that of an empty cell.
-constexpr unsigned notShort = shortNumbers;
-constexpr unsigned emptyCell = notShort + 1;
 
 // The text of a number below 1000 or of an empty cell.
 struct ShortText
@@ -20,7 +17,7 @@ struct ShortText
     ushort length;
 };
 
-using ShortTexts = std::array<ShortText, emptyCell + 1>;
+using ShortTexts = std::array<ShortText, 1 + shortNumbers>;
 
 constexpr ShortText shortTextOf(unsigned number)
 {
@@ -32,26 +29,29 @@ constexpr ShortText shortTextOf(unsigned number)
                           : ShortText{{hundreds, tens, ones}, 3};
 }
 
+// The text of an empty cell, then those of the short numbers.
 constexpr ShortTexts makeShortTexts()
 {
     ShortTexts texts{};
+    texts[0] = {{' ', 0, 0}, 1};
     for (unsigned number = 0; number < shortNumbers; ++number) {
-        texts[number] = shortTextOf(number);
+        texts[1 + number] = shortTextOf(number);
     }
-    texts[emptyCell] = {{' ', 0, 0}, 1};
     return texts;
 }
 
 constexpr ShortTexts shortTexts = makeShortTexts();
 
-// Place of the cell's text in shortTexts, or notShort. Numbers and empty cells come mixed in a way that no processor
-// can predict, and this is most of the equal-block check: hence tables instead of branches.
-unsigned shortTextIndex(const Cella &cell)
+// Index of the cell's text in shortTexts, or one beyond it. Numbers and empty cells come mixed in a way that no
+// processor can predict, and this is most of the equal-block check: hence tables instead of branches. In 64 bits,
+// since the index of the largest number does not fit in 32.
+quint64 shortTextIndex(const Cella &cell)
 {
-    constexpr std::array<unsigned, 4> numberBits{~0U, 0, 0, 0}; // by type
-    constexpr std::array<unsigned, 4> offset{0, notShort, notShort, emptyCell};
+    constexpr quint64 notShort = shortTexts.size();
+    constexpr std::array<quint32, 4> numberBits{~0U, 0, 0, 0}; // by type
+    constexpr std::array<quint64, 4> offset{1, notShort, notShort, 0};
     const auto type = static_cast<unsigned>(cell.tipo);
-    return type < offset.size() ? std::min(cell.numero & numberBits[type], notShort) + offset[type] : notShort;
+    return type < offset.size() ? (cell.numero & numberBits[type]) + offset[type] : notShort;
 }
 
 QString longText(const Cella &cell)
@@ -77,8 +77,8 @@ public:
     {
         ushort *end = roomFor(row.nCelle);
         for (int c = 0; c < row.nCelle; ++c) {
-            const unsigned index = shortTextIndex(row.celle[c]);
-            if (index != notShort) {
+            const quint64 index = shortTextIndex(row.celle[c]);
+            if (index < shortTexts.size()) {
                 const ShortText &text = shortTexts[index];
                 std::copy_n(text.characters.data(), longestShortText, end);
                 end += text.length;
