@@ -62,7 +62,7 @@ void fillCell(Cella &cell, PersonaleChkBox &box, const QVector<unsigned> &number
     cell.tipo = box.tipo;
     if (box.tipo == CELL_NUMERO) {
         cell.numero = numberAt(numbers, --remaining);
-        box.setText(QStringLiteral("%1").arg(cell.numero));
+        box.setNumero(cell.numero);
     }
 }
 

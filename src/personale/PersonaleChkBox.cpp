@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSet>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -21,6 +22,13 @@ const QString &positionText(U8 row, U8 column)
         text = QStringLiteral("%1,%2").arg(row + 1).arg(column + 1);
     }
     return text;
+}
+
+// The same text again, in the memory of its first occurrence.
+QString shared(const QString &text)
+{
+    static QSet<QString> texts;
+    return *texts.insert(text);
 }
 
 // Translucent, so that it suits light and dark palettes.
@@ -56,7 +64,7 @@ PersonaleChkBox::PersonaleChkBox()
     static const int positionType = qRegisterMetaType<U8>("U8"); // an argument of the signals
     Q_UNUSED(positionType)
     setPosition(0, 0);
-    setStatusTip(typeName(tipo));
+    setStatusTip(shared(typeName(tipo)));
     connect(this, &QCheckBox::toggled, this, &PersonaleChkBox::checked);
 }
 
@@ -80,7 +88,7 @@ void PersonaleChkBox::setTipo(CELL_VALUE value)
     if (value == tipo) {
         return;
     }
-    setStatusTip(typeName(value));
+    setStatusTip(shared(typeName(value)));
     tipo = value;
     update();
 }
@@ -90,6 +98,33 @@ void PersonaleChkBox::setPosition(U8 row, U8 column)
     riga = row;
     colonna = column;
     setToolTip(positionText(row, column));
+}
+
+void PersonaleChkBox::setNumero(quint32 numero)
+{
+    m_notedNumber = numero;
+    if (isVisible()) {
+        showNotedNumber();
+    }
+}
+
+QString PersonaleChkBox::text() const
+{
+    return m_notedNumber ? QString::number(*m_notedNumber) : QCheckBox::text();
+}
+
+void PersonaleChkBox::showEvent(QShowEvent *event)
+{
+    showNotedNumber();
+    QCheckBox::showEvent(event);
+}
+
+void PersonaleChkBox::showNotedNumber()
+{
+    if (m_notedNumber) {
+        setText(QString::number(*m_notedNumber));
+        m_notedNumber.reset();
+    }
 }
 
 // Numbers of two digits fit without moving the grid.

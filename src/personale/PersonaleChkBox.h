@@ -5,6 +5,8 @@
 
 #include <QCheckBox>
 
+#include <optional>
+
 // One cell of a hand-drawn page: the tick says whether it is filled, `tipo` with what. Its colour and the first letter
 // of its type show at a glance what it is; arrow keys move to the neighbours of the grid that holds it.
 class PersonaleChkBox final : public QCheckBox
@@ -18,6 +20,11 @@ public:
     void setTipo(CELL_VALUE value);
     // Sets `riga` and `colonna` (0-based) and the tool tip, which tells them counted from 1.
     void setPosition(U8 row, U8 column);
+
+    // Shows a number as the text. A box that is not on display notes it until its text is needed: of the many boxes of
+    // many pages few are ever looked at.
+    void setNumero(quint32 numero);
+    QString text() const;
 
     QSize sizeHint() const override;
 
@@ -36,11 +43,15 @@ public slots:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     // The whole cell can be clicked.
     bool hitButton(const QPoint &position) const override;
 
 private:
     static QString typeName(CELL_VALUE value);
+    void showNotedNumber();
     void moveFocus(int rows, int columns);
+
+    std::optional<quint32> m_notedNumber; // not yet in the text
 };
