@@ -148,10 +148,7 @@ void MainWindow::on_butt_stampa_clicked()
     }
     QString report;
     if (!writeOutputFile(fileName, report)) {
-        QMessageBox box(QMessageBox::Warning, boxTitle(), tr("Errore nella creazione del file:\n%1").arg(fileName),
-                        QMessageBox::Ok, this);
-        box.setInformativeText(report);
-        box.exec();
+        warn(tr("Errore nella creazione del file:\n%1").arg(fileName), report);
         return;
     }
     MsgArea *window = openMsgArea();
@@ -194,6 +191,14 @@ MsgArea *MainWindow::openMsgArea()
 QString MainWindow::boxTitle()
 {
     return Product::titleFor(tr("Cartella classica"));
+}
+
+// The reason stands below the text.
+void MainWindow::warn(const QString &text, const QString &reason)
+{
+    QMessageBox box(QMessageBox::Warning, boxTitle(), text, QMessageBox::Ok, this);
+    box.setInformativeText(reason);
+    box.exec();
 }
 
 void MainWindow::on_pagina_formato_currentIndexChanged(int index)

@@ -106,6 +106,10 @@ public slots:
     void on_actionSave_triggered();
     void on_actionInformazioni_triggered();
 
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     // Construction.
     void welcome();
@@ -132,15 +136,11 @@ private:
 
     // Boxes, report windows, printing.
     static QString boxTitle();
+    void warn(const QString &text, const QString &reason);
     MsgArea *openMsgArea();
     QString askPrintFileName();
     bool writeOutputFile(const QString &fileName, QString &report);
 
-protected:
-    bool event(QEvent *event) override;
-    void closeEvent(QCloseEvent *event) override;
-
-private:
     // The page table.
     QTableWidget *replaceTable();
     Pagina *shownPage() const;
@@ -164,7 +164,7 @@ private:
     bool refusesWithoutSelection();
     bool refusesWithoutBlock();
     void openColourPicker(void (MainWindow::*colouringSlot)(QColor));
-    void closeColourPicker();
+    void disconnectColourPicker();
     void recolour(const std::function<void()> &change);
     void recolourCells(QColor Cella::*part, const QColor &colour, const QString &done);
     bool changeSelectedCells(const std::function<void(Cella &)> &change);

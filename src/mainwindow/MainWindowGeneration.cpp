@@ -42,13 +42,20 @@ void MainWindow::generateUndisturbed(bool append)
         ui->actionConfronta_blocchi->setEnabled(enabled);
         ui->butt_aggiungi_pagine->setEnabled(enabled);
     };
+    const bool focused = ui->butt_aggiungi_pagine->hasFocus(); // which a disabled button passes on
     setEnabled(false);
-    const auto enableAgain = qScopeGuard([&]() { setEnabled(true); });
+    const auto enableAgain = qScopeGuard([&]() {
+        setEnabled(true);
+        if (focused) {
+            ui->butt_aggiungi_pagine->setFocus();
+        }
+    });
     generate(append);
 }
 
 bool MainWindow::generate(bool append)
 {
+    ui->box_classica_numeromassimo->interpretText(); // it may still be being typed
     if (ui->MappaManuale->isChecked()) {
         openEditor(append);
         return true;
@@ -86,7 +93,7 @@ bool MainWindow::confirmVerdict(int verdict, const QString &message)
 {
     switch (verdict) {
     case ParameterRules::Error:
-        QMessageBox::warning(this, boxTitle(), tr("Problemi di impostazione parametri: non posso proseguire!"));
+        warn(tr("Problemi di impostazione parametri: non posso proseguire!"), message);
         return false;
     case ParameterRules::Warning:
         return QMessageBox::question(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message),

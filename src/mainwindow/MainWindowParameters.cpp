@@ -116,6 +116,7 @@ void MainWindow::on_box_classica_numerominimo_valueChanged(int value)
     checkParameters(nullptr, false);
 }
 
+// Only a number typed to its end comes here: its first digits alone may be below the minimum.
 void MainWindow::on_box_classica_numeromassimo_valueChanged(int value)
 {
     const int minimum = ui->box_classica_numerominimo->value();

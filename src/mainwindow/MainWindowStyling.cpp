@@ -81,13 +81,13 @@ bool MainWindow::refusesWithoutBlock()
 // The next choice of colour reaches this slot and no other, whichever command opened the picker before.
 void MainWindow::openColourPicker(void (MainWindow::*colouringSlot)(QColor))
 {
-    closeColourPicker();
+    disconnectColourPicker();
     connect(m_colorDialog, &QColorDialog::colorSelected, this, colouringSlot);
     m_colorDialog->show();
 }
 
 // No command waits for a colour any more.
-void MainWindow::closeColourPicker()
+void MainWindow::disconnectColourPicker()
 {
     disconnect(m_colorDialog, &QColorDialog::colorSelected, this, nullptr);
 }
@@ -112,7 +112,7 @@ void MainWindow::on_colorapaginasfondo_clicked()
 
 void MainWindow::coloraPaginaSfondo(QColor color)
 {
-    closeColourPicker();
+    disconnectColourPicker();
     if (refusesWithoutPages()) {
         return;
     }
@@ -132,7 +132,7 @@ void MainWindow::on_colorabloccosfondo_clicked()
 
 void MainWindow::coloraBloccoSfondo(QColor color)
 {
-    closeColourPicker();
+    disconnectColourPicker();
     if (refusesWithoutBlock()) {
         return;
     }
@@ -153,7 +153,7 @@ void MainWindow::on_colorabloccolineaesterna_clicked()
 // The colours of the block lines are not stored yet.
 void MainWindow::coloraBloccoLineaEsterna(QColor)
 {
-    closeColourPicker();
+    disconnectColourPicker();
 }
 
 void MainWindow::on_colorabloccolineainterna_clicked()
@@ -165,7 +165,7 @@ void MainWindow::on_colorabloccolineainterna_clicked()
 
 void MainWindow::coloraBloccoLineaInterna(QColor)
 {
-    closeColourPicker();
+    disconnectColourPicker();
 }
 
 void MainWindow::on_coloracellatesto_clicked()
@@ -177,7 +177,7 @@ void MainWindow::on_coloracellatesto_clicked()
 
 void MainWindow::coloraCellaTesto(QColor color)
 {
-    closeColourPicker();
+    disconnectColourPicker();
     recolourCells(&Cella::coloreTesto, color, tr("Modifica colore testo cella applicata."));
 }
 
@@ -190,7 +190,7 @@ void MainWindow::on_coloracellasfondo_clicked()
 
 void MainWindow::coloraCellaSfondo(QColor color)
 {
-    closeColourPicker();
+    disconnectColourPicker();
     recolourCells(&Cella::coloreSfondo, color, tr("Modifica colore sfondo cella applicata."));
 }
 

@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMetaMethod>
 #include <QStatusTipEvent>
 #include <QTextEdit>
 
@@ -57,6 +58,7 @@ class tst_MainWindow final : public QObject
 
 private slots:
     void theWindowOpensMaximisedWithNameAndRelease();
+    void theSlotsKeepTheirOrder();
     void theWelcomeIsRedFromTheFirstMoment();
     void theCardSetIsEmptyAtFirst();
     void theCurrentFontTheTableAndThePickerAreReady();
@@ -99,6 +101,63 @@ void tst_MainWindow::theWindowOpensMaximisedWithNameAndRelease()
     QVERIFY(page.window->isVisible());
     QVERIFY(!page.window->windowIcon().isNull());
     QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindow::theSlotsKeepTheirOrder()
+{
+    const QByteArrayList expected{"done",
+                                  "updateStatusBar",
+                                  "setStatusBarStyle",
+                                  "on_pagina_corrente_spinBox_valueChanged",
+                                  "tableItemChanged",
+                                  "tableItemSelectionChanged",
+                                  "on_applica_tutte_celle_clicked",
+                                  "on_applica_tutti_blocchi_checkBox_clicked",
+                                  "on_pagina_applica_clicked",
+                                  "on_seleziona_font_button_clicked",
+                                  "on_pagina_formato_currentIndexChanged",
+                                  "on_box_classica_numeropagine_valueChanged",
+                                  "on_box_classica_numeroblocchi_valueChanged",
+                                  "on_box_classica_numerorighexblocco_valueChanged",
+                                  "on_box_classica_numeroestrazionixriga_valueChanged",
+                                  "on_box_classica_numerojollyxriga_valueChanged",
+                                  "on_box_classica_numeroscrittexriga_valueChanged",
+                                  "on_box_classica_numerocolonne_valueChanged",
+                                  "on_box_classica_numerominimo_valueChanged",
+                                  "on_box_classica_numeromassimo_valueChanged",
+                                  "on_butt_stampa_clicked",
+                                  "on_actionConfronta_blocchi_triggered",
+                                  "on_butt_aggiungi_pagine_clicked",
+                                  "on_actionCrea_triggered",
+                                  "on_actionEsci_triggered",
+                                  "on_MappaManuale_toggled",
+                                  "generatePersDone",
+                                  "on_buttSelezionaImmagine_clicked",
+                                  "on_pagina_elimina_clicked",
+                                  "on_actionOpzioni_triggered",
+                                  "on_colorapaginasfondo_clicked",
+                                  "coloraPaginaSfondo",
+                                  "on_colorabloccolineaesterna_clicked",
+                                  "coloraBloccoLineaEsterna",
+                                  "on_colorabloccolineainterna_clicked",
+                                  "coloraBloccoLineaInterna",
+                                  "on_colorabloccosfondo_clicked",
+                                  "coloraBloccoSfondo",
+                                  "on_coloracellatesto_clicked",
+                                  "coloraCellaTesto",
+                                  "on_coloracellasfondo_clicked",
+                                  "coloraCellaSfondo",
+                                  "on_blocco_applica_clicked",
+                                  "on_cella_applica_clicked",
+                                  "on_actionOpen_triggered",
+                                  "on_actionSave_triggered",
+                                  "on_actionInformazioni_triggered"};
+    const QMetaObject &meta = MainWindow::staticMetaObject;
+    QByteArrayList names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        names.append(meta.method(i).name());
+    }
+    QCOMPARE(names, expected);
 }
 
 void tst_MainWindow::theWelcomeIsRedFromTheFirstMoment()

@@ -113,6 +113,7 @@ private slots:
     void appendingKeepsThePageShown();
     void aNewCardSetSendsItsStatusToTheWindow();
     void rulesThatAreBrokenRefuse();
+    void theKeyboardStaysOnTheButton();
     void aRefusedNewKeepsTheCardSet();
     void tooManyPagesAreNotAppended();
     void theMemoryWarningAsks();
@@ -288,7 +289,11 @@ void tst_MainWindowGeneration::rulesThatAreBrokenRefuse()
     PageWindow page;
     const Cartella *before = page.set();
     set(page, "numeroestrazionixriga", 6);
-    page.boxes.expectBox(boxTitle, refusal, QMessageBox::Ok, QMessageBox::Warning);
+    page.boxes.expectBox(boxTitle, refusal, QMessageBox::Ok, [](const QMessageBox *box) {
+        QCOMPARE(box->icon(), QMessageBox::Warning);
+        QCOMPARE(box->standardButtons(), QMessageBox::Ok);
+        QCOMPARE(box->informativeText(), QStringLiteral("Non posso creare 108 celle piene con solo 90 numeri."));
+    });
     QVERIFY(!page.window->generate(false));
     QCOMPARE(page.status(), cancelled);
     QCOMPARE(page.set(), before);
@@ -499,6 +504,22 @@ void tst_MainWindowGeneration::noSecondRunStartsFromABox()
     page.press("butt_aggiungi_pagine");
     QVERIFY(enabled());
     QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowGeneration::theKeyboardStaysOnTheButton()
+{
+    const PageWindow page;
+    QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    auto *button = page.find<QPushButton>("butt_aggiungi_pagine");
+    button->setFocus();
+    for (int pages = 1; pages <= 2; ++pages) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(page.set()->getNumPages(), pages);
+        QCOMPARE(QApplication::focusWidget(), button);
+    }
+    page.pageNumber()->setFocus();
+    QVERIFY(page.window->generate(false));
+    QCOMPARE(QApplication::focusWidget(), page.pageNumber());
 }
 
 void tst_MainWindowGeneration::theWaitCursorIsShownWhilePagesAreMade()

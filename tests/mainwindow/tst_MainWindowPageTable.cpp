@@ -39,6 +39,7 @@ private slots:
     void aPageNumberOutsideTheSetIsClamped_data();
     void aPageNumberOutsideTheSetIsClamped();
     void thePageAlreadyShownIsNotLoadedAgain();
+    void theWaitCursorIsShownWhileAPageIsLoaded();
 
     void deletingAPageShowsTheOneBefore_data();
     void deletingAPageShowsTheOneBefore();
@@ -253,6 +254,18 @@ void tst_MainWindowPageTable::thePageAlreadyShownIsNotLoadedAgain()
     QCOMPARE(w.table(), before);
     w.pageNumber()->setValue(2);
     QCOMPARE(w.window->findChildren<QTableWidget *>().size(), 1);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPageTable::theWaitCursorIsShownWhileAPageIsLoaded()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 1});
+    Qt::CursorShape loading = Qt::ArrowCursor;
+    connect(w.table(), &QObject::destroyed, this, [&]() { loading = w.window->cursor().shape(); });
+    w.pageNumber()->setValue(2);
+    QCOMPARE(loading, Qt::WaitCursor);
+    QCOMPARE(w.window->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(w.boxes.problems(), QStringList());
 }
 

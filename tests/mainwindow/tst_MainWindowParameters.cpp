@@ -67,6 +67,8 @@ private slots:
     void theVerdictIsShownFromTheStart();
     void raisingTheMinimumStopsAtTheMaximum();
     void loweringTheMaximumStopsAtTheMinimum();
+    void aMaximumIsTypedDigitByDigit();
+    void aMaximumStillBeingTypedCounts();
     void theBoundsMayMeet();
     void anyDrawnCountButFiveIsCommented();
     void everyChangeIsValidated_data();
@@ -216,6 +218,36 @@ void tst_MainWindowParameters::loweringTheMaximumStopsAtTheMinimum()
     box(page, "numeromassimo")->setValue(49);
     QCOMPARE(value(page, "numeromassimo"), 50);
     QCOMPARE(value(page, "numerominimo"), 50);
+}
+
+void tst_MainWindowParameters::aMaximumIsTypedDigitByDigit()
+{
+    const PageWindow page;
+    box(page, "numerominimo")->setValue(10);
+    QSpinBox *maximum = box(page, "numeromassimo");
+    maximum->selectAll();
+    QTest::keyClicks(maximum, QStringLiteral("75")); // 7 alone would be below the minimum
+    QTest::keyClick(maximum, Qt::Key_Return);
+    QCOMPARE(maximum->value(), 75);
+    QCOMPARE(verdictText(page), QStringLiteral("Non posso creare 90 celle piene con solo 66 numeri."));
+    maximum->selectAll();
+    QTest::keyClicks(maximum, QStringLiteral("7"));
+    QTest::keyClick(maximum, Qt::Key_Return);
+    QCOMPARE(maximum->value(), 10);
+    QCOMPARE(value(page, "numerominimo"), 10);
+}
+
+void tst_MainWindowParameters::aMaximumStillBeingTypedCounts()
+{
+    PageWindow page;
+    QSpinBox *maximum = box(page, "numeromassimo");
+    maximum->selectAll();
+    QTest::keyClicks(maximum, QStringLiteral("50")); // and no Return: the shortcut comes first
+    page.boxes.expectBox(QStringLiteral("Quintra - Cartella classica"),
+                         QStringLiteral("Problemi di impostazione parametri: non posso proseguire!"), QMessageBox::Ok);
+    QVERIFY(!page.window->generate(false));
+    QCOMPARE(maximum->value(), 50);
+    QCOMPARE(page.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowParameters::theBoundsMayMeet()
