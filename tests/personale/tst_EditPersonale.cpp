@@ -50,6 +50,7 @@ private slots:
 
     void theCopyRangeIsClamped();
     void theCopyRangeStaysInOrder();
+    void anEndIsTypedDigitByDigit();
     void allPagesDisableTheCopyRange();
     void copyingTakesTickTypeAndFlag();
     void decliningTheCopyChangesNothing();
@@ -525,6 +526,29 @@ void TestEditPersonale::theCopyRangeStaysInOrder()
     QCOMPARE(t.spin("impostaDAspinBox")->value(), 3);
     t.spin("impostaAspinBox")->setValue(2);
     QCOMPARE(t.spin("impostaAspinBox")->value(), 3);
+}
+
+void TestEditPersonale::anEndIsTypedDigitByDigit()
+{
+    EditorUnderTest t(20, 20, 20);
+    const auto type = [&](const char *box, const QString &digits) {
+        t.spin(box)->selectAll();
+        QTest::keyClicks(t.spin(box), digits);
+        QTest::keyClick(t.spin(box), Qt::Key_Return);
+    };
+    // The first digit alone is below the start of the range.
+    t.select(5, 20, 6, 20);
+    type("row_to_spinBox", QStringLiteral("12"));
+    QCOMPARE(t.spin("row_from_spinBox")->value(), 5);
+    QCOMPARE(t.spin("row_to_spinBox")->value(), 12);
+    type("col_to_spinBox", QStringLiteral("13"));
+    QCOMPARE(t.spin("col_from_spinBox")->value(), 6);
+    QCOMPARE(t.spin("col_to_spinBox")->value(), 13);
+    t.spin("impostaAspinBox")->setValue(20);
+    t.spin("impostaDAspinBox")->setValue(7);
+    type("impostaAspinBox", QStringLiteral("14"));
+    QCOMPARE(t.spin("impostaDAspinBox")->value(), 7);
+    QCOMPARE(t.spin("impostaAspinBox")->value(), 14);
 }
 
 void TestEditPersonale::allPagesDisableTheCopyRange()
