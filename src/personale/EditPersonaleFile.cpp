@@ -34,9 +34,8 @@ QString withSuffix(const QString &fileName)
 MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
 {
     MappingFile::SchemaPagina scheme{page.nRighe, page.nColonne, {}};
-    const auto cells = static_cast<size_t>(page.nRighe * page.nColonne);
-    scheme.celle.reserve(cells);
-    for (size_t i = 0; i < cells; ++i) {
+    scheme.celle.reserve(page.cellCount());
+    for (size_t i = 0; i < page.cellCount(); ++i) {
         scheme.celle.push_back({page.chk[i].tipo, page.chk[i].isChecked()});
     }
     return scheme;

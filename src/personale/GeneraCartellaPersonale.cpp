@@ -33,8 +33,8 @@ Cella &cellAt(Pagina *pagina, int row, int column)
 int countTickedNumbers(const PaginaPersonale &schema)
 {
     int count = 0;
-    for (int i = 0; i < schema.nRighe * schema.nColonne; ++i) {
-        count += isTickedNumber(schema.chk[static_cast<size_t>(i)]) ? 1 : 0;
+    for (size_t i = 0; i < schema.cellCount(); ++i) {
+        count += isTickedNumber(schema.chk[i]) ? 1 : 0;
     }
     return count;
 }

@@ -14,4 +14,6 @@ struct PaginaPersonale
     U8 ordinaPerColonne = 0; // not 0: the numbers are drawn column by column
     U8 nRighe = 0;
     U8 nColonne = 0;
+
+    size_t cellCount() const { return size_t{nRighe} * nColonne; }
 };

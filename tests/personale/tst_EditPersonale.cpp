@@ -47,6 +47,7 @@ private slots:
     void tooManyNumbersForbidTheCreation();
     void textCellsAreNotCounted();
     void theCountIsKeptWhenThePageIsSwitched();
+    void ticksOutsideThePageAreNotCounted();
 
     void theCopyRangeIsClamped();
     void theCopyRangeStaysInOrder();
@@ -507,6 +508,21 @@ void TestEditPersonale::theCountIsKeptWhenThePageIsSwitched()
     QVERIFY(t.canCreate());
     t.showPage(1);
     QVERIFY(t.canCreate());
+}
+
+void TestEditPersonale::ticksOutsideThePageAreNotCounted()
+{
+    EditorUnderTest t(2, 1, 1, 1, 1);
+    t.tick(0, 0, CELL_NUMERO);
+    t.box(1, 0)->setTipo(CELL_NUMERO);
+    t.editor->on_checkboxChecked(0, 1, true);
+    t.editor->on_checkboxChecked(2, 0, true);
+    t.editor->on_checkboxChecked(255, 255, true);
+    QVERIFY(t.canCreate());
+    t.editor->on_checkboxRClicked(0, 1);
+    QCOMPARE(t.drawn(), QStringLiteral("N n"));
+    t.editor->on_checkboxChecked(1, 0, true);
+    QVERIFY(!t.canCreate());
 }
 
 void TestEditPersonale::theCopyRangeIsClamped()

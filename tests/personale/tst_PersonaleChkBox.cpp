@@ -3,6 +3,7 @@
 #include "support/FatalMessage.h"
 
 #include <QGridLayout>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -201,6 +202,10 @@ void TestPersonaleChkBox::aRightClickIsReportedAndLeavesTheTick()
         QCOMPARE(clicks[0][1].value<U8>(), U8(2));
         QCOMPARE(ticks.size(), 0);
         QCOMPARE(box.isChecked(), ticked);
+
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::RightButton, Qt::RightButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&box, &press);
+        QVERIFY(press.isAccepted()); // nobody else gets it
     }
 }
 

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+// The commands that draw: the selection, its ticks and types, the copy of a scheme to other pages.
+#include "personale/EditPersonale.h"
+
+#include "mainwindow/WaitCursor.h"
+#include "settings/Product.h"
+#include "ui_EditPersonale.h"
+
+void EditPersonale::on_row_from_spinBox_valueChanged(int v)
+{
+    if (v > displayedRows()) {
+        ui->row_from_spinBox->setValue(displayedRows());
+    }
+    if (v > ui->row_to_spinBox->value()) {
+        ui->row_to_spinBox->setValue(v);
+    }
+}
+
+void EditPersonale::on_row_to_spinBox_valueChanged(int v)
+{
+    if (v > displayedRows()) {
+        ui->row_to_spinBox->setValue(displayedRows());
+    }
+    if (v < ui->row_from_spinBox->value()) {
+        ui->row_from_spinBox->setValue(v);
+    }
+}
+
+void EditPersonale::on_col_from_spinBox_valueChanged(int v)
+{
+    if (v > displayedColumns()) {
+        ui->col_from_spinBox->setValue(displayedColumns());
+    }
+    if (v > ui->col_to_spinBox->value()) {
+        ui->col_to_spinBox->setValue(v);
+    }
+}
+
+void EditPersonale::on_col_to_spinBox_valueChanged(int v)
+{
+    if (v > displayedColumns()) {
+        ui->col_to_spinBox->setValue(displayedColumns());
+    }
+    if (v < ui->col_from_spinBox->value()) {
+        ui->col_from_spinBox->setValue(v);
+    }
+}
+
+// The whole page, or the rectangle of the spin boxes as far as the page reaches.
+void EditPersonale::forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action)
+{
+    PaginaPersonale *page = displayedPage();
+    if (page == nullptr) {
+        return;
+    }
+    const bool all = ui->selezione_tutte_ckbox->isChecked();
+    const int firstRow = all ? 0 : ui->row_from_spinBox->value() - 1;
+    const int endRow = all ? page->nRighe : qMin<int>(ui->row_to_spinBox->value(), page->nRighe);
+    const int firstColumn = all ? 0 : ui->col_from_spinBox->value() - 1;
+    const int endColumn = all ? page->nColonne : qMin<int>(ui->col_to_spinBox->value(), page->nColonne);
+    for (int row = firstRow; row < endRow; ++row) {
+        for (int column = firstColumn; column < endColumn; ++column) {
+            action(page->chk[static_cast<size_t>(row * page->nColonne + column)]);
+        }
+    }
+}
+
+void EditPersonale::on_riempiButton_clicked()
+{
+    forEachCellInScope([](PersonaleChkBox &box) { box.setChecked(true); });
+}
+
+void EditPersonale::on_svuotaButton_clicked()
+{
+    forEachCellInScope([](PersonaleChkBox &box) { box.setChecked(false); });
+}
+
+void EditPersonale::on_invertiButton_clicked()
+{
+    forEachCellInScope([](PersonaleChkBox &box) { box.setChecked(!box.isChecked()); });
+}
+
+CELL_VALUE EditPersonale::chosenType() const
+{
+    if (ui->txt_radioButton->isChecked()) {
+        return CELL_TESTO;
+    }
+    if (ui->img_radioButton->isChecked()) {
+        return CELL_IMMAGINE;
+    }
+    return ui->num_radioButton->isChecked() ? CELL_NUMERO : CELL_VUOTA;
+}
+
+void EditPersonale::on_setNumTxtImgButton_clicked()
+{
+    const CELL_VALUE tipo = chosenType();
+    forEachCellInScope([tipo](PersonaleChkBox &box) { box.setTipo(tipo); });
+    recountNumbers();
+    checkSettings();
+}
+
+void EditPersonale::on_impostaschemacorrenteButton_clicked()
+{
+    if (!ask(Product::nameText(),
+             tr("Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?"))) {
+        return;
+    }
+    if (const PaginaPersonale *scheme = displayedPage()) {
+        const WaitCursor wait(this);
+        const int end = qMin<int>(ui->impostaAspinBox->value(), m_pageCount);
+        for (int page = ui->impostaDAspinBox->value() - 1; page < end; ++page) {
+            if (page != m_currentPage) {
+                copyScheme(*scheme, m_pages[static_cast<size_t>(page)]);
+            }
+        }
+    }
+    recountNumbers(); // the ticks of the other pages were counted too
+    checkSettings();
+    ui->statusBar->showMessage(tr("Copia schema effettuata!"));
+}
+
+void EditPersonale::copyScheme(const PaginaPersonale &from, PaginaPersonale &to)
+{
+    if (to.nRighe != from.nRighe || to.nColonne != from.nColonne) {
+        buildBoxes(to, from.nRighe, from.nColonne, RightClick::CyclesType);
+    }
+    to.ordinaPerColonne = from.ordinaPerColonne;
+    for (size_t i = 0; i < from.cellCount(); ++i) {
+        to.chk[i].setChecked(from.chk[i].isChecked());
+        to.chk[i].setTipo(from.chk[i].tipo);
+    }
+}
+
+void EditPersonale::on_impostaDAspinBox_valueChanged(int v)
+{
+    ui->impostaDAspinBox->setValue(qMin(clampedPage(v), ui->impostaAspinBox->value()));
+}
+
+void EditPersonale::on_impostaAspinBox_valueChanged(int v)
+{
+    ui->impostaAspinBox->setValue(qMax(clampedPage(v), ui->impostaDAspinBox->value()));
+}
+
+void EditPersonale::on_impostasuttute_checkBox_clicked(bool b)
+{
+    ui->impostaDAspinBox->setEnabled(!b);
+    ui->impostaAspinBox->setEnabled(!b);
+    if (b) {
+        ui->impostaDAspinBox->setValue(1);
+        ui->impostaAspinBox->setValue(m_pageCount);
+    }
+}
