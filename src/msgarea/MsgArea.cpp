@@ -19,7 +19,7 @@ QString readLatin1(QFile &file)
     if (!file.open(QIODevice::ReadOnly)) {
         return QString();
     }
-    const QString text = QString::fromLatin1(file.readAll());
+    QString text = QString::fromLatin1(file.readAll());
     file.close();
     return text;
 }

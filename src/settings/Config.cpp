@@ -82,14 +82,9 @@ class Values final
 public:
     explicit Values(const QString &path)
     {
-        QFile file(path);
-        if (m_copy.open() && file.open(QIODevice::ReadOnly)) {
-            while (!file.atEnd()) {
-                m_copy.write(mended(file.readLine().trimmed()) + '\n');
-            }
-            m_copy.close();
-        }
-        m_settings = std::make_unique<QSettings>(m_copy.fileName(), QSettings::IniFormat);
+        // Where there is no room for a copy, the file itself is better than the defaults.
+        const bool copied = copy(path);
+        m_settings = std::make_unique<QSettings>(copied ? m_copy.fileName() : path, QSettings::IniFormat);
     }
     // 0 for a text that is no integer of 32 bits, which the conversion of the variant itself would cut.
     int number(const QString &key, int fallback) const { return m_settings->value(key, fallback).toString().toInt(); }
@@ -99,6 +94,18 @@ public:
     }
 
 private:
+    bool copy(const QString &path)
+    {
+        QFile file(path);
+        if (!m_copy.open() || !file.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        while (!file.atEnd()) {
+            m_copy.write(mended(file.readLine().trimmed()) + '\n');
+        }
+        return m_copy.flush();
+    }
+
     QTemporaryFile m_copy;
     std::unique_ptr<QSettings> m_settings;
 };

@@ -75,6 +75,7 @@ private slots:
     void changesByOthersAreSeenAtOnce();
     void aChangeBetweenResetAndLoadIsSeen();
     void nothingIsWrittenBackAfterAReset();
+    void theFileIsReadWithoutATemporaryFolder();
 
     void commentsMakeExactlyTwentyThreeLines();
     void commentsReplaceOlderOnes();
@@ -86,6 +87,7 @@ private slots:
     void linesEndedByWindowsEditorsAreUnderstood();
     void aMissingFileIsResetByComments();
     void aBlankBeforeTheSemicolonMakesNoComment();
+    void aFileThatCannotBeWrittenIsLeftAlone();
 
     void textsSurviveWritingAndLoading_data();
     void textsSurviveWritingAndLoading();
@@ -293,6 +295,18 @@ void tst_Config::nothingIsWrittenBackAfterAReset()
     QCOMPARE(folder.read(QStringLiteral("config.ini")), fileWithText("JOLLY"));
 }
 
+void tst_Config::theFileIsReadWithoutATemporaryFolder()
+{
+    const ScratchFolder folder;
+    folder.write(QStringLiteral("config.ini"), fileWithText("JOLLY"));
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", folder.path(QStringLiteral("missing")).toUtf8());
+    const Config config(nullptr);
+    before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QCOMPARE(config.defaultCellText, QStringLiteral("JOLLY"));
+    QCOMPARE(config.nMax, 75);
+}
+
 void tst_Config::commentsMakeExactlyTwentyThreeLines()
 {
     const ScratchFolder folder;
@@ -413,6 +427,19 @@ void tst_Config::aBlankBeforeTheSemicolonMakesNoComment()
     QVERIFY(folder.read(QStringLiteral("config.ini")).endsWith("\n;c nmin\n ;x"));
     QVERIFY(config.load());
     QCOMPARE(config.nMin, 1);
+}
+
+void tst_Config::aFileThatCannotBeWrittenIsLeftAlone()
+{
+    const ScratchFolder folder;
+    Config config(nullptr);
+    const QString path = folder.path(QStringLiteral("config.ini"));
+    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
+    if (QFileInfo(path).isWritable()) {
+        QSKIP("this user writes every file");
+    }
+    QVERIFY(comment(config, commentsInKeyOrder));
+    QCOMPARE(folder.read(QStringLiteral("config.ini")), plainDefaults());
 }
 
 void tst_Config::textsSurviveWritingAndLoading_data()

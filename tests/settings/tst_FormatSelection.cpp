@@ -215,6 +215,11 @@ void tst_FormatSelection::languagesAreListedByNameIgnoringCase()
     const FormatSelection dialog;
     QCOMPARE(listed(dialog), QStringList({QStringLiteral("DE_de"), QStringLiteral("en_GB"), QStringLiteral("EN_us"),
                                           QStringLiteral("fr_FR"), QStringLiteral("it_IT")}));
+    const auto *box = dialog.findChild<QComboBox *>(QStringLiteral("lang_selection"));
+    for (int i = 0; i < box->count(); ++i) {
+        QVERIFY(box->itemIcon(i).isNull());
+        QVERIFY(!box->itemData(i).isValid());
+    }
 }
 
 void tst_FormatSelection::otherFilesAreNotListed()
