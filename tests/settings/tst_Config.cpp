@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QtTest>
 
 namespace {
@@ -300,7 +301,8 @@ void tst_Config::theFileIsReadWithoutATemporaryFolder()
     const ScratchFolder folder;
     folder.write(QStringLiteral("config.ini"), fileWithText("JOLLY"));
     const QByteArray before = qgetenv("TMPDIR");
-    qputenv("TMPDIR", folder.path(QStringLiteral("missing")).toUtf8());
+    qputenv("TMPDIR", "/proc"); // nobody makes files there
+    QVERIFY(!QTemporaryFile().open());
     const Config config(nullptr);
     before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
     QCOMPARE(config.defaultCellText, QStringLiteral("JOLLY"));
