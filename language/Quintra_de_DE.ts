@@ -613,20 +613,12 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Seiten hinzufügen</translation>
     </message>
     <message>
-        <source>Ctrl+Shift+N</source>
-        <translation>Ctrl+Shift+N</translation>
-    </message>
-    <message>
         <source>Stampa la cartella su file</source>
         <translation>Kartensatz in eine Datei drucken</translation>
     </message>
     <message>
         <source>STAMPA</source>
         <translation>DRUCKEN</translation>
-    </message>
-    <message>
-        <source>Ctrl+P</source>
-        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
@@ -845,20 +837,12 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Belegungen werden im Fenster der manuellen Belegung geöffnet</translation>
     </message>
     <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Salva</source>
         <translation>Speichern</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
         <translation>Belegungen werden im Fenster der manuellen Belegung gespeichert</translation>
-    </message>
-    <message>
-        <source>Ctrl+S</source>
-        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
@@ -869,10 +853,6 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Neuen Kartensatz erstellen</translation>
     </message>
     <message>
-        <source>Ctrl+N</source>
-        <translation>Ctrl+N</translation>
-    </message>
-    <message>
         <source>Esci</source>
         <translation>Beenden</translation>
     </message>
@@ -881,20 +861,12 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Programm beenden</translation>
     </message>
     <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
-    </message>
-    <message>
         <source>Confronta blocchi</source>
         <translation>Karten vergleichen</translation>
     </message>
     <message>
         <source>Verifica che non vi siano blocchi uguali</source>
-        <translation>Prüfen, dass keine Karten gleich sind</translation>
-    </message>
-    <message>
-        <source>Ctrl+B</source>
-        <translation>Ctrl+B</translation>
+        <translation>Prüfen, ob alle Karten verschieden sind</translation>
     </message>
     <message>
         <source>Opzioni</source>
@@ -905,20 +877,12 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Programmeinstellungen</translation>
     </message>
     <message>
-        <source>Ctrl+,</source>
-        <translation>Ctrl+,</translation>
-    </message>
-    <message>
         <source>Informazioni</source>
         <translation>Über</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
         <translation>Über das Programm</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
@@ -978,7 +942,7 @@ Bingokarten mit allen Möglichkeiten.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation>Möchten Sie das Feld als LEERES FELD übernehmen?</translation>
+        <translation>Möchten Sie das Feld als LEERES FELD festlegen?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.

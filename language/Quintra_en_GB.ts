@@ -613,20 +613,12 @@ Error while adding page %i.</translation>
         <translation>Add pages</translation>
     </message>
     <message>
-        <source>Ctrl+Shift+N</source>
-        <translation>Ctrl+Shift+N</translation>
-    </message>
-    <message>
         <source>Stampa la cartella su file</source>
         <translation>Print the card set to a file</translation>
     </message>
     <message>
         <source>STAMPA</source>
         <translation>PRINT</translation>
-    </message>
-    <message>
-        <source>Ctrl+P</source>
-        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
@@ -845,20 +837,12 @@ Error while adding page %i.</translation>
         <translation>Layouts are opened from the manual layout editor</translation>
     </message>
     <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Salva</source>
         <translation>Save</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
         <translation>Layouts are saved from the manual layout editor</translation>
-    </message>
-    <message>
-        <source>Ctrl+S</source>
-        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
@@ -869,20 +853,12 @@ Error while adding page %i.</translation>
         <translation>Create a new card set</translation>
     </message>
     <message>
-        <source>Ctrl+N</source>
-        <translation>Ctrl+N</translation>
-    </message>
-    <message>
         <source>Esci</source>
         <translation>Quit</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
         <translation>Quit the program</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
@@ -893,10 +869,6 @@ Error while adding page %i.</translation>
         <translation>Check that no two cards are identical</translation>
     </message>
     <message>
-        <source>Ctrl+B</source>
-        <translation>Ctrl+B</translation>
-    </message>
-    <message>
         <source>Opzioni</source>
         <translation>Options</translation>
     </message>
@@ -905,20 +877,12 @@ Error while adding page %i.</translation>
         <translation>Program settings</translation>
     </message>
     <message>
-        <source>Ctrl+,</source>
-        <translation>Ctrl+,</translation>
-    </message>
-    <message>
         <source>Informazioni</source>
         <translation>About</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
         <translation>About the program</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
@@ -1347,8 +1311,8 @@ Do you want to see them?</translation>
     <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
-        <translation>The total pages requested (%1)
-exceed the maximum allowed (%2).</translation>
+        <translation>The total number of pages requested (%1)
+exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Si sconsiglia di proseguire per le seguenti ragioni:

@@ -613,20 +613,12 @@ Error al añadir la página %i.</translation>
         <translation>Añadir páginas</translation>
     </message>
     <message>
-        <source>Ctrl+Shift+N</source>
-        <translation>Ctrl+Shift+N</translation>
-    </message>
-    <message>
         <source>Stampa la cartella su file</source>
         <translation>Imprimir la serie de cartones en un archivo</translation>
     </message>
     <message>
         <source>STAMPA</source>
         <translation>IMPRIMIR</translation>
-    </message>
-    <message>
-        <source>Ctrl+P</source>
-        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
@@ -845,20 +837,12 @@ Error al añadir la página %i.</translation>
         <translation>Los diseños se abren desde el editor de diseño manual</translation>
     </message>
     <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Salva</source>
         <translation>Guardar</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
         <translation>Los diseños se guardan desde el editor de diseño manual</translation>
-    </message>
-    <message>
-        <source>Ctrl+S</source>
-        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
@@ -869,20 +853,12 @@ Error al añadir la página %i.</translation>
         <translation>Crear una nueva serie de cartones</translation>
     </message>
     <message>
-        <source>Ctrl+N</source>
-        <translation>Ctrl+N</translation>
-    </message>
-    <message>
         <source>Esci</source>
         <translation>Salir</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
         <translation>Salir del programa</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
@@ -893,10 +869,6 @@ Error al añadir la página %i.</translation>
         <translation>Comprobar que no haya cartones iguales</translation>
     </message>
     <message>
-        <source>Ctrl+B</source>
-        <translation>Ctrl+B</translation>
-    </message>
-    <message>
         <source>Opzioni</source>
         <translation>Opciones</translation>
     </message>
@@ -905,20 +877,12 @@ Error al añadir la página %i.</translation>
         <translation>Configuración del programa</translation>
     </message>
     <message>
-        <source>Ctrl+,</source>
-        <translation>Ctrl+,</translation>
-    </message>
-    <message>
         <source>Informazioni</source>
         <translation>Acerca de</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
         <translation>Acerca del programa</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>

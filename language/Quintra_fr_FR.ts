@@ -613,20 +613,12 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Ajouter des pages</translation>
     </message>
     <message>
-        <source>Ctrl+Shift+N</source>
-        <translation>Ctrl+Shift+N</translation>
-    </message>
-    <message>
         <source>Stampa la cartella su file</source>
         <translation>Imprimer la série de cartons dans un fichier</translation>
     </message>
     <message>
         <source>STAMPA</source>
         <translation>IMPRIMER</translation>
-    </message>
-    <message>
-        <source>Ctrl+P</source>
-        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
@@ -845,20 +837,12 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Les dispositions s&apos;ouvrent dans l&apos;éditeur de disposition manuelle</translation>
     </message>
     <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Salva</source>
         <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
         <translation>Les dispositions s&apos;enregistrent dans l&apos;éditeur de disposition manuelle</translation>
-    </message>
-    <message>
-        <source>Ctrl+S</source>
-        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
@@ -869,20 +853,12 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Créer une nouvelle série de cartons</translation>
     </message>
     <message>
-        <source>Ctrl+N</source>
-        <translation>Ctrl+N</translation>
-    </message>
-    <message>
         <source>Esci</source>
         <translation>Quitter</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
         <translation>Quitter le programme</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
@@ -893,10 +869,6 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Vérifier qu&apos;il n&apos;y a pas de cartons identiques</translation>
     </message>
     <message>
-        <source>Ctrl+B</source>
-        <translation>Ctrl+B</translation>
-    </message>
-    <message>
         <source>Opzioni</source>
         <translation>Options</translation>
     </message>
@@ -905,20 +877,12 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Paramètres du programme</translation>
     </message>
     <message>
-        <source>Ctrl+,</source>
-        <translation>Ctrl+,</translation>
-    </message>
-    <message>
         <source>Informazioni</source>
         <translation>À propos</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
         <translation>À propos du programme</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>

@@ -613,20 +613,12 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Aggiungi pagine</translation>
     </message>
     <message>
-        <source>Ctrl+Shift+N</source>
-        <translation>Ctrl+Shift+N</translation>
-    </message>
-    <message>
         <source>Stampa la cartella su file</source>
         <translation>Stampa la cartella su file</translation>
     </message>
     <message>
         <source>STAMPA</source>
         <translation>STAMPA</translation>
-    </message>
-    <message>
-        <source>Ctrl+P</source>
-        <translation>Ctrl+P</translation>
     </message>
     <message>
         <source>Pagina</source>
@@ -845,20 +837,12 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Le mappature si aprono dall&apos;editor della mappatura manuale</translation>
     </message>
     <message>
-        <source>Ctrl+O</source>
-        <translation>Ctrl+O</translation>
-    </message>
-    <message>
         <source>Salva</source>
         <translation>Salva</translation>
     </message>
     <message>
         <source>Le mappature si salvano dall&apos;editor della mappatura manuale</source>
         <translation>Le mappature si salvano dall&apos;editor della mappatura manuale</translation>
-    </message>
-    <message>
-        <source>Ctrl+S</source>
-        <translation>Ctrl+S</translation>
     </message>
     <message>
         <source>Nuova</source>
@@ -869,20 +853,12 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Crea una nuova cartella</translation>
     </message>
     <message>
-        <source>Ctrl+N</source>
-        <translation>Ctrl+N</translation>
-    </message>
-    <message>
         <source>Esci</source>
         <translation>Esci</translation>
     </message>
     <message>
         <source>Esce dal programma</source>
         <translation>Esce dal programma</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Confronta blocchi</source>
@@ -893,10 +869,6 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Verifica che non vi siano blocchi uguali</translation>
     </message>
     <message>
-        <source>Ctrl+B</source>
-        <translation>Ctrl+B</translation>
-    </message>
-    <message>
         <source>Opzioni</source>
         <translation>Opzioni</translation>
     </message>
@@ -905,20 +877,12 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Impostazioni del programma</translation>
     </message>
     <message>
-        <source>Ctrl+,</source>
-        <translation>Ctrl+,</translation>
-    </message>
-    <message>
         <source>Informazioni</source>
         <translation>Informazioni</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
         <translation>Informazioni sul programma</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation>F1</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
