@@ -96,7 +96,8 @@ int runBenchmarksAndPrintRatios()
         const auto measured = quantities().find(ratio.measured);
         const auto baseline = quantities().find(ratio.baseline);
         if (measured == quantities().end() || baseline == quantities().end()) {
-            continue; // not selected in this run
+            std::printf("%-64s %10s %12s\n", ratio.what.c_str(), "not run", limitText(ratio).c_str());
+            continue;
         }
         const double value = measured->second / baseline->second;
         const bool good = within(ratio, value);
