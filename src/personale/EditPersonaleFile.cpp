@@ -86,10 +86,8 @@ void EditPersonale::showSaveReport(const QString &fileName)
     const float megabytes = static_cast<float>(size) * megabytesPerByte;
     showReport(tr("File creato con successo!\n\nNome: %1\nEstensione: %2\nPercorso: %3\n\nPagine: %4\nDimensione: "
                   "%5 Bytes (%6 MB)\n")
-                   .arg(info.completeBaseName(), info.suffix(), info.absolutePath())
-                   .arg(m_pageCount)
-                   .arg(size)
-                   .arg(static_cast<double>(megabytes), 0, 'f', 2));
+                   .arg(info.completeBaseName(), info.suffix(), info.absolutePath(), QString::number(m_pageCount),
+                        QString::number(size), QString::number(static_cast<double>(megabytes), 'f', 2)));
 }
 
 void EditPersonale::showReport(const QString &text)

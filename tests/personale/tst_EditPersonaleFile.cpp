@@ -33,6 +33,28 @@ void reportMatches(const EditorUnderTest &t, const QString &name, int pages, con
                                 .arg(pages)
                                 .arg(content.size()));
 }
+
+// Collects the messages of the status bar, which must come under the wait cursor.
+class BusyMessages final
+{
+public:
+    explicit BusyMessages(const EditorUnderTest &t)
+    {
+        EditPersonale *editor = t.editor;
+        m_connection = QObject::connect(editor->statusBar(), &QStatusBar::messageChanged, editor,
+                                        [this, editor](const QString &message) {
+                                            QCOMPARE(editor->cursor().shape(), Qt::WaitCursor);
+                                            m_messages << message;
+                                        });
+    }
+    ~BusyMessages() { QObject::disconnect(m_connection); }
+    Q_DISABLE_COPY_MOVE(BusyMessages)
+    const QStringList &messages() const { return m_messages; }
+
+private:
+    QMetaObject::Connection m_connection;
+    QStringList m_messages;
+};
 } // namespace
 
 class TestEditPersonaleFile : public QObject
@@ -42,14 +64,19 @@ class TestEditPersonaleFile : public QObject
 private slots:
     void savingWritesEveryPage();
     void savingReportsWithoutWaiting();
+    void theSizeIsToldInMegabytesToo();
+    void aNameWithPlaceholdersIsReportedAsItIs();
+    void everyPageSavedIsTold();
     void theSuffixIsAddedUnlessExact_data();
     void theSuffixIsAddedUnlessExact();
     void theDialogsStartInTheSaveFolderWithTheFilter();
     void theFolderIsRemembered();
+    void aFolderThatIsGoneIsNotRemembered();
     void cancellingTheSaveIsTold();
     void aFileThatCannotBeWrittenIsReportedAllTheSame();
 
     void openingReplacesThePages();
+    void everyLineReadAndPageLoadedIsTold();
     void openingAsksFirst();
     void cancellingTheOpenIsTold();
     void aFileThatCannotBeReadLeavesNoPages();
@@ -66,6 +93,7 @@ private slots:
     void afterAFileWithoutLinesAnotherOpens();
     void theCopyRangeFollowsThePageCount();
     void copyingToAPageOfAnotherSizeRebuildsIt();
+    void ticksOfARebuiltPageAreCounted();
     void loadedPagesAreCreated();
 };
 
@@ -97,6 +125,41 @@ void TestEditPersonaleFile::savingReportsWithoutWaiting()
     QVERIFY(report->isVisible());
     QCOMPARE(report->windowModality(), Qt::WindowModal);
     reportMatches(t, QStringLiteral("my.page"), 3, "\"oooo\n\"oooo\n\"oooo\n");
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::theSizeIsToldInMegabytesToo()
+{
+    EditorUnderTest t(15, 17, 60); // 257 bytes a page
+    t.expectSave(t.folder.path(QStringLiteral("large.QcF")));
+    t.trigger("actionSave");
+    QVERIFY(reportText(t).endsWith(QStringLiteral("\n\nPagine: 60\nDimensione: 15420 Bytes (0.01 MB)\n")));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::aNameWithPlaceholdersIsReportedAsItIs()
+{
+    EditorUnderTest t(1, 1, 1);
+    const QString name = QStringLiteral("50%4 of %5 and %6");
+    t.expectSave(t.folder.path(name));
+    t.trigger("actionSave");
+    QVERIFY2(reportText(t).startsWith(QStringLiteral("File creato con successo!\n\nNome: ") + name +
+                                      QStringLiteral("\nEstensione: QcF\n")),
+             qPrintable(reportText(t)));
+    QVERIFY(reportText(t).endsWith(QStringLiteral("\n\nPagine: 1\nDimensione: 3 Bytes (0.00 MB)\n")));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::everyPageSavedIsTold()
+{
+    EditorUnderTest t(1, 1, 3);
+    const BusyMessages log(t);
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.trigger("actionSave");
+    QCOMPARE(log.messages(),
+             (QStringList{QStringLiteral("Pagina 1 di 3 salvata"), QStringLiteral("Pagina 2 di 3 salvata"),
+                          QStringLiteral("Pagina 3 di 3 salvata")}));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
@@ -159,6 +222,26 @@ void TestEditPersonaleFile::theFolderIsRemembered()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
+void TestEditPersonaleFile::aFolderThatIsGoneIsNotRemembered()
+{
+    EditorUnderTest t(1, 1, 1);
+    t.folder.write(QStringLiteral("gone/x.QcF"), "!N\n");
+    const QString gone = t.folder.path(QStringLiteral("gone"));
+    const auto removeWhenChosen = [gone](QWidget *dialog) {
+        connect(qobject_cast<QFileDialog *>(dialog), &QFileDialog::fileSelected,
+                [gone]() { QVERIFY(QDir(gone).removeRecursively()); });
+    };
+    const QString before = t.config.defaultSaveDir;
+    LogCapture log; // the file cannot be opened
+    t.boxes.expectFileDialog(QStringLiteral("Salva le cartelle su file"), gone + QStringLiteral("/y.QcF"),
+                             removeWhenChosen);
+    t.trigger("actionSave");
+    QVERIFY(!QDir(gone).exists());
+    QCOMPARE(t.config.defaultSaveDir, before);
+    QVERIFY(reportText(t).startsWith(QStringLiteral("File creato con successo!\n\nNome: y\n")));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
 void TestEditPersonaleFile::cancellingTheSaveIsTold()
 {
     EditorUnderTest t(1, 1, 1);
@@ -207,6 +290,19 @@ void TestEditPersonaleFile::openingReplacesThePages()
     t.showPage(9);
     QCOMPARE(t.spin("pageNumSpinBox")->value(), 3);
     QCOMPARE(t.drawn(), QStringLiteral("n"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::everyLineReadAndPageLoadedIsTold()
+{
+    EditorUnderTest t(1, 1, 1);
+    const BusyMessages log(t);
+    t.open("!N\n\n!S\n"); // the second line gives no page
+    QCOMPARE(log.messages(),
+             (QStringList{QStringLiteral("Sto leggendo la pagina 1"), QStringLiteral("Sto leggendo la pagina 2"),
+                          QStringLiteral("Sto leggendo la pagina 3"), QStringLiteral("Sto caricando la pagina 1 di 2"),
+                          QStringLiteral("Sto caricando la pagina 2 di 2"), QStringLiteral("Apertura completata!")}));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
@@ -492,6 +588,20 @@ void TestEditPersonaleFile::copyingToAPageOfAnotherSizeRebuildsIt()
     QVERIFY(t.canCreate());
     t.showPage(1);
     QCOMPARE(t.drawn(), QStringLiteral("NNNNNNN"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void TestEditPersonaleFile::ticksOfARebuiltPageAreCounted()
+{
+    EditorUnderTest t(1, 1, 1, 1, 1);
+    t.open("!Nn\n!SSS\n");
+    t.copyTo(2, 2);
+    t.showPage(2);
+    QVERIFY(t.canCreate());
+    QTest::mouseClick(t.box(0, 1), Qt::LeftButton);
+    QCOMPARE(t.drawn(), QStringLiteral("NN"));
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (2) sono maggiori di quelli disponibili (1)."));
+    QVERIFY(!t.canCreate());
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
