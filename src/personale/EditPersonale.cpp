@@ -27,15 +27,6 @@ CELL_VALUE nextType(CELL_VALUE tipo)
     }
     return CELL_VUOTA;
 }
-
-int countNumbers(const PaginaPersonale &page)
-{
-    int count = 0;
-    for (size_t i = 0; i < page.cellCount(); ++i) {
-        count += page.chk[i].isChecked() && page.chk[i].tipo == CELL_NUMERO ? 1 : 0;
-    }
-    return count;
-}
 } // namespace
 
 EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 columns, U16 pageCount, int nmin,
@@ -199,8 +190,7 @@ void EditPersonale::on_checkBox_ordinaNumxColonne_clicked()
 void EditPersonale::on_checkboxChecked(U8 r, U8 c, bool b)
 {
     const PaginaPersonale *page = displayedPage();
-    if (page != nullptr && r < page->nRighe && c < page->nColonne &&
-        page->chk[static_cast<size_t>(r * page->nColonne + c)].tipo == CELL_NUMERO) {
+    if (page != nullptr && page->hasCell(r, c) && page->cell(r, c).tipo == CELL_NUMERO) {
         m_tickedNumbers += b ? 1 : -1;
     }
     checkSettings();
@@ -208,11 +198,11 @@ void EditPersonale::on_checkboxChecked(U8 r, U8 c, bool b)
 
 void EditPersonale::on_checkboxRClicked(U8 r, U8 c)
 {
-    PaginaPersonale *page = displayedPage();
-    if (page == nullptr || r >= page->nRighe || c >= page->nColonne) {
+    const PaginaPersonale *page = displayedPage();
+    if (page == nullptr || !page->hasCell(r, c)) {
         return;
     }
-    PersonaleChkBox &box = page->chk[static_cast<size_t>(r * page->nColonne + c)];
+    PersonaleChkBox &box = page->cell(r, c);
     box.setTipo(nextType(box.tipo));
     recountNumbers();
     checkSettings();
@@ -222,7 +212,7 @@ void EditPersonale::on_checkboxRClicked(U8 r, U8 c)
 void EditPersonale::recountNumbers()
 {
     const PaginaPersonale *page = displayedPage();
-    m_tickedNumbers = page != nullptr ? countNumbers(*page) : 0;
+    m_tickedNumbers = page != nullptr ? page->tickedNumbers() : 0;
 }
 
 // Runs for every single tick: the icon is only loaded when the verdict changes.

@@ -49,7 +49,7 @@ void EditPersonale::on_col_to_spinBox_valueChanged(int v)
 // The whole page, or the rectangle of the spin boxes as far as the page reaches.
 void EditPersonale::forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action)
 {
-    PaginaPersonale *page = displayedPage();
+    const PaginaPersonale *page = displayedPage();
     if (page == nullptr) {
         return;
     }
@@ -60,7 +60,7 @@ void EditPersonale::forEachCellInScope(const std::function<void(PersonaleChkBox 
     const int endColumn = all ? page->nColonne : qMin<int>(ui->col_to_spinBox->value(), page->nColonne);
     for (int row = firstRow; row < endRow; ++row) {
         for (int column = firstColumn; column < endColumn; ++column) {
-            action(page->chk[static_cast<size_t>(row * page->nColonne + column)]);
+            action(page->cell(row, column));
         }
     }
 }

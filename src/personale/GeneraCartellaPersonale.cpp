@@ -15,36 +15,17 @@ struct ImpossibleColumn
     int rangeSize;
 };
 
-bool isTickedNumber(const PersonaleChkBox &box)
-{
-    return box.isChecked() && box.tipo == CELL_NUMERO;
-}
-
-PersonaleChkBox &boxAt(PaginaPersonale &schema, int row, int column)
-{
-    return schema.chk[static_cast<size_t>(row * schema.nColonne + column)];
-}
-
 Cella &cellAt(Pagina *pagina, int row, int column)
 {
     return pagina->blocchi[0].righe[static_cast<size_t>(row)].celle[static_cast<size_t>(column)];
 }
 
-int countTickedNumbers(const PaginaPersonale &schema)
-{
-    int count = 0;
-    for (size_t i = 0; i < schema.cellCount(); ++i) {
-        count += isTickedNumber(schema.chk[i]) ? 1 : 0;
-    }
-    return count;
-}
-
-QVector<int> countTickedNumbersPerColumn(PaginaPersonale &schema)
+QVector<int> tickedNumbersPerColumn(const PaginaPersonale &schema)
 {
     QVector<int> wanted(schema.nColonne, 0);
     for (int row = 0; row < schema.nRighe; ++row) {
         for (int column = 0; column < schema.nColonne; ++column) {
-            wanted[column] += isTickedNumber(boxAt(schema, row, column)) ? 1 : 0;
+            wanted[column] += schema.cell(row, column).isTickedNumber() ? 1 : 0;
         }
     }
     return wanted;
@@ -167,7 +148,7 @@ bool GeneraCartellaPersonale::aggiungiPagine(int pageCount, const PaginaPersonal
 
 bool GeneraCartellaPersonale::riempiPagina(Pagina *pagina, PaginaPersonale &schema, int nmin, int nmax, QString &errore)
 {
-    int remaining = countTickedNumbers(schema);
+    int remaining = schema.tickedNumbers();
     if (remaining == 0) {
         errore += tr("Nessun numero generato!");
     }
@@ -175,7 +156,7 @@ bool GeneraCartellaPersonale::riempiPagina(Pagina *pagina, PaginaPersonale &sche
         GUtils::generate_X_different_numbers(remaining, static_cast<unsigned>(nmin), static_cast<unsigned>(nmax));
     for (int row = 0; row < schema.nRighe; ++row) {
         for (int column = 0; column < schema.nColonne; ++column) {
-            PersonaleChkBox &box = boxAt(schema, row, column);
+            PersonaleChkBox &box = schema.cell(row, column);
             if (box.isChecked()) {
                 fillCell(cellAt(pagina, row, column), box, numbers, remaining);
             }
@@ -190,7 +171,7 @@ bool GeneraCartellaPersonale::riempiPerColonne(Pagina *pagina, PaginaPersonale &
     if (schema.nColonne == 0) {
         return true; // no cells
     }
-    QVector<int> wanted = countTickedNumbersPerColumn(schema);
+    QVector<int> wanted = tickedNumbersPerColumn(schema);
     QVector<Range> ranges(schema.nColonne);
     if (const auto impossible = setRanges(wanted, nmin, nmax, ranges)) {
         errore += messaggioColonna(impossible->column, wanted, ranges, impossible->rangeSize);
@@ -203,7 +184,7 @@ bool GeneraCartellaPersonale::riempiPerColonne(Pagina *pagina, PaginaPersonale &
                                                            static_cast<unsigned>(ranges[column].second));
         }
         for (int row = 0; row < schema.nRighe; ++row) {
-            PersonaleChkBox &box = boxAt(schema, row, column);
+            PersonaleChkBox &box = schema.cell(row, column);
             if (box.isChecked()) {
                 fillCell(cellAt(pagina, row, column), box, numbers, wanted[column]);
             }

@@ -4,9 +4,10 @@
 #include "model/Types.h"
 #include "personale/PersonaleChkBox.h"
 
+#include <algorithm>
 #include <memory>
 
-// One hand-drawn page of the editor. Its check boxes stand in row-major order: cell (r, c) is chk[r * nColonne + c].
+// One hand-drawn page of the editor. Its check boxes stand in row-major order. Positions are 0-based.
 // A box shown in a layout has that layout's widget as parent: make it parentless before this record goes.
 struct PaginaPersonale
 {
@@ -16,4 +17,11 @@ struct PaginaPersonale
     U8 nColonne = 0;
 
     size_t cellCount() const { return size_t{nRighe} * nColonne; }
+    bool hasCell(int row, int column) const { return row < nRighe && column < nColonne; }
+    PersonaleChkBox &cell(int row, int column) const { return chk[static_cast<size_t>(row * nColonne + column)]; }
+    int tickedNumbers() const
+    {
+        return static_cast<int>(std::count_if(chk.get(), chk.get() + cellCount(),
+                                              [](const PersonaleChkBox &box) { return box.isTickedNumber(); }));
+    }
 };

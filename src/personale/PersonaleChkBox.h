@@ -21,9 +21,12 @@ public:
     // Sets `riga` and `colonna` (0-based) and the tool tip, which tells them counted from 1.
     void setPosition(U8 row, U8 column);
 
-    // Shows a number as the text. A box that is not on display notes it until its text is needed: of the many boxes of
-    // many pages few are ever looked at.
+    bool isTickedNumber() const { return tipo == CELL_NUMERO && isChecked(); }
+
+    // Shows a number as the text. A box that is not on display notes it until it is shown: of the many boxes of many
+    // pages few are ever looked at, and setting the text of all of them takes most of the time of their creation.
     void setNumero(quint32 numero);
+    // The text with the number, noted or shown. Hides the function of the base, which does not know a noted number.
     QString text() const;
 
     QSize sizeHint() const override;
