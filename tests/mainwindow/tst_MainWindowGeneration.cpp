@@ -126,6 +126,8 @@ private slots:
     void noSecondRunStartsFromABox();
     void theWaitCursorIsShownWhilePagesAreMade();
     void byHandTheEditorOpensWithoutValidation();
+    void theEditorGetsTheRangeOfNumbers();
+    void newOpensTheEditorToo();
     void theMainWindowTakesNoInputWhileTheEditorIsOpen();
     void closingTheEditorWithoutPagesChangesNothing();
     void closingTheEditorWithoutPagesLeavesTheViewOfASet();
@@ -559,6 +561,47 @@ void tst_MainWindowGeneration::byHandTheEditorOpensWithoutValidation()
 
     createPages(page, editor);
     closeEditor(page, editor);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowGeneration::theEditorGetsTheRangeOfNumbers()
+{
+    PageWindow page;
+    page.check("MappaManuale");
+    set(page, "numerominimo", 20);
+    set(page, "numeromassimo", 20);
+    EditPersonale *editor = openEditor(page);
+    for (PersonaleChkBox *cell : editor->findChildren<PersonaleChkBox *>().mid(0, 2)) {
+        cell->setTipo(CELL_NUMERO);
+        cell->click();
+    }
+    const auto *verdict = editor->findChild<QLabel *>(QStringLiteral("status_label"));
+    QCOMPARE(verdict->toolTip(), QStringLiteral("I numeri da generare (2) sono maggiori di quelli disponibili (1)."));
+    editor->findChild<PersonaleChkBox *>()->click();
+    createPages(page, editor);
+    QCOMPARE(numbersOf(*page.page(0)), QVector<quint32>{20});
+    closeEditor(page, editor);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+// The pages of the set stay: those made by hand are always appended.
+void tst_MainWindowGeneration::newOpensTheEditorToo()
+{
+    PageWindow page;
+    set(page, "numeropagine", 2);
+    page.press("butt_aggiungi_pagine");
+    page.pageNumber()->setValue(2);
+    page.check("MappaManuale");
+    page.boxes.expectBox(boxTitle, newQuestion, QMessageBox::Yes);
+    chooseNew(page);
+    auto *editor = page.window->findChild<EditPersonale *>();
+    QVERIFY(editor != nullptr);
+    QCOMPARE(page.set()->getNumPages(), 2);
+    QCOMPARE(page.pageNumber()->value(), 1);
+    createPages(page, editor);
+    closeEditor(page, editor);
+    QCOMPARE(page.set()->getNumPages(), 4);
+    QCOMPARE(page.pageNumber()->value(), 2);
     QCOMPARE(page.boxes.problems(), QStringList());
 }
 

@@ -7,6 +7,34 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+namespace {
+// Collects the cursors that a window shows one after the other. A main window tells of each more than once.
+class CursorLog final : public QObject
+{
+public:
+    explicit CursorLog(QWidget *window)
+        : m_window(window)
+    {
+        window->installEventFilter(this);
+    }
+    const QVector<int> &shapes() const { return m_shapes; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::CursorChange &&
+            m_window->cursor().shape() != m_shapes.value(m_shapes.size() - 1, -1)) {
+            m_shapes << m_window->cursor().shape();
+        }
+        return false;
+    }
+
+private:
+    QWidget *m_window; // not owned
+    QVector<int> m_shapes;
+};
+} // namespace
+
 class TestEditPersonale : public QObject
 {
     Q_OBJECT
@@ -21,6 +49,7 @@ private slots:
     void everyInputHasAToolTip();
 
     void switchingShowsThePage();
+    void theWaitCursorIsShownWhileThePageIsSwitched();
     void pageNumbersBeyondTheLastAreClamped();
     void theColumnFlagBelongsToThePage();
     void boxesOutOfDisplayHaveNoParent();
@@ -36,6 +65,7 @@ private slots:
 
     void fillEmptyAndInvertWorkOnTheRectangle();
     void fillEmptyAndInvertWorkOnTheWholePage();
+    void everyTickOfACommandIsReported();
     void theChosenTypeIsSetInScope_data();
     void theChosenTypeIsSetInScope();
     void withoutAChosenTypeCellsBecomeEmpty();
@@ -245,6 +275,16 @@ void TestEditPersonale::switchingShowsThePage()
     QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
 }
 
+void TestEditPersonale::theWaitCursorIsShownWhileThePageIsSwitched()
+{
+    EditorUnderTest t(1, 1, 2);
+    const CursorLog log(t.editor);
+    t.showPage(2);
+    QCOMPARE(log.shapes(), (QVector<int>{Qt::WaitCursor, Qt::ArrowCursor}));
+    t.showPage(9); // still the second page
+    QCOMPARE(log.shapes().size(), 2);
+}
+
 void TestEditPersonale::pageNumbersBeyondTheLastAreClamped()
 {
     EditorUnderTest t(1, 2, 3);
@@ -381,6 +421,32 @@ void TestEditPersonale::fillEmptyAndInvertWorkOnTheWholePage()
     QCOMPARE(t.drawn(), QStringLiteral("ooo ooo"));
     t.showPage(2);
     QCOMPARE(t.drawn(), QStringLiteral("ooo ooo"));
+}
+
+// Exactly as a click does.
+void TestEditPersonale::everyTickOfACommandIsReported()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.showPage(2);
+    QSignalSpy ticksOfTheOtherPage(t.box(0, 1), &PersonaleChkBox::schecked);
+    t.showPage(1);
+    QSignalSpy ticks(t.box(0, 1), &PersonaleChkBox::schecked);
+    t.selectAll(true);
+    t.click("riempiButton");
+    t.click("riempiButton"); // no change
+    t.click("invertiButton");
+    t.click("invertiButton");
+    t.copyTo(2, 2);
+    t.click("svuotaButton");
+    const QList<bool> reported{true, false, true, false};
+    QCOMPARE(ticks.size(), reported.size());
+    for (int i = 0; i < reported.size(); ++i) {
+        QCOMPARE(ticks[i][1].value<U8>(), U8(1));
+        QCOMPARE(ticks[i][2].toBool(), reported[i]);
+    }
+    QCOMPARE(ticksOfTheOtherPage.size(), 1);
+    QCOMPARE(ticksOfTheOtherPage[0][2].toBool(), true);
+    QCOMPARE(t.boxes.problems(), QStringList());
 }
 
 void TestEditPersonale::theChosenTypeIsSetInScope_data()
