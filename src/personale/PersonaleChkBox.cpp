@@ -103,7 +103,7 @@ void PersonaleChkBox::setPosition(U8 row, U8 column)
 void PersonaleChkBox::setNumero(quint32 numero)
 {
     m_notedNumber = numero;
-    if (isVisible()) {
+    if (m_onDisplay) {
         showNotedNumber();
     }
 }
@@ -115,8 +115,15 @@ QString PersonaleChkBox::text() const
 
 void PersonaleChkBox::showEvent(QShowEvent *event)
 {
+    m_onDisplay = true;
     showNotedNumber();
     QCheckBox::showEvent(event);
+}
+
+void PersonaleChkBox::hideEvent(QHideEvent *event)
+{
+    m_onDisplay = false;
+    QCheckBox::hideEvent(event);
 }
 
 void PersonaleChkBox::showNotedNumber()

@@ -47,6 +47,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     // The whole cell can be clicked.
     bool hitButton(const QPoint &position) const override;
@@ -56,5 +57,7 @@ private:
     void showNotedNumber();
     void moveFocus(int rows, int columns);
 
+    // Kept here, since asking every one of many boxes whether it is visible costs a good part of filling their pages.
+    bool m_onDisplay = false;
     std::optional<quint32> m_notedNumber; // not yet in the text
 };

@@ -314,6 +314,8 @@ void TestPersonaleChkBox::aNumberIsTheTextShownOrNot()
     QCOMPARE(box.text(), QStringLiteral("0"));
     box.hide();
     box.setNumero(90);
+    QCOMPARE(box.text(), QStringLiteral("90"));
+    QCOMPARE(base.text(), QStringLiteral("0")); // not told before it is shown
     box.show();
     QCOMPARE(base.text(), QStringLiteral("90"));
 }
