@@ -8,13 +8,20 @@
 #include <QScreen>
 
 namespace {
+// Nobody presses two buttons within the time that a window manager needs to carry out a request.
+void settle()
+{
+    constexpr int milliseconds = 250;
+    QTest::qWait(milliseconds);
+}
+
 // The mouse of the screen, not an event of the toolkit: it reaches whatever window lies there.
 void clickOnScreen(const QPoint &place)
 {
     const QStringList words = {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
                                QStringLiteral("click"), QString::number(Qt::LeftButton)};
     QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), words), 0);
-    QTest::qWait(200);
+    settle();
 }
 
 QPoint middleOnScreen(const QWidget *widget)
@@ -43,16 +50,19 @@ EditPersonale *tst_Desktop::openEditor(const PageWindow &page)
     page.find<QCheckBox>("MappaManuale")->setChecked(true);
     page.window->generate(false);
     auto *editor = page.window->findChild<EditPersonale *>();
-    return editor != nullptr && QTest::qWaitForWindowActive(editor) ? editor : nullptr;
+    const bool active = editor != nullptr && QTest::qWaitForWindowActive(editor);
+    settle();
+    return active ? editor : nullptr;
 }
 
 void tst_Desktop::closeEditor(PageWindow &page, EditPersonale *editor)
 {
     const QPointer<EditPersonale> open = editor;
     page.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"), QStringLiteral("Sei sicuro di voler chiudere?"),
-                         QMessageBox::Yes);
+                         QMessageBox::Yes, [](QMessageBox *) { settle(); });
     editor->close();
     QTRY_VERIFY(open.isNull());
+    settle();
     QCOMPARE(page.boxes.problems(), QStringList());
 }
 
@@ -108,14 +118,16 @@ void tst_Desktop::theMainWindowStepsAsideWithTheEditor()
     QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
     EditPersonale *editor = openEditor(page);
     QVERIFY(editor != nullptr);
-    QTRY_VERIFY(page.window->isMaximized() && !page.window->isMinimized());
+    QVERIFY(page.window->isMaximized() && !page.window->isMinimized());
 
     editor->showMinimized();
     QTRY_VERIFY(page.window->isMinimized());
+    settle();
     editor->showNormal();
     editor->activateWindow();
     QTRY_VERIFY(!page.window->isMinimized());
     QVERIFY(page.window->isMaximized());
+    settle();
 
     closeEditor(page, editor);
     QTRY_VERIFY(page.window->isMaximized() && !page.window->isMinimized());
