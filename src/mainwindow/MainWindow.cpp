@@ -183,6 +183,7 @@ bool MainWindow::writeOutputFile(const QString &fileName, QString &report)
 MsgArea *MainWindow::openMsgArea()
 {
     auto *window = new MsgArea(this, false);
+    window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowModality(Qt::WindowModal);
     window->setEditable(false);
     return window;
@@ -231,6 +232,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::on_actionOpzioni_triggered()
 {
     m_options = new Options(this);
+    m_options->setAttribute(Qt::WA_DeleteOnClose);
     // It has no parent, and more than one may be open: none outlives this window.
     Options *options = m_options;
     connect(this, &QObject::destroyed, options, [options]() { delete options; });

@@ -44,7 +44,6 @@ MsgArea::MsgArea(QWidget *parent, bool fileMode)
 {
     initQuintraResources();
     ui->setupUi(this);
-    setAttribute(Qt::WA_DeleteOnClose);
     // The shortcuts of a hidden menu bar would be dead.
     addActions({ui->actionSalva, ui->actionEsci});
     ui->menubar->setVisible(fileMode);

@@ -12,7 +12,7 @@ class MsgArea;
 }
 
 // A window for long texts. In message mode it shows a report; in file mode it edits a small Latin-1 text file.
-// Created per use, with the window it belongs to as parent.
+// Created per use, with the window it belongs to as parent; the creator decides whether it goes when it is closed.
 class MsgArea final : public QMainWindow
 {
     Q_OBJECT

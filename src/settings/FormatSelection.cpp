@@ -87,6 +87,7 @@ void FormatSelection::on_procedi_clicked()
 void FormatSelection::on_default_settings_clicked()
 {
     auto *editor = new MsgArea(this, true);
+    editor->setAttribute(Qt::WA_DeleteOnClose);
     editor->setEditable(true);
     editor->setWindowModality(Qt::WindowModal);
     editor->setText(Config::filePath(), true);

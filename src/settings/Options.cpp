@@ -17,7 +17,6 @@ Options::Options(QWidget *parent)
 {
     initQuintraResources();
     ui->setupUi(this);
-    setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(Product::titleFor(tr("Opzioni")));
     show();
 }
@@ -62,6 +61,7 @@ void Options::on_butt_azzeracontinua_clicked()
 void Options::on_butt_formatselection_clicked()
 {
     m_msgArea = new MsgArea(this, true);
+    m_msgArea->setAttribute(Qt::WA_DeleteOnClose);
     m_msgArea->setEditable(true);
     m_msgArea->setWindowModality(Qt::WindowModal);
     m_msgArea->setText(Config::filePath(), true);

@@ -12,7 +12,8 @@ namespace Ui {
 class Options;
 }
 
-// The options dialog: resets config.ini or opens it for editing. Shows itself when created.
+// The options dialog: resets config.ini or opens it for editing. Shows itself when created; the creator decides whether
+// it goes when it is closed.
 class Options final : public QDialog
 {
     Q_OBJECT

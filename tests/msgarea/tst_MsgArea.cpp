@@ -23,13 +23,14 @@ const QString savedText = QStringLiteral("File salvato con successo.");
 const QString failedText = QStringLiteral("Errore nel salvataggio del file!");
 const QString saveDialog = QStringLiteral("Salva su file");
 
-// A window on the heap, which deletes itself when it closes.
+// A window as the others create it: it goes when it is closed.
 class Shown final
 {
 public:
     explicit Shown(bool fileMode)
         : window(new MsgArea(nullptr, fileMode))
     {
+        window->setAttribute(Qt::WA_DeleteOnClose);
         window->show();
         QApplication::setActiveWindow(window);
     }

@@ -86,6 +86,7 @@ void tst_Options::init()
     m_window = std::make_unique<Window>();
     m_window->show();
     m_options = new Options(m_window.get());
+    m_options->setAttribute(Qt::WA_DeleteOnClose);
 }
 
 void tst_Options::cleanup()
