@@ -83,7 +83,7 @@ bool MainWindow::generate(bool append)
     fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
     m_generated = true;
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
-    if (!append) {
+    if (!append || m_pageShown == 0) { // all pages may have been deleted before
         showFirstPage();
     }
     return true;

@@ -111,6 +111,7 @@ private slots:
     void aNewFirstPageIsShownThoughItsNumberStaysTheSame();
     void appendedPagesAloneAreFilled();
     void appendingKeepsThePageShown();
+    void appendingToAnEmptiedSetShowsTheFirstPage();
     void aNewCardSetSendsItsStatusToTheWindow();
     void rulesThatAreBrokenRefuse();
     void theKeyboardStaysOnTheButton();
@@ -258,6 +259,22 @@ void tst_MainWindowGeneration::appendedPagesAloneAreFilled()
         QCOMPARE(sorted(numbersOf(*page.page(i))), oneToNinety());
     }
     QCOMPARE(page.status(), QStringLiteral("Cartella di 10 pagine, 6 blocchi 3X9 generata"));
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowGeneration::appendingToAnEmptiedSetShowsTheFirstPage()
+{
+    PageWindow page;
+    chooseNew(page);
+    page.press("pagina_elimina");
+    QCOMPARE(page.set()->getNumPages(), 0);
+    QCOMPARE(page.pageNumber()->value(), 0);
+
+    set(page, "numeropagine", 3);
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.shown("pagine_lcdNumber"), 3);
+    QCOMPARE(page.pageNumber()->value(), 1);
+    QCOMPARE(page.table()->rowCount(), 18);
     QCOMPARE(page.boxes.problems(), QStringList());
 }
 
