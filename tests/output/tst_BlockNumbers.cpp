@@ -20,7 +20,7 @@ using Change = std::function<void(Cartella &)>;
 
 Q_DECLARE_METATYPE(Change)
 
-class BlockNumbersTest : public QObject
+class tst_BlockNumbers final : public QObject
 {
     Q_OBJECT
 
@@ -101,5 +101,5 @@ private:
     }
 };
 
-QTEST_MAIN(BlockNumbersTest)
+QTEST_MAIN(tst_BlockNumbers)
 #include "tst_BlockNumbers.moc"

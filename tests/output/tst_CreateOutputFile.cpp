@@ -25,7 +25,7 @@ QStringList textsOf(const QSignalSpy &spy)
 }
 } // namespace
 
-class CreateOutputFileTest : public QObject
+class tst_CreateOutputFile final : public QObject
 {
     Q_OBJECT
 
@@ -251,5 +251,5 @@ private:
     QString m_report;
 };
 
-QTEST_MAIN(CreateOutputFileTest)
+QTEST_MAIN(tst_CreateOutputFile)
 #include "tst_CreateOutputFile.moc"

@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-class NumberShapesTest : public QObject
+class tst_NumberShapes final : public QObject
 {
     Q_OBJECT
 
@@ -103,5 +103,5 @@ private:
     std::unique_ptr<QPainter> m_painter;
 };
 
-QTEST_MAIN(NumberShapesTest)
+QTEST_MAIN(tst_NumberShapes)
 #include "tst_NumberShapes.moc"

@@ -140,7 +140,7 @@ Set narrowCells()
 
 Q_DECLARE_METATYPE(Set)
 
-class PagePainterTest : public QObject
+class tst_PagePainter final : public QObject
 {
     Q_OBJECT
 
@@ -321,5 +321,5 @@ private:
     inline static const QString reference = QStringLiteral("confronto.pdf");
 };
 
-QTEST_MAIN(PagePainterTest)
+QTEST_MAIN(tst_PagePainter)
 #include "tst_PagePainter.moc"

@@ -13,7 +13,7 @@ Sheet sheet()
 }
 } // namespace
 
-class PdfGeometryTest : public QObject
+class tst_PdfGeometry final : public QObject
 {
     Q_OBJECT
 
@@ -106,5 +106,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(PdfGeometryTest)
+QTEST_GUILESS_MAIN(tst_PdfGeometry)
 #include "tst_PdfGeometry.moc"

@@ -91,7 +91,7 @@ long peakMemory()
 } // namespace
 
 // What the printed file holds, looked at with the tools of others.
-class PrintedFileTest : public QObject
+class tst_PrintedFile final : public QObject
 {
     Q_OBJECT
 
@@ -283,5 +283,5 @@ private:
     std::unique_ptr<ScratchFolder> m_folder;
 };
 
-QTEST_MAIN(PrintedFileTest)
+QTEST_MAIN(tst_PrintedFile)
 #include "tst_PrintedFile.moc"

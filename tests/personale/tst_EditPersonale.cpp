@@ -35,7 +35,7 @@ private:
 };
 } // namespace
 
-class TestEditPersonale : public QObject
+class tst_EditPersonale final : public QObject
 {
     Q_OBJECT
 
@@ -107,7 +107,7 @@ private slots:
     void openingAndClosingFiftyTimes();
 };
 
-void TestEditPersonale::theWindowOpensOnPageOne()
+void tst_EditPersonale::theWindowOpensOnPageOne()
 {
     EditorUnderTest t(3, 9, 4);
     QCOMPARE(t.editor->windowTitle(), QStringLiteral("Quintra v0.704 - MAPPATURA MANUALE"));
@@ -139,7 +139,7 @@ void TestEditPersonale::theWindowOpensOnPageOne()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::withoutPagesTheWindowClosesAtOnce()
+void tst_EditPersonale::withoutPagesTheWindowClosesAtOnce()
 {
     BoxScript boxes;
     boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"), QStringLiteral("Non vi sono pagine da creare!"),
@@ -159,7 +159,7 @@ void TestEditPersonale::withoutPagesTheWindowClosesAtOnce()
     QCOMPARE(boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::theWindowThatOpenedItTakesNoInput()
+void tst_EditPersonale::theWindowThatOpenedItTakesNoInput()
 {
     QWidget mainWindow;
     QCheckBox control(&mainWindow);
@@ -179,7 +179,7 @@ void TestEditPersonale::theWindowThatOpenedItTakesNoInput()
     QVERIFY(control.isChecked());
 }
 
-void TestEditPersonale::theTextsOfTheForm_data()
+void tst_EditPersonale::theTextsOfTheForm_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
@@ -207,7 +207,7 @@ void TestEditPersonale::theTextsOfTheForm_data()
     }
 }
 
-void TestEditPersonale::theTextsOfTheForm()
+void tst_EditPersonale::theTextsOfTheForm()
 {
     QFETCH(QString, name);
     QFETCH(QString, text);
@@ -217,7 +217,7 @@ void TestEditPersonale::theTextsOfTheForm()
     QCOMPARE(widget->property("text").toString(), text);
 }
 
-void TestEditPersonale::theMenuHoldsItsCommands()
+void tst_EditPersonale::theMenuHoldsItsCommands()
 {
     EditorUnderTest t;
     const auto *menu = t.find<QMenu>("menuFile");
@@ -239,7 +239,7 @@ void TestEditPersonale::theMenuHoldsItsCommands()
     QCOMPARE(t.find<QAction>("actionSave")->shortcut(), QKeySequence(QKeySequence::Save));
 }
 
-void TestEditPersonale::everyInputHasAToolTip()
+void tst_EditPersonale::everyInputHasAToolTip()
 {
     EditorUnderTest t;
     for (const QWidget *widget : t.editor->findChildren<QWidget *>()) {
@@ -254,7 +254,7 @@ void TestEditPersonale::everyInputHasAToolTip()
                                  "celle usare il tasto destro del mouse su di esse.</p>"));
 }
 
-void TestEditPersonale::switchingShowsThePage()
+void tst_EditPersonale::switchingShowsThePage()
 {
     EditorUnderTest t(1, 3, 3);
     t.tick(0, 0, CELL_NUMERO);
@@ -275,7 +275,7 @@ void TestEditPersonale::switchingShowsThePage()
     QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
 }
 
-void TestEditPersonale::theWaitCursorIsShownWhileThePageIsSwitched()
+void tst_EditPersonale::theWaitCursorIsShownWhileThePageIsSwitched()
 {
     EditorUnderTest t(1, 1, 2);
     const CursorLog log(t.editor);
@@ -285,7 +285,7 @@ void TestEditPersonale::theWaitCursorIsShownWhileThePageIsSwitched()
     QCOMPARE(log.shapes().size(), 2);
 }
 
-void TestEditPersonale::pageNumbersBeyondTheLastAreClamped()
+void tst_EditPersonale::pageNumbersBeyondTheLastAreClamped()
 {
     EditorUnderTest t(1, 2, 3);
     t.showPage(3);
@@ -296,7 +296,7 @@ void TestEditPersonale::pageNumbersBeyondTheLastAreClamped()
     QCOMPARE(t.drawn(), QStringLiteral("No"));
 }
 
-void TestEditPersonale::theColumnFlagBelongsToThePage()
+void tst_EditPersonale::theColumnFlagBelongsToThePage()
 {
     EditorUnderTest t(1, 2, 3);
     const auto *flag = t.button("checkBox_ordinaNumxColonne");
@@ -313,7 +313,7 @@ void TestEditPersonale::theColumnFlagBelongsToThePage()
     QVERIFY(!flag->isChecked());
 }
 
-void TestEditPersonale::boxesOutOfDisplayHaveNoParent()
+void tst_EditPersonale::boxesOutOfDisplayHaveNoParent()
 {
     EditorUnderTest t(1, 2, 2);
     const PersonaleChkBox *box = t.box(0, 0);
@@ -324,7 +324,7 @@ void TestEditPersonale::boxesOutOfDisplayHaveNoParent()
     QCOMPARE(QGuiApplication::topLevelWindows().size(), 2); // none of the boxes became one
 }
 
-void TestEditPersonale::aRowStartAboveThePageIsTheLastRow()
+void tst_EditPersonale::aRowStartAboveThePageIsTheLastRow()
 {
     EditorUnderTest t(3, 9);
     t.spin("row_from_spinBox")->setValue(200);
@@ -332,7 +332,7 @@ void TestEditPersonale::aRowStartAboveThePageIsTheLastRow()
     QCOMPARE(t.spin("row_to_spinBox")->value(), 3);
 }
 
-void TestEditPersonale::aRowStartAboveTheEndRaisesTheEnd()
+void tst_EditPersonale::aRowStartAboveTheEndRaisesTheEnd()
 {
     EditorUnderTest t(5, 9);
     t.spin("row_to_spinBox")->setValue(2);
@@ -341,7 +341,7 @@ void TestEditPersonale::aRowStartAboveTheEndRaisesTheEnd()
     QCOMPARE(t.spin("row_to_spinBox")->value(), 3);
 }
 
-void TestEditPersonale::aRowEndAboveThePageIsTheLastRow()
+void tst_EditPersonale::aRowEndAboveThePageIsTheLastRow()
 {
     EditorUnderTest t(3, 9);
     t.spin("row_to_spinBox")->setValue(4);
@@ -349,7 +349,7 @@ void TestEditPersonale::aRowEndAboveThePageIsTheLastRow()
     QCOMPARE(t.spin("row_from_spinBox")->value(), 1);
 }
 
-void TestEditPersonale::aRowEndBelowTheStartLowersTheStart()
+void tst_EditPersonale::aRowEndBelowTheStartLowersTheStart()
 {
     EditorUnderTest t(5, 9);
     t.spin("row_to_spinBox")->setValue(5);
@@ -359,7 +359,7 @@ void TestEditPersonale::aRowEndBelowTheStartLowersTheStart()
     QCOMPARE(t.spin("row_to_spinBox")->value(), 2);
 }
 
-void TestEditPersonale::aColumnStartAboveThePageIsTheLastColumn()
+void tst_EditPersonale::aColumnStartAboveThePageIsTheLastColumn()
 {
     EditorUnderTest t(3, 9);
     t.spin("col_from_spinBox")->setValue(200);
@@ -367,7 +367,7 @@ void TestEditPersonale::aColumnStartAboveThePageIsTheLastColumn()
     QCOMPARE(t.spin("col_to_spinBox")->value(), 9);
 }
 
-void TestEditPersonale::aColumnStartAboveTheEndRaisesTheEnd()
+void tst_EditPersonale::aColumnStartAboveTheEndRaisesTheEnd()
 {
     EditorUnderTest t(3, 9);
     t.spin("col_to_spinBox")->setValue(2);
@@ -375,14 +375,14 @@ void TestEditPersonale::aColumnStartAboveTheEndRaisesTheEnd()
     QCOMPARE(t.spin("col_to_spinBox")->value(), 7);
 }
 
-void TestEditPersonale::aColumnEndAboveThePageIsTheLastColumn()
+void tst_EditPersonale::aColumnEndAboveThePageIsTheLastColumn()
 {
     EditorUnderTest t(3, 9);
     t.spin("col_to_spinBox")->setValue(255);
     QCOMPARE(t.spin("col_to_spinBox")->value(), 9);
 }
 
-void TestEditPersonale::aColumnEndBelowTheStartLowersTheStart()
+void tst_EditPersonale::aColumnEndBelowTheStartLowersTheStart()
 {
     EditorUnderTest t(3, 9);
     t.spin("col_from_spinBox")->setValue(6);
@@ -390,7 +390,7 @@ void TestEditPersonale::aColumnEndBelowTheStartLowersTheStart()
     QCOMPARE(t.spin("col_from_spinBox")->value(), 4);
 }
 
-void TestEditPersonale::fillEmptyAndInvertWorkOnTheRectangle()
+void tst_EditPersonale::fillEmptyAndInvertWorkOnTheRectangle()
 {
     EditorUnderTest t(4, 4);
     t.select(2, 3, 2, 4);
@@ -404,7 +404,7 @@ void TestEditPersonale::fillEmptyAndInvertWorkOnTheRectangle()
     QCOMPARE(t.drawn(), QStringLiteral("oooo oOoO OooO OOoo"));
 }
 
-void TestEditPersonale::fillEmptyAndInvertWorkOnTheWholePage()
+void tst_EditPersonale::fillEmptyAndInvertWorkOnTheWholePage()
 {
     EditorUnderTest t(2, 3);
     t.select(1, 1, 1, 1);
@@ -424,7 +424,7 @@ void TestEditPersonale::fillEmptyAndInvertWorkOnTheWholePage()
 }
 
 // Exactly as a click does.
-void TestEditPersonale::everyTickOfACommandIsReported()
+void tst_EditPersonale::everyTickOfACommandIsReported()
 {
     EditorUnderTest t(1, 2, 2);
     t.showPage(2);
@@ -449,7 +449,7 @@ void TestEditPersonale::everyTickOfACommandIsReported()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::theChosenTypeIsSetInScope_data()
+void tst_EditPersonale::theChosenTypeIsSetInScope_data()
 {
     QTest::addColumn<QString>("radio");
     QTest::addColumn<QString>("drawn");
@@ -460,7 +460,7 @@ void TestEditPersonale::theChosenTypeIsSetInScope_data()
                            << QStringLiteral("Immagine");
 }
 
-void TestEditPersonale::theChosenTypeIsSetInScope()
+void tst_EditPersonale::theChosenTypeIsSetInScope()
 {
     QFETCH(QString, radio);
     QFETCH(QString, drawn);
@@ -475,7 +475,7 @@ void TestEditPersonale::theChosenTypeIsSetInScope()
     QCOMPARE(t.box(0, 0)->statusTip(), QStringLiteral("Vuota"));
 }
 
-void TestEditPersonale::withoutAChosenTypeCellsBecomeEmpty()
+void tst_EditPersonale::withoutAChosenTypeCellsBecomeEmpty()
 {
     EditorUnderTest t(1, 2);
     t.tick(0, 0, CELL_NUMERO);
@@ -487,7 +487,7 @@ void TestEditPersonale::withoutAChosenTypeCellsBecomeEmpty()
     QCOMPARE(t.drawn(), QStringLiteral("Oo"));
 }
 
-void TestEditPersonale::rightClicksCycleTheType()
+void tst_EditPersonale::rightClicksCycleTheType()
 {
     EditorUnderTest t(1, 2);
     t.tick(0, 1, CELL_NUMERO);
@@ -502,7 +502,7 @@ void TestEditPersonale::rightClicksCycleTheType()
     }
 }
 
-void TestEditPersonale::anUnknownTypeBecomesEmptyByRightClick()
+void tst_EditPersonale::anUnknownTypeBecomesEmptyByRightClick()
 {
     EditorUnderTest t(1, 2);
     t.box(0, 0)->tipo = static_cast<CELL_VALUE>(7);
@@ -510,7 +510,7 @@ void TestEditPersonale::anUnknownTypeBecomesEmptyByRightClick()
     QCOMPARE(t.box(0, 0)->tipo, CELL_VUOTA);
 }
 
-void TestEditPersonale::anUnknownTypeStopsACopy()
+void tst_EditPersonale::anUnknownTypeStopsACopy()
 {
     EditorUnderTest t(1, 1, 2);
     t.box(0, 0)->tipo = static_cast<CELL_VALUE>(7);
@@ -518,7 +518,7 @@ void TestEditPersonale::anUnknownTypeStopsACopy()
     QCOMPARE(text, QStringLiteral("CELL_TYPE UNKNOWN"));
 }
 
-void TestEditPersonale::tooManyNumbersForbidTheCreation()
+void tst_EditPersonale::tooManyNumbersForbidTheCreation()
 {
     EditorUnderTest t(10, 10, 1, 1, 90);
     t.select(1, 9, 1, 10);
@@ -540,7 +540,7 @@ void TestEditPersonale::tooManyNumbersForbidTheCreation()
     QCOMPARE(t.picture(), QStringLiteral("ok"));
 }
 
-void TestEditPersonale::textCellsAreNotCounted()
+void tst_EditPersonale::textCellsAreNotCounted()
 {
     EditorUnderTest t(1, 4, 1, 1, 2);
     t.selectAll(true);
@@ -557,7 +557,7 @@ void TestEditPersonale::textCellsAreNotCounted()
 }
 
 // The count belongs to no page for sure: it goes on from the page before until types are set again.
-void TestEditPersonale::theCountIsKeptWhenThePageIsSwitched()
+void tst_EditPersonale::theCountIsKeptWhenThePageIsSwitched()
 {
     EditorUnderTest t(1, 3, 2, 1, 2);
     for (int column = 0; column < 3; ++column) {
@@ -576,7 +576,7 @@ void TestEditPersonale::theCountIsKeptWhenThePageIsSwitched()
     QVERIFY(t.canCreate());
 }
 
-void TestEditPersonale::ticksOutsideThePageAreNotCounted()
+void tst_EditPersonale::ticksOutsideThePageAreNotCounted()
 {
     EditorUnderTest t(2, 1, 1, 1, 1);
     t.tick(0, 0, CELL_NUMERO);
@@ -591,7 +591,7 @@ void TestEditPersonale::ticksOutsideThePageAreNotCounted()
     QVERIFY(!t.canCreate());
 }
 
-void TestEditPersonale::theCopyRangeIsClamped()
+void tst_EditPersonale::theCopyRangeIsClamped()
 {
     EditorUnderTest t(1, 1, 5);
     t.spin("impostaAspinBox")->setValue(65535);
@@ -600,7 +600,7 @@ void TestEditPersonale::theCopyRangeIsClamped()
     QCOMPARE(t.spin("impostaDAspinBox")->value(), 5);
 }
 
-void TestEditPersonale::theCopyRangeStaysInOrder()
+void tst_EditPersonale::theCopyRangeStaysInOrder()
 {
     EditorUnderTest t(1, 1, 5);
     t.spin("impostaAspinBox")->setValue(3);
@@ -610,7 +610,7 @@ void TestEditPersonale::theCopyRangeStaysInOrder()
     QCOMPARE(t.spin("impostaAspinBox")->value(), 3);
 }
 
-void TestEditPersonale::anEndIsTypedDigitByDigit()
+void tst_EditPersonale::anEndIsTypedDigitByDigit()
 {
     EditorUnderTest t(20, 20, 20);
     const auto type = [&](const char *box, const QString &digits) {
@@ -633,7 +633,7 @@ void TestEditPersonale::anEndIsTypedDigitByDigit()
     QCOMPARE(t.spin("impostaAspinBox")->value(), 14);
 }
 
-void TestEditPersonale::allPagesDisableTheCopyRange()
+void tst_EditPersonale::allPagesDisableTheCopyRange()
 {
     EditorUnderTest t(1, 1, 5);
     t.spin("impostaAspinBox")->setValue(3);
@@ -649,7 +649,7 @@ void TestEditPersonale::allPagesDisableTheCopyRange()
     QCOMPARE(t.spin("impostaAspinBox")->value(), 5);
 }
 
-void TestEditPersonale::copyingTakesTickTypeAndFlag()
+void tst_EditPersonale::copyingTakesTickTypeAndFlag()
 {
     EditorUnderTest t(1, 3, 4);
     t.showPage(2);
@@ -674,7 +674,7 @@ void TestEditPersonale::copyingTakesTickTypeAndFlag()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::decliningTheCopyChangesNothing()
+void tst_EditPersonale::decliningTheCopyChangesNothing()
 {
     EditorUnderTest t(1, 2, 2);
     t.tick(0, 0, CELL_NUMERO);
@@ -692,7 +692,7 @@ void TestEditPersonale::decliningTheCopyChangesNothing()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::copyingAGoodSchemeToManyPagesLeavesTheCreationAllowed()
+void tst_EditPersonale::copyingAGoodSchemeToManyPagesLeavesTheCreationAllowed()
 {
     EditorUnderTest t(1, 3, 11, 1, 3);
     t.selectAll(true);
@@ -708,7 +708,7 @@ void TestEditPersonale::copyingAGoodSchemeToManyPagesLeavesTheCreationAllowed()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::creatingAddsThePagesAndShowsTheNumbers()
+void tst_EditPersonale::creatingAddsThePagesAndShowsTheNumbers()
 {
     EditorUnderTest t(2, 3, 3);
     t.tick(0, 1, CELL_NUMERO);
@@ -733,7 +733,7 @@ void TestEditPersonale::creatingAddsThePagesAndShowsTheNumbers()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::theMenuCreatesToo()
+void tst_EditPersonale::theMenuCreatesToo()
 {
     EditorUnderTest t(1, 2, 1);
     t.tick(0, 0, CELL_NUMERO);
@@ -745,7 +745,7 @@ void TestEditPersonale::theMenuCreatesToo()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::aFailedCreationTellsWhy()
+void tst_EditPersonale::aFailedCreationTellsWhy()
 {
     EditorUnderTest t(10, 9, 1, 1, 90);
     t.select(1, 10, 1, 1);
@@ -764,7 +764,7 @@ void TestEditPersonale::aFailedCreationTellsWhy()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::warningsOfASuccessAreNotShown()
+void tst_EditPersonale::warningsOfASuccessAreNotShown()
 {
     EditorUnderTest t(1, 2, 1);
     t.tick(0, 0, CELL_TESTO);
@@ -774,7 +774,7 @@ void TestEditPersonale::warningsOfASuccessAreNotShown()
 }
 
 // Only the page on display is checked before the creation.
-void TestEditPersonale::anImpossibleOtherPageGetsZeros()
+void tst_EditPersonale::anImpossibleOtherPageGetsZeros()
 {
     EditorUnderTest t(1, 3, 2, 1, 2);
     t.selectAll(true);
@@ -791,7 +791,7 @@ void TestEditPersonale::anImpossibleOtherPageGetsZeros()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::decliningToCloseKeepsTheWindow()
+void tst_EditPersonale::decliningToCloseKeepsTheWindow()
 {
     EditorUnderTest t;
     QSignalSpy done(t.editor, &EditPersonale::done);
@@ -811,7 +811,7 @@ void TestEditPersonale::decliningToCloseKeepsTheWindow()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::closingReportsAndDeletesTheWindow()
+void tst_EditPersonale::closingReportsAndDeletesTheWindow()
 {
     EditorUnderTest t;
     QSignalSpy done(t.editor, &EditPersonale::done);
@@ -825,7 +825,7 @@ void TestEditPersonale::closingReportsAndDeletesTheWindow()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::theMainWindowFollowsTheActivation()
+void tst_EditPersonale::theMainWindowFollowsTheActivation()
 {
     EditorUnderTest t;
     QWidget other;
@@ -840,7 +840,7 @@ void TestEditPersonale::theMainWindowFollowsTheActivation()
     QVERIFY(t.mainWindow.isVisible());
 }
 
-void TestEditPersonale::theMainWindowFollowsTheWindowState()
+void tst_EditPersonale::theMainWindowFollowsTheWindowState()
 {
     EditorUnderTest t;
     QApplication::setActiveWindow(t.editor);
@@ -853,7 +853,7 @@ void TestEditPersonale::theMainWindowFollowsTheWindowState()
     QVERIFY(!t.mainWindow.isMaximized());
 }
 
-void TestEditPersonale::theMainWindowIsBackAfterClosing()
+void tst_EditPersonale::theMainWindowIsBackAfterClosing()
 {
     EditorUnderTest t;
     QApplication::setActiveWindow(t.editor);
@@ -867,7 +867,7 @@ void TestEditPersonale::theMainWindowIsBackAfterClosing()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonale::aMaximizedMainWindowComesBackMaximized()
+void tst_EditPersonale::aMaximizedMainWindowComesBackMaximized()
 {
     QWidget mainWindow;
     mainWindow.showMaximized();
@@ -880,7 +880,7 @@ void TestEditPersonale::aMaximizedMainWindowComesBackMaximized()
     QVERIFY(mainWindow.isMaximized());
 }
 
-void TestEditPersonale::otherChangesAreAccepted()
+void tst_EditPersonale::otherChangesAreAccepted()
 {
     EditorUnderTest t;
     for (const QEvent::Type type : {QEvent::PaletteChange, QEvent::StyleChange, QEvent::LanguageChange,
@@ -896,7 +896,7 @@ void TestEditPersonale::otherChangesAreAccepted()
     t.editor->setEnabled(true);
 }
 
-void TestEditPersonale::theMainWindowMayGoFirst()
+void tst_EditPersonale::theMainWindowMayGoFirst()
 {
     Cartella cartella;
     auto mainWindow = std::make_unique<QWidget>();
@@ -912,7 +912,7 @@ void TestEditPersonale::theMainWindowMayGoFirst()
     QVERIFY(alone.isVisible());
 }
 
-void TestEditPersonale::eighteenRowsOfNineFitWithoutScrolling()
+void tst_EditPersonale::eighteenRowsOfNineFitWithoutScrolling()
 {
     EditorUnderTest t(18, 9);
     t.editor->resize(1024, 676); // of 1024 x 700, without a title bar
@@ -925,7 +925,7 @@ void TestEditPersonale::eighteenRowsOfNineFitWithoutScrolling()
     QVERIFY(tools->height() >= tools->minimumSizeHint().height());
 }
 
-void TestEditPersonale::largerPagesScrollToTheFocusedCell()
+void tst_EditPersonale::largerPagesScrollToTheFocusedCell()
 {
     EditorUnderTest t(60, 40);
     t.editor->resize(1024, 676);
@@ -947,7 +947,7 @@ void TestEditPersonale::largerPagesScrollToTheFocusedCell()
 }
 
 // In every state: any page on display, after opening a file and copying, closed or deleted, events still waiting.
-void TestEditPersonale::openingAndClosingFiftyTimes()
+void tst_EditPersonale::openingAndClosingFiftyTimes()
 {
     for (int round = 0; round < 50; ++round) {
         EditorUnderTest t(3, 5, 4);
@@ -973,5 +973,5 @@ void TestEditPersonale::openingAndClosingFiftyTimes()
     }
 }
 
-QTEST_MAIN(TestEditPersonale)
+QTEST_MAIN(tst_EditPersonale)
 #include "tst_EditPersonale.moc"

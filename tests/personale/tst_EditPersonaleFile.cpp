@@ -57,7 +57,7 @@ private:
 };
 } // namespace
 
-class TestEditPersonaleFile : public QObject
+class tst_EditPersonaleFile final : public QObject
 {
     Q_OBJECT
 
@@ -97,7 +97,7 @@ private slots:
     void loadedPagesAreCreated();
 };
 
-void TestEditPersonaleFile::savingWritesEveryPage()
+void tst_EditPersonaleFile::savingWritesEveryPage()
 {
     EditorUnderTest t(2, 2, 2);
     t.tick(0, 0, CELL_NUMERO);
@@ -115,7 +115,7 @@ void TestEditPersonaleFile::savingWritesEveryPage()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::savingReportsWithoutWaiting()
+void tst_EditPersonaleFile::savingReportsWithoutWaiting()
 {
     EditorUnderTest t(2, 2, 3);
     t.expectSave(t.folder.path(QStringLiteral("my.page.QcF")));
@@ -128,7 +128,7 @@ void TestEditPersonaleFile::savingReportsWithoutWaiting()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theSizeIsToldInMegabytesToo()
+void tst_EditPersonaleFile::theSizeIsToldInMegabytesToo()
 {
     EditorUnderTest t(15, 17, 60); // 257 bytes a page
     t.expectSave(t.folder.path(QStringLiteral("large.QcF")));
@@ -137,7 +137,7 @@ void TestEditPersonaleFile::theSizeIsToldInMegabytesToo()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::aNameWithPlaceholdersIsReportedAsItIs()
+void tst_EditPersonaleFile::aNameWithPlaceholdersIsReportedAsItIs()
 {
     EditorUnderTest t(1, 1, 1);
     const QString name = QStringLiteral("50%4 of %5 and %6");
@@ -150,7 +150,7 @@ void TestEditPersonaleFile::aNameWithPlaceholdersIsReportedAsItIs()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::everyPageSavedIsTold()
+void tst_EditPersonaleFile::everyPageSavedIsTold()
 {
     EditorUnderTest t(1, 1, 3);
     const BusyMessages log(t);
@@ -163,7 +163,7 @@ void TestEditPersonaleFile::everyPageSavedIsTold()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theSuffixIsAddedUnlessExact_data()
+void tst_EditPersonaleFile::theSuffixIsAddedUnlessExact_data()
 {
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<QString>("written");
@@ -173,7 +173,7 @@ void TestEditPersonaleFile::theSuffixIsAddedUnlessExact_data()
     QTest::newRow("none") << QStringLiteral("a") << QStringLiteral("a.QcF");
 }
 
-void TestEditPersonaleFile::theSuffixIsAddedUnlessExact()
+void tst_EditPersonaleFile::theSuffixIsAddedUnlessExact()
 {
     QFETCH(QString, chosen);
     QFETCH(QString, written);
@@ -185,7 +185,7 @@ void TestEditPersonaleFile::theSuffixIsAddedUnlessExact()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theDialogsStartInTheSaveFolderWithTheFilter()
+void tst_EditPersonaleFile::theDialogsStartInTheSaveFolderWithTheFilter()
 {
     EditorUnderTest t(1, 1, 1);
     t.folder.write(QStringLiteral("here/x.QcF"), "!o\n");
@@ -206,7 +206,7 @@ void TestEditPersonaleFile::theDialogsStartInTheSaveFolderWithTheFilter()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theFolderIsRemembered()
+void tst_EditPersonaleFile::theFolderIsRemembered()
 {
     EditorUnderTest t(1, 1, 1);
     const QByteArray configured = t.folder.read(QStringLiteral("config.ini"));
@@ -222,7 +222,7 @@ void TestEditPersonaleFile::theFolderIsRemembered()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::aFolderThatIsGoneIsNotRemembered()
+void tst_EditPersonaleFile::aFolderThatIsGoneIsNotRemembered()
 {
     EditorUnderTest t(1, 1, 1);
     t.folder.write(QStringLiteral("gone/x.QcF"), "!N\n");
@@ -242,7 +242,7 @@ void TestEditPersonaleFile::aFolderThatIsGoneIsNotRemembered()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::cancellingTheSaveIsTold()
+void tst_EditPersonaleFile::cancellingTheSaveIsTold()
 {
     EditorUnderTest t(1, 1, 1);
     const QString before = t.config.defaultSaveDir;
@@ -254,7 +254,7 @@ void TestEditPersonaleFile::cancellingTheSaveIsTold()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::aFileThatCannotBeWrittenIsReportedAllTheSame()
+void tst_EditPersonaleFile::aFileThatCannotBeWrittenIsReportedAllTheSame()
 {
     EditorUnderTest t(1, 1, 1);
     QVERIFY(QDir(t.folder.path(QString())).mkdir(QStringLiteral("folder.QcF")));
@@ -270,7 +270,7 @@ void TestEditPersonaleFile::aFileThatCannotBeWrittenIsReportedAllTheSame()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::openingReplacesThePages()
+void tst_EditPersonaleFile::openingReplacesThePages()
 {
     EditorUnderTest t(3, 9, 2);
     t.showPage(2);
@@ -293,7 +293,7 @@ void TestEditPersonaleFile::openingReplacesThePages()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::everyLineReadAndPageLoadedIsTold()
+void tst_EditPersonaleFile::everyLineReadAndPageLoadedIsTold()
 {
     EditorUnderTest t(1, 1, 1);
     const BusyMessages log(t);
@@ -306,7 +306,7 @@ void TestEditPersonaleFile::everyLineReadAndPageLoadedIsTold()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::openingAsksFirst()
+void tst_EditPersonaleFile::openingAsksFirst()
 {
     EditorUnderTest t(1, 2, 1);
     t.tick(0, 0, CELL_NUMERO);
@@ -323,7 +323,7 @@ void TestEditPersonaleFile::openingAsksFirst()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::cancellingTheOpenIsTold()
+void tst_EditPersonaleFile::cancellingTheOpenIsTold()
 {
     EditorUnderTest t(1, 2, 1);
     t.tick(0, 0, CELL_NUMERO);
@@ -334,7 +334,7 @@ void TestEditPersonaleFile::cancellingTheOpenIsTold()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::aFileThatCannotBeReadLeavesNoPages()
+void tst_EditPersonaleFile::aFileThatCannotBeReadLeavesNoPages()
 {
     EditorUnderTest t(1, 2, 2);
     t.folder.write(QStringLiteral("in.QcF"), "!N\n");
@@ -356,7 +356,7 @@ void TestEditPersonaleFile::aFileThatCannotBeReadLeavesNoPages()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::pagesAreReadBackAsSaved()
+void tst_EditPersonaleFile::pagesAreReadBackAsSaved()
 {
     EditorUnderTest t(3, 9, 2);
     const QByteArray line = "#NnNnNnNnNoooooooooSsIiNnNnN\n";
@@ -368,7 +368,7 @@ void TestEditPersonaleFile::pagesAreReadBackAsSaved()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theColumnFlagIsLostAndItsCheckBoxKeepsItsState()
+void tst_EditPersonaleFile::theColumnFlagIsLostAndItsCheckBoxKeepsItsState()
 {
     EditorUnderTest t(1, 1, 2);
     t.click("checkBox_ordinaNumxColonne");
@@ -383,7 +383,7 @@ void TestEditPersonaleFile::theColumnFlagIsLostAndItsCheckBoxKeepsItsState()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::rightClicksDoNothingOnLoadedPages()
+void tst_EditPersonaleFile::rightClicksDoNothingOnLoadedPages()
 {
     EditorUnderTest t(1, 2, 1);
     t.open("!Nn\n");
@@ -395,7 +395,7 @@ void TestEditPersonaleFile::rightClicksDoNothingOnLoadedPages()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::ticksOfLoadedPagesAreCounted()
+void tst_EditPersonaleFile::ticksOfLoadedPagesAreCounted()
 {
     EditorUnderTest t(1, 1, 1, 1, 2);
     t.open("!NNnn\n");
@@ -406,7 +406,7 @@ void TestEditPersonaleFile::ticksOfLoadedPagesAreCounted()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theCountIsThatOfPageOne()
+void tst_EditPersonaleFile::theCountIsThatOfPageOne()
 {
     EditorUnderTest t(1, 3, 1, 1, 2);
     t.selectAll(true);
@@ -422,7 +422,7 @@ void TestEditPersonaleFile::theCountIsThatOfPageOne()
 }
 
 // While they are loaded, page one counts as the one on display; it does not have their cells.
-void TestEditPersonaleFile::laterAndLargerPagesAreLoadedSafely()
+void tst_EditPersonaleFile::laterAndLargerPagesAreLoadedSafely()
 {
     EditorUnderTest t(1, 1, 1, 1, 90);
     t.open("!N\n)" + QByteArray(81, 'N') + "\n#" + QByteArray(60, 'S') + "\n");
@@ -435,7 +435,7 @@ void TestEditPersonaleFile::laterAndLargerPagesAreLoadedSafely()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
+void tst_EditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
 {
     EditorUnderTest t(30, 9, 1);
     t.selectAll(true);
@@ -457,7 +457,7 @@ void TestEditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::skippedLinesAreListed()
+void tst_EditPersonaleFile::skippedLinesAreListed()
 {
     EditorUnderTest t(1, 1, 1);
     t.open("!N\n\n\n NN\n#NN\n!S\n");
@@ -474,7 +474,7 @@ void TestEditPersonaleFile::skippedLinesAreListed()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::withoutSkippedLinesThereIsNoList()
+void tst_EditPersonaleFile::withoutSkippedLinesThereIsNoList()
 {
     EditorUnderTest t(1, 1, 1);
     t.open("!N\n!S\n");
@@ -482,7 +482,7 @@ void TestEditPersonaleFile::withoutSkippedLinesThereIsNoList()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::aFileWithoutLinesLeavesAnEmptyEditor()
+void tst_EditPersonaleFile::aFileWithoutLinesLeavesAnEmptyEditor()
 {
     EditorUnderTest t(2, 2, 3);
     t.showPage(3);
@@ -525,7 +525,7 @@ void TestEditPersonaleFile::aFileWithoutLinesLeavesAnEmptyEditor()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::afterAFileWithoutLinesAnotherOpens()
+void tst_EditPersonaleFile::afterAFileWithoutLinesAnotherOpens()
 {
     EditorUnderTest t(2, 2, 3);
     t.open("");
@@ -540,7 +540,7 @@ void TestEditPersonaleFile::afterAFileWithoutLinesAnotherOpens()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::theCopyRangeFollowsThePageCount()
+void tst_EditPersonaleFile::theCopyRangeFollowsThePageCount()
 {
     EditorUnderTest t(1, 1, 9);
     t.spin("impostaAspinBox")->setValue(8);
@@ -555,7 +555,7 @@ void TestEditPersonaleFile::theCopyRangeFollowsThePageCount()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::copyingToAPageOfAnotherSizeRebuildsIt()
+void tst_EditPersonaleFile::copyingToAPageOfAnotherSizeRebuildsIt()
 {
     EditorUnderTest t(1, 1, 1, 1, 6);
     t.open("\"NsIo\n!SSSSS\n\"nnnn\n");
@@ -591,7 +591,7 @@ void TestEditPersonaleFile::copyingToAPageOfAnotherSizeRebuildsIt()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::ticksOfARebuiltPageAreCounted()
+void tst_EditPersonaleFile::ticksOfARebuiltPageAreCounted()
 {
     EditorUnderTest t(1, 1, 1, 1, 1);
     t.open("!Nn\n!SSS\n");
@@ -605,7 +605,7 @@ void TestEditPersonaleFile::ticksOfARebuiltPageAreCounted()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-void TestEditPersonaleFile::loadedPagesAreCreated()
+void tst_EditPersonaleFile::loadedPagesAreCreated()
 {
     EditorUnderTest t(1, 1, 1);
     t.open("!NsO\n\"SIno\n");
@@ -620,5 +620,5 @@ void TestEditPersonaleFile::loadedPagesAreCreated()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
-QTEST_MAIN(TestEditPersonaleFile)
+QTEST_MAIN(tst_EditPersonaleFile)
 #include "tst_EditPersonaleFile.moc"

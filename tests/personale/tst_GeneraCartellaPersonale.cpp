@@ -86,7 +86,7 @@ QString columnMessage(int wanted, int number, int first, int last, int size)
 }
 } // namespace
 
-class TestGeneraCartellaPersonale : public QObject
+class tst_GeneraCartellaPersonale final : public QObject
 {
     Q_OBJECT
 
@@ -121,7 +121,7 @@ private slots:
     void thePageMessageKeepsItsPlaceholder();
 };
 
-void TestGeneraCartellaPersonale::noPagesAreAnError()
+void tst_GeneraCartellaPersonale::noPagesAreAnError()
 {
     GeneraCartellaPersonale generatore;
     std::vector<PaginaPersonale> pages;
@@ -132,7 +132,7 @@ void TestGeneraCartellaPersonale::noPagesAreAnError()
     QCOMPARE(cartella.getNumPages(), 0);
 }
 
-void TestGeneraCartellaPersonale::pagesOfOneBlockAreAppended()
+void tst_GeneraCartellaPersonale::pagesOfOneBlockAreAppended()
 {
     std::vector<PaginaPersonale> pages;
     for (int i = 0; i < 3; ++i) {
@@ -160,7 +160,7 @@ void TestGeneraCartellaPersonale::pagesOfOneBlockAreAppended()
     }
 }
 
-void TestGeneraCartellaPersonale::pagesOfDifferentSizesKeepTheirOrder()
+void tst_GeneraCartellaPersonale::pagesOfDifferentSizesKeepTheirOrder()
 {
     std::vector<PaginaPersonale> pages;
     const QList<QSize> sizes{{3, 2}, {3, 2}, {2, 3}, {3, 2}, {3, 4}, {3, 4}};
@@ -180,7 +180,7 @@ void TestGeneraCartellaPersonale::pagesOfDifferentSizesKeepTheirOrder()
     }
 }
 
-void TestGeneraCartellaPersonale::theFlagOfEachPageChoosesItsFilling()
+void tst_GeneraCartellaPersonale::theFlagOfEachPageChoosesItsFilling()
 {
     std::vector<PaginaPersonale> pages;
     for (int i = 0; i < 2; ++i) {
@@ -200,7 +200,7 @@ void TestGeneraCartellaPersonale::theFlagOfEachPageChoosesItsFilling()
     QCOMPARE(byColumn, (QVector<unsigned>{1, 2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
-void TestGeneraCartellaPersonale::aFailingPageEndsTheCreationAndThePagesStay()
+void tst_GeneraCartellaPersonale::aFailingPageEndsTheCreationAndThePagesStay()
 {
     std::vector<PaginaPersonale> pages;
     for (int i = 0; i < 3; ++i) {
@@ -221,7 +221,7 @@ void TestGeneraCartellaPersonale::aFailingPageEndsTheCreationAndThePagesStay()
     QCOMPARE(cell(*cartella.pagine[2], 0, 1).tipo, CELL_VUOTA);
 }
 
-void TestGeneraCartellaPersonale::wholePageNumbersAreDistinctAndInRange()
+void tst_GeneraCartellaPersonale::wholePageNumbersAreDistinctAndInRange()
 {
     PaginaPersonale page = schema(3, 9);
     for (int column = 0; column < 9; ++column) {
@@ -245,7 +245,7 @@ void TestGeneraCartellaPersonale::wholePageNumbersAreDistinctAndInRange()
     QCOMPARE(numbers.size(), 27);
 }
 
-void TestGeneraCartellaPersonale::wholePageNumbersAreUsedFromTheEndOfTheDraw()
+void tst_GeneraCartellaPersonale::wholePageNumbersAreUsedFromTheEndOfTheDraw()
 {
     PaginaPersonale page = schema(2, 2);
     tick(page, 0, 1);
@@ -263,7 +263,7 @@ void TestGeneraCartellaPersonale::wholePageNumbersAreUsedFromTheEndOfTheDraw()
     QCOMPARE(cell(*cartella.pagine[0], 1, 1).numero, drawn[0]);
 }
 
-void TestGeneraCartellaPersonale::untickedCellsStayEmpty()
+void tst_GeneraCartellaPersonale::untickedCellsStayEmpty()
 {
     PaginaPersonale page = schema(1, 3);
     tick(page, 0, 0);
@@ -284,7 +284,7 @@ void TestGeneraCartellaPersonale::untickedCellsStayEmpty()
     QCOMPARE(cell(byColumn.pagina(), 0, 2).tipo, CELL_VUOTA);
 }
 
-void TestGeneraCartellaPersonale::tickedCellsGetTheirType()
+void tst_GeneraCartellaPersonale::tickedCellsGetTheirType()
 {
     PaginaPersonale page = schema(1, 4);
     tick(page, 0, 0, CELL_NUMERO);
@@ -305,7 +305,7 @@ void TestGeneraCartellaPersonale::tickedCellsGetTheirType()
     QCOMPARE(box(page, 0, 1).text(), QString());
 }
 
-void TestGeneraCartellaPersonale::aPageWithoutNumbersIsAWarning()
+void tst_GeneraCartellaPersonale::aPageWithoutNumbersIsAWarning()
 {
     std::vector<PaginaPersonale> pages;
     pages.push_back(schema(1, 2));
@@ -323,7 +323,7 @@ void TestGeneraCartellaPersonale::aPageWithoutNumbersIsAWarning()
     QCOMPARE(log.warnings().size(), 2);
 }
 
-void TestGeneraCartellaPersonale::anImpossibleWholePageGetsZeros()
+void tst_GeneraCartellaPersonale::anImpossibleWholePageGetsZeros()
 {
     PaginaPersonale page = schema(1, 4);
     for (int column = 0; column < 4; ++column) {
@@ -343,7 +343,7 @@ void TestGeneraCartellaPersonale::anImpossibleWholePageGetsZeros()
     }
 }
 
-void TestGeneraCartellaPersonale::classicColumnsHoldTheirTens()
+void tst_GeneraCartellaPersonale::classicColumnsHoldTheirTens()
 {
     for (unsigned seed = 0; seed < 20; ++seed) {
         PaginaPersonale page = schema(9, 9);
@@ -369,7 +369,7 @@ void TestGeneraCartellaPersonale::classicColumnsHoldTheirTens()
     }
 }
 
-void TestGeneraCartellaPersonale::classicColumnsMayBeFull()
+void tst_GeneraCartellaPersonale::classicColumnsMayBeFull()
 {
     PaginaPersonale page = schema(11, 9);
     tickColumn(page, 0, 9);
@@ -384,7 +384,7 @@ void TestGeneraCartellaPersonale::classicColumnsMayBeFull()
     QCOMPARE(last, (QVector<unsigned>{80, 81, 82, 83, 84, 85, 86, 87, 88, 89, 90}));
 }
 
-void TestGeneraCartellaPersonale::aClassicColumnCannotHoldMoreThanItsRange_data()
+void tst_GeneraCartellaPersonale::aClassicColumnCannotHoldMoreThanItsRange_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<int>("wanted");
@@ -395,7 +395,7 @@ void TestGeneraCartellaPersonale::aClassicColumnCannotHoldMoreThanItsRange_data(
     QTest::newRow("last") << 8 << 12 << columnMessage(12, 9, 80, 90, 11);
 }
 
-void TestGeneraCartellaPersonale::aClassicColumnCannotHoldMoreThanItsRange()
+void tst_GeneraCartellaPersonale::aClassicColumnCannotHoldMoreThanItsRange()
 {
     QFETCH(int, column);
     QFETCH(int, wanted);
@@ -408,7 +408,7 @@ void TestGeneraCartellaPersonale::aClassicColumnCannotHoldMoreThanItsRange()
     QCOMPARE(cell(filled.pagina(), 0, column).tipo, CELL_VUOTA);
 }
 
-void TestGeneraCartellaPersonale::otherRangesAreSplitEvenly_data()
+void tst_GeneraCartellaPersonale::otherRangesAreSplitEvenly_data()
 {
     using Ranges = QVector<QPair<int, int>>;
     QTest::addColumn<int>("nmin");
@@ -424,7 +424,7 @@ void TestGeneraCartellaPersonale::otherRangesAreSplitEvenly_data()
 }
 
 // A column's whole range is drawn when it wants as many numbers, so the range itself is seen.
-void TestGeneraCartellaPersonale::otherRangesAreSplitEvenly()
+void tst_GeneraCartellaPersonale::otherRangesAreSplitEvenly()
 {
     QFETCH(int, nmin);
     QFETCH(int, nmax);
@@ -450,7 +450,7 @@ void TestGeneraCartellaPersonale::otherRangesAreSplitEvenly()
     }
 }
 
-void TestGeneraCartellaPersonale::theLastColumnIsCheckedAgainstTheStepFirst()
+void tst_GeneraCartellaPersonale::theLastColumnIsCheckedAgainstTheStepFirst()
 {
     PaginaPersonale two = schema(3, 5);
     QSet<unsigned> seen;
@@ -471,7 +471,7 @@ void TestGeneraCartellaPersonale::theLastColumnIsCheckedAgainstTheStepFirst()
     QCOMPARE(three.errore, columnMessage(3, 5, 9, 10, 2));
 }
 
-void TestGeneraCartellaPersonale::theLastColumnIsCheckedAgainstItsFinalSizeToo()
+void tst_GeneraCartellaPersonale::theLastColumnIsCheckedAgainstItsFinalSizeToo()
 {
     PaginaPersonale page = schema(3, 4);
     tickColumn(page, 3, 2);
@@ -486,7 +486,7 @@ void TestGeneraCartellaPersonale::theLastColumnIsCheckedAgainstItsFinalSizeToo()
     QCOMPARE(behind.errore, columnMessage(0, 20, 39, 30, -8));
 }
 
-void TestGeneraCartellaPersonale::aMiddleColumnOfAnEvenSplitCanFail()
+void tst_GeneraCartellaPersonale::aMiddleColumnOfAnEvenSplitCanFail()
 {
     PaginaPersonale page = schema(3, 5);
     tickColumn(page, 0, 2);
@@ -501,7 +501,7 @@ void TestGeneraCartellaPersonale::aMiddleColumnOfAnEvenSplitCanFail()
     QCOMPARE(first.errore, columnMessage(3, 1, 1, 2, 2));
 }
 
-void TestGeneraCartellaPersonale::columnNumbersAreUsedFromTheEndOfTheDraw()
+void tst_GeneraCartellaPersonale::columnNumbersAreUsedFromTheEndOfTheDraw()
 {
     PaginaPersonale page = schema(4, 9);
     tick(page, 0, 3);
@@ -519,7 +519,7 @@ void TestGeneraCartellaPersonale::columnNumbersAreUsedFromTheEndOfTheDraw()
     QCOMPARE(cell(filled.pagina(), 3, 3).numero, drawn[0]);
 }
 
-void TestGeneraCartellaPersonale::aColumnWithoutNumbersGetsItsTypes()
+void tst_GeneraCartellaPersonale::aColumnWithoutNumbersGetsItsTypes()
 {
     PaginaPersonale page = schema(2, 9);
     tick(page, 0, 2, CELL_TESTO);
@@ -533,7 +533,7 @@ void TestGeneraCartellaPersonale::aColumnWithoutNumbersGetsItsTypes()
     QCOMPARE(log.warnings(), QStringList()); // nothing was drawn
 }
 
-void TestGeneraCartellaPersonale::aPageWithoutColumnsIsFilledAtOnce()
+void tst_GeneraCartellaPersonale::aPageWithoutColumnsIsFilledAtOnce()
 {
     PaginaPersonale page = schema(30, 0);
     Filled filled(page, 1, 90);
@@ -541,14 +541,14 @@ void TestGeneraCartellaPersonale::aPageWithoutColumnsIsFilledAtOnce()
     QCOMPARE(filled.errore, QString());
 }
 
-void TestGeneraCartellaPersonale::theColumnMessageOfNoColumn()
+void tst_GeneraCartellaPersonale::theColumnMessageOfNoColumn()
 {
     const GeneraCartellaPersonale generatore;
     QCOMPARE(generatore.messaggioColonna(-1, {}, {}, 9), QStringLiteral("?"));
     QCOMPARE(generatore.messaggioColonna(1, {0, 12}, {{1, 9}, {10, 19}}, 10), columnMessage(12, 2, 10, 19, 10));
 }
 
-void TestGeneraCartellaPersonale::thePageMessageKeepsItsPlaceholder()
+void tst_GeneraCartellaPersonale::thePageMessageKeepsItsPlaceholder()
 {
     const GeneraCartellaPersonale generatore;
     LogCapture log; // the argument has no place
@@ -556,5 +556,5 @@ void TestGeneraCartellaPersonale::thePageMessageKeepsItsPlaceholder()
              QStringLiteral("Generazione numeri:\nErrore durante l'aggiunta della pagina %i."));
 }
 
-QTEST_MAIN(TestGeneraCartellaPersonale)
+QTEST_MAIN(tst_GeneraCartellaPersonale)
 #include "tst_GeneraCartellaPersonale.moc"

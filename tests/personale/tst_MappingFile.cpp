@@ -44,7 +44,7 @@ const QString &sampleLine()
 }
 } // namespace
 
-class TestMappingFile : public QObject
+class tst_MappingFile final : public QObject
 {
     Q_OBJECT
 
@@ -73,7 +73,7 @@ private slots:
     void aLongListOfSkippedLinesIsCut();
 };
 
-void TestMappingFile::everyTypeHasItsLetter_data()
+void tst_MappingFile::everyTypeHasItsLetter_data()
 {
     QTest::addColumn<int>("tipo");
     QTest::addColumn<QChar>("letter");
@@ -83,7 +83,7 @@ void TestMappingFile::everyTypeHasItsLetter_data()
     QTest::newRow("empty") << 3 << QChar(u'o');
 }
 
-void TestMappingFile::everyTypeHasItsLetter()
+void tst_MappingFile::everyTypeHasItsLetter()
 {
     QFETCH(int, tipo);
     QFETCH(QChar, letter);
@@ -96,7 +96,7 @@ void TestMappingFile::everyTypeHasItsLetter()
     QCOMPARE(cellOf(letter.toUpper()).spuntata, true);
 }
 
-void TestMappingFile::anUnknownTypeIsAQuestionMark()
+void tst_MappingFile::anUnknownTypeIsAQuestionMark()
 {
     for (const bool ticked : {true, false}) {
         QCOMPARE(letterOf({static_cast<CELL_VALUE>(4), ticked}), QChar(u'?'));
@@ -104,7 +104,7 @@ void TestMappingFile::anUnknownTypeIsAQuestionMark()
     }
 }
 
-void TestMappingFile::strangeLettersAreUntickedEmptyCells_data()
+void tst_MappingFile::strangeLettersAreUntickedEmptyCells_data()
 {
     QTest::addColumn<QChar>("letter");
     QTest::newRow("question mark") << QChar(u'?');
@@ -116,14 +116,14 @@ void TestMappingFile::strangeLettersAreUntickedEmptyCells_data()
     QTest::newRow("half of a pair") << QChar(0xd83d);
 }
 
-void TestMappingFile::strangeLettersAreUntickedEmptyCells()
+void tst_MappingFile::strangeLettersAreUntickedEmptyCells()
 {
     QFETCH(QChar, letter);
     QCOMPARE(cellOf(letter).tipo, CELL_VUOTA);
     QCOMPARE(cellOf(letter).spuntata, false);
 }
 
-void TestMappingFile::aPageIsOneLine()
+void tst_MappingFile::aPageIsOneLine()
 {
     SchemaPagina page = blank(3, 9);
     for (size_t i = 0; i < 9; ++i) {
@@ -142,7 +142,7 @@ void TestMappingFile::aPageIsOneLine()
     QCOMPARE(written(page).at(10), QChar(u'O'));
 }
 
-void TestMappingFile::aPageIsReadBack()
+void tst_MappingFile::aPageIsReadBack()
 {
     const Lettura reading = readText(sampleLine() + QLatin1Char('\n'));
     QVERIFY(reading.saltate.empty());
@@ -158,7 +158,7 @@ void TestMappingFile::aPageIsReadBack()
     QCOMPARE(ticked.pagine[0].celle[1].tipo, CELL_VUOTA);
 }
 
-void TestMappingFile::theRowCountIsACharacter_data()
+void tst_MappingFile::theRowCountIsACharacter_data()
 {
     QTest::addColumn<int>("rows");
     QTest::addColumn<QChar>("first");
@@ -169,7 +169,7 @@ void TestMappingFile::theRowCountIsACharacter_data()
     QTest::newRow("223, the last of Latin-1") << 223 << QChar(255);
 }
 
-void TestMappingFile::theRowCountIsACharacter()
+void tst_MappingFile::theRowCountIsACharacter()
 {
     QFETCH(int, rows);
     QFETCH(QChar, first);
@@ -182,7 +182,7 @@ void TestMappingFile::theRowCountIsACharacter()
     QCOMPARE(int(reading.pagine[0].nColonne), 1);
 }
 
-void TestMappingFile::columnsFollowFromTheLengthModulo256_data()
+void tst_MappingFile::columnsFollowFromTheLengthModulo256_data()
 {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("columns");
@@ -194,7 +194,7 @@ void TestMappingFile::columnsFollowFromTheLengthModulo256_data()
     QTest::newRow("261 cells on 1 row would be") << 3 << 87 << 1;
 }
 
-void TestMappingFile::columnsFollowFromTheLengthModulo256()
+void tst_MappingFile::columnsFollowFromTheLengthModulo256()
 {
     QFETCH(int, rows);
     QFETCH(int, columns);
@@ -206,14 +206,14 @@ void TestMappingFile::columnsFollowFromTheLengthModulo256()
     QCOMPARE(int(reading.pagine[0].celle.size()), rows * columnsReadBack);
 }
 
-void TestMappingFile::lettersBeyondTheCellsAreIgnored()
+void tst_MappingFile::lettersBeyondTheCellsAreIgnored()
 {
     const Lettura reading = readText(QStringLiteral("#NNNss"));
     QCOMPARE(int(reading.pagine[0].nColonne), 1);
     QCOMPARE(letters(reading.pagine[0]), QStringLiteral("NNN"));
 }
 
-void TestMappingFile::aRowCountAboveLatin1CountsAsZero()
+void tst_MappingFile::aRowCountAboveLatin1CountsAsZero()
 {
     const Lettura reading = readText(QChar(0x20ac) + QString(230, QLatin1Char('N')));
     QCOMPARE(reading.pagine.size(), size_t(1));
@@ -221,7 +221,7 @@ void TestMappingFile::aRowCountAboveLatin1CountsAsZero()
     QCOMPARE(int(reading.pagine[0].nColonne), 1);
 }
 
-void TestMappingFile::everyLineIsAPage()
+void tst_MappingFile::everyLineIsAPage()
 {
     const Lettura reading = readText(QStringLiteral("!N\n\"NsIo\n!n"));
     QVERIFY(reading.saltate.empty());
@@ -234,7 +234,7 @@ void TestMappingFile::everyLineIsAPage()
     QVERIFY(readText(QString()).saltate.empty());
 }
 
-void TestMappingFile::lineEndsOfWindowsAreRead()
+void tst_MappingFile::lineEndsOfWindowsAreRead()
 {
     const Lettura reading = readText(QStringLiteral("!NN\r\n!S\r\n"));
     QCOMPARE(reading.pagine.size(), size_t(2));
@@ -242,7 +242,7 @@ void TestMappingFile::lineEndsOfWindowsAreRead()
     QCOMPARE(letters(reading.pagine[1]), QStringLiteral("S"));
 }
 
-void TestMappingFile::theLinesReadAreCounted()
+void tst_MappingFile::theLinesReadAreCounted()
 {
     QString text = QStringLiteral("!N\n\n!S\n");
     QTextStream stream(&text, QIODevice::ReadOnly);
@@ -251,7 +251,7 @@ void TestMappingFile::theLinesReadAreCounted()
     QCOMPARE(counts, (QVector<int>{1, 2, 3}));
 }
 
-void TestMappingFile::oddLinesAreSkipped_data()
+void tst_MappingFile::oddLinesAreSkipped_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("reason");
@@ -265,7 +265,7 @@ void TestMappingFile::oddLinesAreSkipped_data()
         << QString(QChar(0x20ac)) + QStringLiteral("NN") << int(Motivo::TroppoCorta);
 }
 
-void TestMappingFile::oddLinesAreSkipped()
+void tst_MappingFile::oddLinesAreSkipped()
 {
     QFETCH(QString, line);
     QFETCH(int, reason);
@@ -279,7 +279,7 @@ void TestMappingFile::oddLinesAreSkipped()
     QCOMPARE(int(reading.saltate[0].motivo), reason);
 }
 
-void TestMappingFile::neighbouringLinesSkippedForOneReasonAreOneEntry()
+void tst_MappingFile::neighbouringLinesSkippedForOneReasonAreOneEntry()
 {
     const Lettura reading = readText(QStringLiteral("\n\n\n!N\n\n#\n"));
     QCOMPARE(reading.saltate.size(), size_t(3));
@@ -290,7 +290,7 @@ void TestMappingFile::neighbouringLinesSkippedForOneReasonAreOneEntry()
     QCOMPARE(reading.saltate[2].prima, 6);
 }
 
-void TestMappingFile::noMoreThan65535PagesAreRead()
+void tst_MappingFile::noMoreThan65535PagesAreRead()
 {
     const Lettura reading = readText(QStringLiteral("!N\n").repeated(65535) + QStringLiteral("!S\n!S\n"));
     QCOMPARE(reading.pagine.size(), size_t(65535));
@@ -301,7 +301,7 @@ void TestMappingFile::noMoreThan65535PagesAreRead()
     QCOMPARE(int(reading.saltate[0].motivo), int(Motivo::TroppePagine));
 }
 
-void TestMappingFile::theSkippedLinesAreDescribed()
+void tst_MappingFile::theSkippedLinesAreDescribed()
 {
     QCOMPARE(describe({{1, 3, Motivo::Vuota},
                        {5, 5, Motivo::SenzaRighe},
@@ -314,7 +314,7 @@ void TestMappingFile::theSkippedLinesAreDescribed()
                             "Righe da 65536 a 70000: oltre il massimo di 65535 pagine."));
 }
 
-void TestMappingFile::aLongListOfSkippedLinesIsCut()
+void tst_MappingFile::aLongListOfSkippedLinesIsCut()
 {
     std::vector<RigheSaltate> many;
     for (int line = 1; line <= 600; ++line) {
@@ -326,5 +326,5 @@ void TestMappingFile::aLongListOfSkippedLinesIsCut()
     QCOMPARE(lines.last(), QStringLiteral("L'elenco continua fino alla riga 1200."));
 }
 
-QTEST_GUILESS_MAIN(TestMappingFile)
+QTEST_GUILESS_MAIN(tst_MappingFile)
 #include "tst_MappingFile.moc"

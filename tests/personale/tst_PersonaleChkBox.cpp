@@ -69,7 +69,7 @@ QPalette darkPalette()
 }
 } // namespace
 
-class TestPersonaleChkBox : public QObject
+class tst_PersonaleChkBox final : public QObject
 {
     Q_OBJECT
 
@@ -93,7 +93,7 @@ private slots:
     void aNumberIsTheTextShownOrNot();
 };
 
-void TestPersonaleChkBox::aNewBoxIsAnUntickedEmptyCell()
+void tst_PersonaleChkBox::aNewBoxIsAnUntickedEmptyCell()
 {
     const PersonaleChkBox box;
     QCOMPARE(box.tipo, CELL_VUOTA);
@@ -106,7 +106,7 @@ void TestPersonaleChkBox::aNewBoxIsAnUntickedEmptyCell()
     QVERIFY(box.parentWidget() == nullptr);
 }
 
-void TestPersonaleChkBox::thePositionIsToldFromOne()
+void tst_PersonaleChkBox::thePositionIsToldFromOne()
 {
     PersonaleChkBox box;
     box.setPosition(2, 8);
@@ -117,7 +117,7 @@ void TestPersonaleChkBox::thePositionIsToldFromOne()
     QCOMPARE(box.toolTip(), QStringLiteral("255,255"));
 }
 
-void TestPersonaleChkBox::theStatusTipNamesTheType_data()
+void tst_PersonaleChkBox::theStatusTipNamesTheType_data()
 {
     QTest::addColumn<int>("tipo");
     QTest::addColumn<QString>("name");
@@ -127,7 +127,7 @@ void TestPersonaleChkBox::theStatusTipNamesTheType_data()
     QTest::newRow("empty") << 3 << QStringLiteral("Vuota");
 }
 
-void TestPersonaleChkBox::theStatusTipNamesTheType()
+void tst_PersonaleChkBox::theStatusTipNamesTheType()
 {
     QFETCH(int, tipo);
     QFETCH(QString, name);
@@ -138,7 +138,7 @@ void TestPersonaleChkBox::theStatusTipNamesTheType()
     QCOMPARE(box.statusTip(), name);
 }
 
-void TestPersonaleChkBox::settingTheSameTypeLeavesTheStatusTip()
+void tst_PersonaleChkBox::settingTheSameTypeLeavesTheStatusTip()
 {
     PersonaleChkBox box;
     box.setTipo(CELL_TESTO);
@@ -147,7 +147,7 @@ void TestPersonaleChkBox::settingTheSameTypeLeavesTheStatusTip()
     QCOMPARE(box.statusTip(), QStringLiteral("other"));
 }
 
-void TestPersonaleChkBox::theNamesAreTranslatedInTheContextOfTheClass()
+void tst_PersonaleChkBox::theNamesAreTranslatedInTheContextOfTheClass()
 {
     EchoTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
@@ -160,7 +160,7 @@ void TestPersonaleChkBox::theNamesAreTranslatedInTheContextOfTheClass()
     QCOMPARE(number, QStringLiteral("PersonaleChkBox:Numero"));
 }
 
-void TestPersonaleChkBox::anUnknownTypeStopsTheProgram()
+void tst_PersonaleChkBox::anUnknownTypeStopsTheProgram()
 {
     const QString text = fatalMessageOf([]() {
         PersonaleChkBox box;
@@ -169,7 +169,7 @@ void TestPersonaleChkBox::anUnknownTypeStopsTheProgram()
     QCOMPARE(text, QStringLiteral("CELL_TYPE UNKNOWN"));
 }
 
-void TestPersonaleChkBox::everyChangeOfTheTickIsReported()
+void tst_PersonaleChkBox::everyChangeOfTheTickIsReported()
 {
     PersonaleChkBox box;
     box.setPosition(4, 7);
@@ -187,7 +187,7 @@ void TestPersonaleChkBox::everyChangeOfTheTickIsReported()
     }
 }
 
-void TestPersonaleChkBox::aRightClickIsReportedAndLeavesTheTick()
+void tst_PersonaleChkBox::aRightClickIsReportedAndLeavesTheTick()
 {
     for (const bool ticked : {true, false}) {
         PersonaleChkBox box;
@@ -209,7 +209,7 @@ void TestPersonaleChkBox::aRightClickIsReportedAndLeavesTheTick()
     }
 }
 
-void TestPersonaleChkBox::aLeftClickTicks()
+void tst_PersonaleChkBox::aLeftClickTicks()
 {
     PersonaleChkBox box;
     box.show();
@@ -221,7 +221,7 @@ void TestPersonaleChkBox::aLeftClickTicks()
     QCOMPARE(clicks.size(), 0);
 }
 
-void TestPersonaleChkBox::arrowsMoveToTheNeighbours()
+void tst_PersonaleChkBox::arrowsMoveToTheNeighbours()
 {
     Grid grid;
     grid.at(1, 1).setFocus();
@@ -235,7 +235,7 @@ void TestPersonaleChkBox::arrowsMoveToTheNeighbours()
     QCOMPARE(QApplication::focusWidget(), &grid.at(1, 1));
 }
 
-void TestPersonaleChkBox::arrowsStayAtTheEdges()
+void tst_PersonaleChkBox::arrowsStayAtTheEdges()
 {
     Grid grid;
     grid.at(0, 0).setFocus();
@@ -252,7 +252,7 @@ void TestPersonaleChkBox::arrowsStayAtTheEdges()
     QVERIFY(!alone.isChecked());
 }
 
-void TestPersonaleChkBox::spaceTicks()
+void tst_PersonaleChkBox::spaceTicks()
 {
     Grid grid;
     grid.at(1, 1).setFocus();
@@ -260,14 +260,14 @@ void TestPersonaleChkBox::spaceTicks()
     QVERIFY(grid.at(1, 1).isChecked());
 }
 
-void TestPersonaleChkBox::typeAndTickAreSeen_data()
+void tst_PersonaleChkBox::typeAndTickAreSeen_data()
 {
     QTest::addColumn<QPalette>("palette");
     QTest::newRow("light") << QPalette(QColor(239, 239, 239));
     QTest::newRow("dark") << darkPalette();
 }
 
-void TestPersonaleChkBox::typeAndTickAreSeen()
+void tst_PersonaleChkBox::typeAndTickAreSeen()
 {
     QFETCH(QPalette, palette);
     QList<QImage> seen;
@@ -284,7 +284,7 @@ void TestPersonaleChkBox::typeAndTickAreSeen()
     }
 }
 
-void TestPersonaleChkBox::aNumberIsPaintedAsItsText()
+void tst_PersonaleChkBox::aNumberIsPaintedAsItsText()
 {
     PersonaleChkBox box;
     const int emptyWidth = box.sizeHint().width();
@@ -298,7 +298,7 @@ void TestPersonaleChkBox::aNumberIsPaintedAsItsText()
     QVERIFY(box.sizeHint().width() > emptyWidth);
 }
 
-void TestPersonaleChkBox::aNumberIsTheTextShownOrNot()
+void tst_PersonaleChkBox::aNumberIsTheTextShownOrNot()
 {
     PersonaleChkBox box;
     const QCheckBox &base = box;
@@ -320,5 +320,5 @@ void TestPersonaleChkBox::aNumberIsTheTextShownOrNot()
     QCOMPARE(base.text(), QStringLiteral("90"));
 }
 
-QTEST_MAIN(TestPersonaleChkBox)
+QTEST_MAIN(tst_PersonaleChkBox)
 #include "tst_PersonaleChkBox.moc"
