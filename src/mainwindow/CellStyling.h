@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/Cartella.h"
+#include "model/Positions.h"
 
 #include <functional>
 
 // Which pages, blocks and cells a command of the style panels reaches. All indices are 0-based.
-
-// A place of the page table.
-struct TablePosition
-{
-    int row = 0;
-    int column = 0;
-};
 
 // The page shown alone, or all pages. None when there is no such page.
 [[nodiscard]] QVector<Pagina *> reachedPages(const QVector<Pagina *> &pages, int shown, bool allPages);

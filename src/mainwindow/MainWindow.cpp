@@ -3,8 +3,8 @@
 
 #include "generation/GUtils.h"
 #include "generation/GeneraCartellaClassica.h"
-#include "mainwindow/WaitCursor.h"
 #include "msgarea/MsgArea.h"
+#include "msgarea/WaitCursor.h"
 #include "output/CreateOutputFile.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generation/GeneraCartellaClassica.h"
 #include "mainwindow/MainWindow.h"
-#include "mainwindow/WaitCursor.h"
+#include "msgarea/WaitCursor.h"
 #include "personale/EditPersonale.h"
 #include "ui_MainWindow.h"
 

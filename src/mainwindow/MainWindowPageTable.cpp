@@ -2,7 +2,8 @@
 #include "mainwindow/MainWindow.h"
 
 #include "mainwindow/PageTable.h"
-#include "mainwindow/WaitCursor.h"
+#include "model/Positions.h"
+#include "msgarea/WaitCursor.h"
 #include "settings/Config.h"
 #include "ui_MainWindow.h"
 

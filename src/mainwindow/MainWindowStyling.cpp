@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
-#include "mainwindow/WaitCursor.h"
 #include "msgarea/MsgArea.h"
+#include "msgarea/WaitCursor.h"
 #include "ui_MainWindow.h"
 
 #include <QColorDialog>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/Cartella.h"
 
+#include "model/Positions.h"
+
 #include <QDebug>
 
 #include <algorithm>
@@ -156,18 +158,15 @@ int Cartella::fromPage_Abs2Rel_BlockNum(quint16 page, int absRow, U8 &block, U8 
         qWarning() << "Cartella::fromPage_Abs2Rel_BlockNum: Pagina hasn't blocks!";
         return -1;
     }
-    int firstRow = 0; // of block b, counted over the page
-    for (int b = 0; b < owner.nBlocchi; ++b) {
-        const int endRow = firstRow + owner.blocchi[b].nRighe;
-        if (absRow < endRow) {
-            block = static_cast<U8>(b);
-            relRow = static_cast<U8>(absRow - firstRow);
-            return 1;
-        }
-        firstRow = endRow;
+    const std::optional<RowPosition> position = rowPosition(owner, absRow);
+    if (!position) {
+        qWarning()
+            << "Cartella::fromPage_Abs2Rel_BlockNum: Absolute rows number is greater than pagina's block number!";
+        return -1;
     }
-    qWarning() << "Cartella::fromPage_Abs2Rel_BlockNum: Absolute rows number is greater than pagina's block number!";
-    return -1;
+    block = static_cast<U8>(position->block);
+    relRow = static_cast<U8>(position->row);
+    return 1;
 }
 
 QString Cartella::cellType2String(CELL_VALUE type) const

@@ -2,7 +2,7 @@
 #include "personale/EditPersonale.h"
 
 #include "generation/GUtils.h"
-#include "mainwindow/WaitCursor.h"
+#include "msgarea/WaitCursor.h"
 #include "personale/GeneraCartellaPersonale.h"
 #include "resources/Resources.h"
 #include "settings/Product.h"

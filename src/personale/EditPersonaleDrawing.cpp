@@ -2,7 +2,7 @@
 // The commands that draw: the selection, its ticks and types, the copy of a scheme to other pages.
 #include "personale/EditPersonale.h"
 
-#include "mainwindow/WaitCursor.h"
+#include "msgarea/WaitCursor.h"
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 

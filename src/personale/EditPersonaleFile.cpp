@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "personale/EditPersonale.h"
 
-#include "mainwindow/WaitCursor.h"
 #include "msgarea/MsgArea.h"
+#include "msgarea/WaitCursor.h"
 #include "personale/MappingFile.h"
 #include "settings/Config.h"
 #include "settings/Product.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mainwindow/MainWindow.h"
-#include "mainwindow/PageTable.h"
+#include "model/Positions.h"
 #include "settings/Config.h"
 #include "support/BoxScript.h"
 #include "support/ScratchFolder.h"

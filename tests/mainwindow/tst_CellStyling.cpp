@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/CellStyling.h"
 
-#include "mainwindow/PageTable.h"
-
 #include <QtTest>
 
 namespace {
