@@ -5,7 +5,7 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation>Seite %1 Karte %2 = Seite %3 Karte %4</translation>
+        <translation>Seite %1, Karte %2 = Seite %3, Karte %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
@@ -15,7 +15,7 @@ Blocchi uguali: %4 (%5%)</source>
         <translation>Geprüfte Karten: %1
 Vergleiche zwischen Karten: %2
 Geprüfte Felder: %3
-Gleiche Karten: %4 (%5%)</translation>
+Gleiche Karten: %4 (%5&#xa0;%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
@@ -60,7 +60,7 @@ Die Karten einer Seite sind immer verschieden.</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation>PDF: Seite %1 von %2 wird gedruckt (%3%)...</translation>
+        <translation>PDF: Seite %1 von %2 wird gedruckt (%3&#xa0;%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
@@ -112,12 +112,12 @@ Seitengröße: %6</translation>
         <translation>Anzahl der Seiten</translation>
     </message>
     <message>
-        <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
+        <source>I numeri di questa pagina sono estratti colonna per colonna, ciascuna con il proprio intervallo</source>
         <translation>Die Zahlen dieser Seite werden spaltenweise gezogen, jede Spalte aus ihrem eigenen Bereich</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation>Zahlen nach Spalten ordnen</translation>
+        <translation>Zahlen spaltenweise ziehen</translation>
     </message>
     <message>
         <source>Selezione</source>
@@ -172,7 +172,7 @@ Seitengröße: %6</translation>
         <translation>Füllen</translation>
     </message>
     <message>
-        <source>Toglie la spunta alle celle della selezione</source>
+        <source>Toglie la spunta dalle celle della selezione</source>
         <translation>Kreuze der ausgewählten Felder entfernen</translation>
     </message>
     <message>
@@ -181,7 +181,7 @@ Seitengröße: %6</translation>
     </message>
     <message>
         <source>Inverte la spunta delle celle della selezione</source>
-        <translation>Angekreuzte und leere Felder der Auswahl vertauschen</translation>
+        <translation>Angekreuzte und nicht angekreuzte Felder der Auswahl vertauschen</translation>
     </message>
     <message>
         <source>Inverti</source>
@@ -217,11 +217,11 @@ Seitengröße: %6</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Legt den Typ der oben ausgewählten Felder fest!&lt;/p&gt;&lt;p&gt;Einzelne Felder werden mit der rechten Maustaste geändert.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Den Typ der oben ausgewählten Felder festlegen!&lt;/p&gt;&lt;p&gt;Einzelne Felder werden mit der rechten Maustaste geändert.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
-        <translation>Auswahl setzen</translation>
+        <translation>Auf Auswahl anwenden</translation>
     </message>
     <message>
         <source>Schema corrente</source>
@@ -288,8 +288,8 @@ Seitengröße: %6</translation>
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation>Seitenbelegung in einer Datei speichern. Eine Seite mit mehr als 255 Feldern kann nicht vollständig wieder gelesen werden, und die Ordnung der Zahlen nach Spalten wird nicht gespeichert.</translation>
+        <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Seitenbelegung in einer Datei speichern. Eine Seite mit mehr als 255 Feldern kann nicht vollständig wieder gelesen werden, und die Option &quot;Zahlen spaltenweise ziehen&quot; wird nicht gespeichert.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -345,7 +345,7 @@ Seitengröße: %6</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation>Möchten Sie wirklich schließen?</translation>
+        <translation>Möchten Sie das Fenster wirklich schließen?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
@@ -381,7 +381,7 @@ Größe: %5 Bytes (%6 MB)
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation>Beim Öffnen eines anderen Projekts geht die gesamte laufende Arbeit verloren. Fortfahren?</translation>
+        <translation>Beim Öffnen einer anderen Belegung geht die gesamte laufende Arbeit verloren. Fortfahren?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
@@ -403,6 +403,10 @@ Größe: %5 Bytes (%6 MB)
         <source>Sto caricando la pagina %1 di %2</source>
         <translation>Lade Seite %1 von %2</translation>
     </message>
+    <message>
+        <source>Salva lo schema delle pagine su file</source>
+        <translation>Seitenbelegung in einer Datei speichern</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -415,8 +419,8 @@ Größe: %5 Bytes (%6 MB)
         <translation>Sprache wählen:</translation>
     </message>
     <message>
-        <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation>Sprache des Programms und der Kommentare in den Einstellungen</translation>
+        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
+        <translation>Sprache des Programms bis zum Beenden und der Kommentare in den Einstellungen; spätere Starts verwenden die Systemsprache</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
@@ -464,7 +468,7 @@ Größe: %5 Bytes (%6 MB)
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation>Klassisch - Joker pro Reihe</translation>
+        <translation>Klassisch - Bilder (Joker) pro Reihe</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
@@ -488,7 +492,7 @@ Größe: %5 Bytes (%6 MB)
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation>Die Datei kann nicht kommentiert werden, falsches Format!</translation>
+        <translation>Kommentare können nicht in die Datei geschrieben werden: falsches Format!</translation>
     </message>
     <message>
         <source>Continua con queste impostazioni</source>
@@ -510,10 +514,10 @@ Größe: %5 Bytes (%6 MB)
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation>Erzeugung nach Spalten:
-%1 Zahlen können in Spalte Nr. %2 nicht erzeugt werden
-Die Spalte braucht %3 verschiedene Zahlen zwischen %4 und %5
-aber das ist unmöglich, da der Bereich nur %6 Zahlen umfasst.</translation>
+        <translation>Spaltenweise Erzeugung:
+Zu viele Zahlen (%1) für Spalte Nr. %2
+Die Spalte braucht so viele verschiedene Zahlen (%3) zwischen %4 und %5,
+aber das ist unmöglich, da der Bereich weniger umfasst (%6).</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -534,7 +538,7 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
     <message>
         <source>Numero di pagine</source>
-        <translation>Seitenzahl</translation>
+        <translation>Anzahl der Seiten</translation>
     </message>
     <message>
         <source>Numero totale di pagine (cartelle)</source>
@@ -634,7 +638,7 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
     <message>
         <source>Numero di pagine della cartella</source>
-        <translation>Seitenzahl des Kartensatzes</translation>
+        <translation>Anzahl der Seiten des Kartensatzes</translation>
     </message>
     <message>
         <source>Elimina la pagina visualizzata</source>
@@ -878,7 +882,7 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
     <message>
         <source>Informazioni</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
@@ -922,7 +926,7 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <source>Generatore di cartelle per la Quintra.
 Advanced Bingo cards generator.</source>
         <translation>Kartengenerator für Quintra.
-Bingokarten mit allen Möglichkeiten.</translation>
+Vielseitiger Generator für Bingokarten.</translation>
     </message>
     <message>
         <source>Modifica valori</source>
@@ -942,13 +946,13 @@ Bingokarten mit allen Möglichkeiten.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation>Möchten Sie das Feld als LEERES FELD festlegen?</translation>
+        <translation>Möchten Sie daraus ein LEERES FELD machen?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation>Feld als BILD festgelegt.
-Der Pfad des Bildes muss in der Seitenleiste gewählt werden.</translation>
+        <translation>Das Feld ist jetzt ein BILD.
+Wählen Sie die Bilddatei in der Seitenleiste.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
@@ -984,7 +988,7 @@ Der Pfad des Bildes muss in der Seitenleiste gewählt werden.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Kartensatz erzeugt: Seiten %1, Karten pro Seite %2 (%3X%4)</translation>
+        <translation>Kartensatz erzeugt - Seiten: %1, Karten pro Seite: %2 (%3×%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1004,7 +1008,7 @@ Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Kartensatz wird erstellt: Seiten %1, Karten pro Seite %2 (%3X%4)...</translation>
+        <translation>Kartensatz wird erstellt - Seiten: %1, Karten pro Seite: %2 (%3×%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1143,27 +1147,27 @@ Vuoi visualizzarli?</source>
 Möchten Sie sie ansehen?</translation>
     </message>
     <message>
-        <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation>... und %1 weitere Paare gleicher Karten.</translation>
+        <source>... e altre coppie di blocchi uguali: %1.</source>
+        <translation>... und weitere Paare gleicher Karten: %1.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
-        <source>riga vuota</source>
-        <translation>leere Zeile</translation>
+        <source>nessun contenuto</source>
+        <translation>kein Inhalt</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
         <translation>das erste Zeichen gibt nicht die Anzahl der Reihen der Seite an</translation>
     </message>
     <message>
-        <source>troppo corta per le celle della pagina</source>
-        <translation>zu kurz für die Felder der Seite</translation>
+        <source>caratteri insufficienti per le celle della pagina</source>
+        <translation>zu wenige Zeichen für die Felder der Seite</translation>
     </message>
     <message>
-        <source>oltre il massimo di %1 pagine</source>
-        <translation>über dem Höchstwert von %1 Seiten</translation>
+        <source>oltre il numero massimo di pagine (%1)</source>
+        <translation>über der Höchstzahl der Seiten (%1)</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
@@ -1278,35 +1282,35 @@ Möchten Sie sie ansehen?</translation>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation>%1 belegte Felder sind mit nur %2 Zahlen nicht möglich.</translation>
+        <translation>Zu wenige Zahlen (%2) für die zu belegenden Felder (%1).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation>%1 Joker passen nicht in nur %2 Spalten.</translation>
+        <translation>Zu viele Bilder (%1) für die Spalten (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation>%1 Texte passen nicht in nur %2 Spalten.</translation>
+        <translation>Zu viele Texte (%1) für die Spalten (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation>%1 Texte und Bilder passen nicht in nur %2 Spalten.</translation>
+        <translation>Zu viele Texte und Bilder (%1) für die Spalten (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation>%1 Joker passen nicht in nur %2 belegte Felder.</translation>
+        <translation>Zu viele Bilder (%1) für die belegten Felder pro Reihe (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation>%1 Texte passen nicht in nur %2 belegte Felder.</translation>
+        <translation>Zu viele Texte (%1) für die belegten Felder pro Reihe (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation>%1 Texte und Bilder passen nicht in nur %2 belegte Felder.</translation>
+        <translation>Zu viele Texte und Bilder (%1) für die belegten Felder pro Reihe (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation>%1 Zahlen passen nicht in nur %2 Spalten.</translation>
+        <translation>Zu viele belegte Felder pro Reihe (%1) für die Spalten (%2).</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)

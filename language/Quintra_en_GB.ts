@@ -5,7 +5,7 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation>Page %1 card %2 = Page %3 card %4</translation>
+        <translation>Page %1, card %2 = Page %3, card %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
@@ -21,7 +21,7 @@ Identical cards: %4 (%5%)</translation>
         <source>La cartella e&apos; vuota od ha solo una pagina.
 I blocchi di una pagina sono sempre diversi.</source>
         <translation>The card set is empty or has only one page.
-The cards of a page are always different.</translation>
+The cards on a page are always different.</translation>
     </message>
     <message>
         <source>Confronto pagina %1 di %2</source>
@@ -112,12 +112,12 @@ Page size: %6</translation>
         <translation>The number of pages</translation>
     </message>
     <message>
-        <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
-        <translation>The numbers of this page are drawn column by column, each from its own range</translation>
+        <source>I numeri di questa pagina sono estratti colonna per colonna, ciascuna con il proprio intervallo</source>
+        <translation>The numbers on this page are drawn column by column, each from its own range</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation>Sort numbers by column</translation>
+        <translation>Draw numbers by column</translation>
     </message>
     <message>
         <source>Selezione</source>
@@ -165,15 +165,15 @@ Page size: %6</translation>
     </message>
     <message>
         <source>Spunta le celle della selezione</source>
-        <translation>Tick the cells of the selection</translation>
+        <translation>Tick the cells in the selection</translation>
     </message>
     <message>
         <source>Riempi</source>
         <translation>Fill</translation>
     </message>
     <message>
-        <source>Toglie la spunta alle celle della selezione</source>
-        <translation>Untick the cells of the selection</translation>
+        <source>Toglie la spunta dalle celle della selezione</source>
+        <translation>Untick the cells in the selection</translation>
     </message>
     <message>
         <source>Svuota</source>
@@ -181,7 +181,7 @@ Page size: %6</translation>
     </message>
     <message>
         <source>Inverte la spunta delle celle della selezione</source>
-        <translation>Swap ticked and unticked cells of the selection</translation>
+        <translation>Swap ticked and unticked cells in the selection</translation>
     </message>
     <message>
         <source>Inverti</source>
@@ -217,11 +217,11 @@ Page size: %6</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Sets the type of the cells selected above!&lt;/p&gt;&lt;p&gt;To change single cells, click them with the right mouse button.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Set the type of the cells selected above!&lt;/p&gt;&lt;p&gt;To change single cells, click them with the right mouse button.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
-        <translation>Set selected</translation>
+        <translation>Apply to selection</translation>
     </message>
     <message>
         <source>Schema corrente</source>
@@ -288,8 +288,8 @@ Page size: %6</translation>
         <translation>Save</translation>
     </message>
     <message>
-        <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation>Save the page layout to a file. A page with more than 255 cells cannot be read back in full, and the sorting of numbers by column is not saved.</translation>
+        <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Save the page layout to a file. A page with more than 255 cells cannot be read back in full, and the option &quot;Draw numbers by column&quot; is not saved.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -381,7 +381,7 @@ Size: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation>Opening another project discards all the work in progress. Continue?</translation>
+        <translation>Opening another layout discards all the work in progress. Continue?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
@@ -389,7 +389,7 @@ Size: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Apertura file annullata!</source>
-        <translation>Opening the file cancelled!</translation>
+        <translation>Opening cancelled!</translation>
     </message>
     <message>
         <source>Sto leggendo la pagina %1</source>
@@ -403,6 +403,10 @@ Size: %5 bytes (%6 MB)
         <source>Sto caricando la pagina %1 di %2</source>
         <translation>Loading page %1 of %2</translation>
     </message>
+    <message>
+        <source>Salva lo schema delle pagine su file</source>
+        <translation>Save the page layout to a file</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -415,8 +419,8 @@ Size: %5 bytes (%6 MB)
         <translation>Select the language:</translation>
     </message>
     <message>
-        <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation>Language of the program and of the comments in the settings</translation>
+        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
+        <translation>Language of the program until it is closed, and of the comments in the settings; later starts use the system language</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
@@ -464,7 +468,7 @@ Size: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation>Classic - Jokers per row</translation>
+        <translation>Classic - Pictures (jokers) per row</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
@@ -511,9 +515,9 @@ Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
         <translation>Generation by column:
-Cannot generate %1 numbers in column no. %2
-The column needs %3 different numbers between %4 and %5
-but this is impossible because the range has only %6 numbers.</translation>
+Too many numbers (%1) for column no. %2
+The column needs that many different numbers (%3) between %4 and %5,
+but this is impossible because the range has fewer (%6).</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -558,7 +562,7 @@ Error while adding page %i.</translation>
     </message>
     <message>
         <source>Celle di ogni riga</source>
-        <translation>Cells of each row</translation>
+        <translation>Cells in each row</translation>
     </message>
     <message>
         <source>Numero di estrazioni per riga</source>
@@ -698,7 +702,7 @@ Error while adding page %i.</translation>
     </message>
     <message>
         <source>Blocchi della pagina</source>
-        <translation>Cards of the page</translation>
+        <translation>Cards on the page</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
@@ -794,7 +798,7 @@ Error while adding page %i.</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
-        <translation>Cell commands act on the same cells of all pages</translation>
+        <translation>Cell commands act on the same cells on all pages</translation>
     </message>
     <message>
         <source>Applica le impostazioni della cella (non ha ancora effetto)</source>
@@ -938,17 +942,17 @@ Advanced bingo card generator.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation>Do you want to set the value as TEXT?</translation>
+        <translation>Do you want to store the value as TEXT?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation>Do you want to set the value as an EMPTY CELL?</translation>
+        <translation>Do you want to make this an EMPTY CELL?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation>Cell set as PICTURE.
-The path of the picture must be chosen in the side panel.</translation>
+        <translation>The cell is now a PICTURE.
+Choose its file in the side panel.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
@@ -984,7 +988,7 @@ The path of the picture must be chosen in the side panel.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Card set generated: pages %1, cards per page %2 (%3X%4)</translation>
+        <translation>Card set generated - pages: %1, cards per page: %2 (%3×%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1004,7 +1008,7 @@ Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Creating a card set: pages %1, cards per page %2 (%3X%4)...</translation>
+        <translation>Creating a card set - pages: %1, cards per page: %2 (%3×%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1032,7 +1036,7 @@ Error while generating page %1.</translation>
     </message>
     <message>
         <source>Celle della pagina</source>
-        <translation>Cells of the page</translation>
+        <translation>Cells on the page</translation>
     </message>
     <message>
         <source>La cartella non contiene la pagina da visualizzare (fuori range)!</source>
@@ -1143,27 +1147,27 @@ Vuoi visualizzarli?</source>
 Do you want to see them?</translation>
     </message>
     <message>
-        <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation>... and %1 more pairs of identical cards.</translation>
+        <source>... e altre coppie di blocchi uguali: %1.</source>
+        <translation>... and more pairs of identical cards: %1.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
-        <source>riga vuota</source>
-        <translation>empty line</translation>
+        <source>nessun contenuto</source>
+        <translation>no content</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
         <translation>the first character does not give the number of rows of the page</translation>
     </message>
     <message>
-        <source>troppo corta per le celle della pagina</source>
-        <translation>too short for the cells of the page</translation>
+        <source>caratteri insufficienti per le celle della pagina</source>
+        <translation>too few characters for the cells of the page</translation>
     </message>
     <message>
-        <source>oltre il massimo di %1 pagine</source>
-        <translation>beyond the maximum of %1 pages</translation>
+        <source>oltre il numero massimo di pagine (%1)</source>
+        <translation>beyond the maximum number of pages (%1)</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
@@ -1278,35 +1282,35 @@ Do you want to see them?</translation>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation>Cannot create %1 filled cells with only %2 numbers.</translation>
+        <translation>Too few numbers (%2) for the cells to fill (%1).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation>Cannot place %1 jokers in only %2 columns.</translation>
+        <translation>Too many pictures (%1) for the columns (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation>Cannot place %1 texts in only %2 columns.</translation>
+        <translation>Too many texts (%1) for the columns (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation>Cannot place %1 texts and pictures in only %2 columns.</translation>
+        <translation>Too many texts and pictures (%1) for the columns (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation>Cannot place %1 jokers in only %2 filled cells.</translation>
+        <translation>Too many pictures (%1) for the filled cells per row (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation>Cannot place %1 texts in only %2 filled cells.</translation>
+        <translation>Too many texts (%1) for the filled cells per row (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation>Cannot place %1 texts and pictures in only %2 filled cells.</translation>
+        <translation>Too many texts and pictures (%1) for the filled cells per row (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation>Cannot place %1 numbers in only %2 columns.</translation>
+        <translation>Too many filled cells per row (%1) for the columns (%2).</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
@@ -1323,7 +1327,7 @@ exceeds the maximum allowed (%2).</translation>
         <translation>Continuing is not advised for the following reasons:
 %1 -&gt; total cells requested.
 %2 -&gt; total cells in memory.
-%3 -&gt; most cells that can be handled.
+%3 -&gt; maximum number of cells that can be handled.
 (the program may crash)</translation>
     </message>
 </context>

@@ -5,7 +5,7 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation>Pág. %1 cartón %2 = Pág. %3 cartón %4</translation>
+        <translation>Pág. %1, cartón %2 = Pág. %3, cartón %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
@@ -15,7 +15,7 @@ Blocchi uguali: %4 (%5%)</source>
         <translation>Cartones comprobados: %1
 Comparaciones entre cartones: %2
 Casillas comprobadas: %3
-Cartones iguales: %4 (%5%)</translation>
+Cartones iguales: %4 (%5&#xa0;%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
@@ -60,7 +60,7 @@ Los cartones de una página son siempre distintos.</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation>PDF: imprimiendo la página %1 de %2 (%3%)...</translation>
+        <translation>PDF: imprimiendo la página %1 de %2 (%3&#xa0;%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
@@ -112,12 +112,12 @@ Tamaño de página: %6</translation>
         <translation>El número de páginas</translation>
     </message>
     <message>
-        <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
+        <source>I numeri di questa pagina sono estratti colonna per colonna, ciascuna con il proprio intervallo</source>
         <translation>Los números de esta página se extraen columna por columna, cada una de su propio intervalo</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation>Ordenar números por columnas</translation>
+        <translation>Extraer números por columnas</translation>
     </message>
     <message>
         <source>Selezione</source>
@@ -172,7 +172,7 @@ Tamaño de página: %6</translation>
         <translation>Llenar</translation>
     </message>
     <message>
-        <source>Toglie la spunta alle celle della selezione</source>
+        <source>Toglie la spunta dalle celle della selezione</source>
         <translation>Desmarcar las casillas de la selección</translation>
     </message>
     <message>
@@ -217,7 +217,7 @@ Tamaño de página: %6</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;¡Establece el tipo de las casillas seleccionadas arriba!&lt;/p&gt;&lt;p&gt;Para cambiar una sola casilla, haga clic en ella con el botón derecho del ratón.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;¡Establecer el tipo de las casillas seleccionadas arriba!&lt;/p&gt;&lt;p&gt;Para cambiar una sola casilla, haga clic en ella con el botón derecho del ratón.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
@@ -288,8 +288,8 @@ Tamaño de página: %6</translation>
         <translation>Guardar</translation>
     </message>
     <message>
-        <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation>Guardar el diseño de las páginas en un archivo. Una página con más de 255 casillas no se puede volver a leer entera y el orden de los números por columnas no se guarda.</translation>
+        <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Guardar el diseño de las páginas en un archivo. Una página con más de 255 casillas no se puede volver a leer entera y la opción «Extraer números por columnas» no se guarda.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -345,7 +345,7 @@ Tamaño de página: %6</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation>¿Seguro que desea cerrar?</translation>
+        <translation>¿Seguro que desea cerrar la ventana?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
@@ -381,7 +381,7 @@ Tamaño: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation>Al abrir otro proyecto se perderá todo el trabajo en curso. ¿Continuar?</translation>
+        <translation>Al abrir otro diseño se perderá todo el trabajo en curso. ¿Continuar?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
@@ -397,11 +397,15 @@ Tamaño: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Apertura completata!</source>
-        <translation>¡Apertura completada!</translation>
+        <translation>¡Archivo abierto!</translation>
     </message>
     <message>
         <source>Sto caricando la pagina %1 di %2</source>
         <translation>Cargando la página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Salva lo schema delle pagine su file</source>
+        <translation>Guardar el diseño de las páginas en un archivo</translation>
     </message>
 </context>
 <context>
@@ -415,8 +419,8 @@ Tamaño: %5 bytes (%6 MB)
         <translation>Seleccione el idioma:</translation>
     </message>
     <message>
-        <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation>Idioma del programa y de los comentarios de la configuración</translation>
+        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
+        <translation>Idioma del programa hasta cerrarlo y de los comentarios de la configuración; después se usa el idioma del sistema</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
@@ -464,7 +468,7 @@ Tamaño: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation>Clásica - Comodines por fila</translation>
+        <translation>Clásica - Imágenes (comodines) por fila</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
@@ -488,7 +492,7 @@ Tamaño: %5 bytes (%6 MB)
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation>¡No se puede comentar el archivo, formato incorrecto!</translation>
+        <translation>¡No se pueden añadir los comentarios al archivo: formato incorrecto!</translation>
     </message>
     <message>
         <source>Continua con queste impostazioni</source>
@@ -499,11 +503,11 @@ Tamaño: %5 bytes (%6 MB)
     <name>GeneraCartellaPersonale</name>
     <message>
         <source>Nessuna pagina da generare!</source>
-        <translation>¡Ninguna página que generar!</translation>
+        <translation>¡No hay páginas que generar!</translation>
     </message>
     <message>
         <source>Nessun numero generato!</source>
-        <translation>¡Ningún número generado!</translation>
+        <translation>¡No se ha generado ningún número!</translation>
     </message>
     <message>
         <source>Genera per colonne:
@@ -511,9 +515,9 @@ Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
         <translation>Generación por columnas:
-No se pueden generar %1 números en la columna n.º %2
-La columna necesita %3 números distintos entre %4 y %5
-pero es imposible, ya que el intervalo solo tiene %6 números.</translation>
+Demasiados números (%1) para la columna n.º&#xa0;%2
+La columna necesita esa cantidad de números distintos (%3) entre %4 y %5,
+pero es imposible, ya que el intervalo tiene menos (%6).</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -646,7 +650,7 @@ Error al añadir la página %i.</translation>
     </message>
     <message>
         <source>Formato</source>
-        <translation>Formato</translation>
+        <translation>Formato de papel</translation>
     </message>
     <message>
         <source>Formato della carta su cui stampare</source>
@@ -702,19 +706,19 @@ Error al añadir la página %i.</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
-        <translation>Grosor línea exterior</translation>
+        <translation>Grosor del contorno</translation>
     </message>
     <message>
         <source>Spessore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation>Grosor de la línea exterior del cartón (aún sin efecto)</translation>
+        <translation>Grosor del contorno del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Spessore linea interna</source>
-        <translation>Grosor línea interior</translation>
+        <translation>Grosor de la cuadrícula</translation>
     </message>
     <message>
         <source>Spessore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation>Grosor de las líneas interiores del cartón (aún sin efecto)</translation>
+        <translation>Grosor de la cuadrícula del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>I comandi di blocco agiscono su tutti i blocchi</source>
@@ -734,19 +738,19 @@ Error al añadir la página %i.</translation>
     </message>
     <message>
         <source>Colore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation>Color de la línea exterior del cartón (aún sin efecto)</translation>
+        <translation>Color del contorno del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Colora linea esterna</source>
-        <translation>Color línea exterior</translation>
+        <translation>Color del contorno</translation>
     </message>
     <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation>Color de las líneas interiores del cartón (aún sin efecto)</translation>
+        <translation>Color de la cuadrícula del cartón (aún sin efecto)</translation>
     </message>
     <message>
         <source>Colora linea interna</source>
-        <translation>Color línea interior</translation>
+        <translation>Color de la cuadrícula</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -938,17 +942,17 @@ Generador avanzado de cartones de bingo.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation>¿Desea establecer el valor como TEXTO?</translation>
+        <translation>¿Desea guardar el valor como TEXTO?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation>¿Desea establecer el valor como CASILLA VACÍA?</translation>
+        <translation>¿Desea dejar la CASILLA VACÍA?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation>Casilla establecida como IMAGEN.
-La ruta de la imagen debe elegirse en el panel lateral.</translation>
+        <translation>La casilla es ahora una IMAGEN.
+Elija su archivo en el panel lateral.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
@@ -968,7 +972,7 @@ La ruta de la imagen debe elegirse en el panel lateral.</translation>
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation>Imagen establecida correctamente.</translation>
+        <translation>Imagen cambiada correctamente.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
@@ -984,7 +988,7 @@ La ruta de la imagen debe elegirse en el panel lateral.</translation>
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Serie de cartones generada: páginas %1, cartones por página %2 (%3X%4)</translation>
+        <translation>Serie de cartones generada - páginas: %1, cartones por página: %2 (%3×%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1004,7 +1008,7 @@ Vuoi proseguire comunque?</source>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Creando una serie de cartones: páginas %1, cartones por página %2 (%3X%4)...</translation>
+        <translation>Creando una serie de cartones - páginas: %1, cartones por página: %2 (%3×%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1058,7 +1062,7 @@ Página no eliminada.</translation>
     </message>
     <message>
         <source>Nessuna selezione</source>
-        <translation>Ninguna selección</translation>
+        <translation>Sin selección</translation>
     </message>
     <message>
         <source>Cella mancante</source>
@@ -1112,7 +1116,7 @@ Alcune celle sono state omesse!</source>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation>Fuente establecida correctamente.</translation>
+        <translation>Fuente aplicada correctamente.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
@@ -1143,27 +1147,27 @@ Vuoi visualizzarli?</source>
 ¿Desea verlos?</translation>
     </message>
     <message>
-        <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation>... y otras %1 parejas de cartones iguales.</translation>
+        <source>... e altre coppie di blocchi uguali: %1.</source>
+        <translation>... y más parejas de cartones iguales: %1.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
-        <source>riga vuota</source>
-        <translation>línea vacía</translation>
+        <source>nessun contenuto</source>
+        <translation>sin contenido</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
         <translation>el primer carácter no indica el número de filas de la página</translation>
     </message>
     <message>
-        <source>troppo corta per le celle della pagina</source>
-        <translation>demasiado corta para las casillas de la página</translation>
+        <source>caratteri insufficienti per le celle della pagina</source>
+        <translation>faltan caracteres para las casillas de la página</translation>
     </message>
     <message>
-        <source>oltre il massimo di %1 pagine</source>
-        <translation>por encima del máximo de %1 páginas</translation>
+        <source>oltre il numero massimo di pagine (%1)</source>
+        <translation>por encima del número máximo de páginas (%1)</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
@@ -1278,35 +1282,35 @@ Vuoi visualizzarli?</source>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation>No se pueden crear %1 casillas llenas con solo %2 números.</translation>
+        <translation>No hay bastantes números (%2) para las casillas que llenar (%1).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation>No se pueden poner %1 comodines en solo %2 columnas.</translation>
+        <translation>Demasiadas imágenes (%1) para el número de columnas (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation>No se pueden poner %1 textos en solo %2 columnas.</translation>
+        <translation>Demasiados textos (%1) para el número de columnas (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation>No se pueden poner %1 textos e imágenes en solo %2 columnas.</translation>
+        <translation>Demasiados textos e imágenes (%1) para el número de columnas (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation>No se pueden poner %1 comodines en solo %2 casillas llenas.</translation>
+        <translation>Demasiadas imágenes (%1) para las casillas llenas por fila (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation>No se pueden poner %1 textos en solo %2 casillas llenas.</translation>
+        <translation>Demasiados textos (%1) para las casillas llenas por fila (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation>No se pueden poner %1 textos e imágenes en solo %2 casillas llenas.</translation>
+        <translation>Demasiados textos e imágenes (%1) para las casillas llenas por fila (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation>No se pueden poner %1 números en solo %2 columnas.</translation>
+        <translation>Demasiadas casillas llenas por fila (%1) para el número de columnas (%2).</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
@@ -1324,7 +1328,7 @@ supera el máximo permitido (%2).</translation>
 %1 -&gt; casillas totales pedidas.
 %2 -&gt; casillas totales en memoria.
 %3 -&gt; casillas máximas gestionables.
-(el programa podría bloquearse)</translation>
+(el programa podría cerrarse inesperadamente)</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@
     <name>Cartella</name>
     <message>
         <source>Pag %1 blocco %2 = Pag %3 blocco %4</source>
-        <translation>Page %1 carton %2 = Page %3 carton %4</translation>
+        <translation>Page %1, carton %2 = Page %3, carton %4</translation>
     </message>
     <message>
         <source>Blocchi verificati: %1
@@ -15,7 +15,7 @@ Blocchi uguali: %4 (%5%)</source>
         <translation>Cartons vérifiés&#xa0;: %1
 Comparaisons entre cartons&#xa0;: %2
 Cases vérifiées&#xa0;: %3
-Cartons identiques&#xa0;: %4 (%5%)</translation>
+Cartons identiques&#xa0;: %4 (%5&#xa0;%)</translation>
     </message>
     <message>
         <source>La cartella e&apos; vuota od ha solo una pagina.
@@ -60,7 +60,7 @@ Les cartons d&apos;une page sont toujours différents.</translation>
     </message>
     <message>
         <source>PDF: Stampa pagina %1 di %2 (%3%) in corso...</source>
-        <translation>PDF&#xa0;: impression de la page %1 sur %2 (%3%)...</translation>
+        <translation>PDF&#xa0;: impression de la page %1 sur %2 (%3&#xa0;%)...</translation>
     </message>
     <message>
         <source>Impossibile continuare a scrivere sul file!</source>
@@ -112,12 +112,12 @@ Dimensions de la page&#xa0;: %6</translation>
         <translation>Le nombre de pages</translation>
     </message>
     <message>
-        <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
+        <source>I numeri di questa pagina sono estratti colonna per colonna, ciascuna con il proprio intervallo</source>
         <translation>Les numéros de cette page sont tirés colonne par colonne, chacune dans son propre intervalle</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
-        <translation>Ranger les numéros par colonne</translation>
+        <translation>Tirer les numéros par colonne</translation>
     </message>
     <message>
         <source>Selezione</source>
@@ -172,7 +172,7 @@ Dimensions de la page&#xa0;: %6</translation>
         <translation>Remplir</translation>
     </message>
     <message>
-        <source>Toglie la spunta alle celle della selezione</source>
+        <source>Toglie la spunta dalle celle della selezione</source>
         <translation>Décocher les cases de la sélection</translation>
     </message>
     <message>
@@ -217,7 +217,7 @@ Dimensions de la page&#xa0;: %6</translation>
     </message>
     <message>
         <source>&lt;p&gt;Imposta il tipo delle celle selezionate sopra!&lt;/p&gt;&lt;p&gt;Per cambiare le singole celle usare il tasto destro del mouse su di esse.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Définit le type des cases sélectionnées ci-dessus&#xa0;!&lt;/p&gt;&lt;p&gt;Pour changer une seule case, cliquer dessus avec le bouton droit de la souris.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Définir le type des cases sélectionnées ci-dessus&#xa0;!&lt;/p&gt;&lt;p&gt;Pour changer une seule case, cliquer dessus avec le bouton droit de la souris.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Imposta selezionate</source>
@@ -288,8 +288,8 @@ Dimensions de la page&#xa0;: %6</translation>
         <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation>Enregistrer la disposition des pages dans un fichier. Une page de plus de 255 cases ne peut pas être relue en entier, et le rangement des numéros par colonne n&apos;est pas enregistré.</translation>
+        <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Enregistrer la disposition des pages dans un fichier. Une page de plus de 255 cases ne peut pas être relue en entier, et l&apos;option «&#xa0;Tirer les numéros par colonne&#xa0;» n&apos;est pas enregistrée.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -345,7 +345,7 @@ Dimensions de la page&#xa0;: %6</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation>Voulez-vous vraiment fermer&#xa0;?</translation>
+        <translation>Voulez-vous vraiment fermer cette fenêtre&#xa0;?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
@@ -381,7 +381,7 @@ Taille&#xa0;: %5 octets (%6 Mo)
     </message>
     <message>
         <source>Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?</source>
-        <translation>L&apos;ouverture d&apos;un autre projet fera perdre tout le travail en cours. Continuer&#xa0;?</translation>
+        <translation>L&apos;ouverture d&apos;une autre disposition fera perdre tout le travail en cours. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Apre un file di cartelle</source>
@@ -403,6 +403,10 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <source>Sto caricando la pagina %1 di %2</source>
         <translation>Chargement de la page %1 sur %2</translation>
     </message>
+    <message>
+        <source>Salva lo schema delle pagine su file</source>
+        <translation>Enregistrer la disposition des pages dans un fichier</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -415,8 +419,8 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <translation>Choisir la langue&#xa0;:</translation>
     </message>
     <message>
-        <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation>Langue du programme et des commentaires dans les paramètres</translation>
+        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
+        <translation>Langue du programme jusqu&apos;à sa fermeture et des commentaires dans les paramètres&#xa0;; ensuite, la langue du système s&apos;applique</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
@@ -464,7 +468,7 @@ Taille&#xa0;: %5 octets (%6 Mo)
     </message>
     <message>
         <source>Classica - Numero jolly per riga</source>
-        <translation>Classique - Jokers par ligne</translation>
+        <translation>Classique - Images (jokers) par ligne</translation>
     </message>
     <message>
         <source>Testo di base nelle celle</source>
@@ -488,7 +492,7 @@ Taille&#xa0;: %5 octets (%6 Mo)
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation>Impossible de commenter le fichier, format incorrect&#xa0;!</translation>
+        <translation>Impossible d&apos;ajouter les commentaires au fichier&#xa0;: format incorrect&#xa0;!</translation>
     </message>
     <message>
         <source>Continua con queste impostazioni</source>
@@ -511,9 +515,9 @@ Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
         <translation>Génération par colonne&#xa0;:
-Impossible de générer %1 numéros dans la colonne n°&#xa0;%2
-La colonne demande %3 numéros différents entre %4 et %5
-mais c&apos;est impossible car l&apos;intervalle ne compte que %6 numéros.</translation>
+Trop de numéros (%1) pour la colonne n°&#xa0;%2
+La colonne demande autant de numéros différents (%3) entre %4 et %5,
+mais c&apos;est impossible car l&apos;intervalle en compte moins (%6).</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -646,7 +650,7 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Formato</source>
-        <translation>Format</translation>
+        <translation>Format du papier</translation>
     </message>
     <message>
         <source>Formato della carta su cui stampare</source>
@@ -702,19 +706,19 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Spessore linea esterna</source>
-        <translation>Épaisseur ligne externe</translation>
+        <translation>Épaisseur du contour</translation>
     </message>
     <message>
         <source>Spessore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation>Épaisseur de la ligne externe du carton (pas encore d&apos;effet)</translation>
+        <translation>Épaisseur du contour du carton (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
         <source>Spessore linea interna</source>
-        <translation>Épaisseur ligne interne</translation>
+        <translation>Épaisseur de la grille</translation>
     </message>
     <message>
         <source>Spessore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation>Épaisseur des lignes internes du carton (pas encore d&apos;effet)</translation>
+        <translation>Épaisseur de la grille du carton (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
         <source>I comandi di blocco agiscono su tutti i blocchi</source>
@@ -726,7 +730,7 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Applica le impostazioni del blocco (non ha ancora effetto)</source>
-        <translation>Appliquer les paramètres du carton (pas encore d&apos;effet)</translation>
+        <translation>Appliquer les paramètres du carton (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
         <source>Colore di sfondo delle celle del blocco</source>
@@ -734,19 +738,19 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Colore della linea esterna del blocco (non ha ancora effetto)</source>
-        <translation>Couleur de la ligne externe du carton (pas encore d&apos;effet)</translation>
+        <translation>Couleur du contour du carton (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
         <source>Colora linea esterna</source>
-        <translation>Couleur ligne externe</translation>
+        <translation>Couleur du contour</translation>
     </message>
     <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
-        <translation>Couleur des lignes internes du carton (pas encore d&apos;effet)</translation>
+        <translation>Couleur de la grille du carton (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
         <source>Colora linea interna</source>
-        <translation>Couleur ligne interne</translation>
+        <translation>Couleur de la grille</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -798,7 +802,7 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Applica le impostazioni della cella (non ha ancora effetto)</source>
-        <translation>Appliquer les paramètres de la case (pas encore d&apos;effet)</translation>
+        <translation>Appliquer les paramètres de la case (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
         <source>Colore del testo delle celle selezionate</source>
@@ -894,7 +898,7 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Aggiungere pagine alla cartella prima di proseguire.</source>
-        <translation>Ajoutez des pages à la série de cartons avant de continuer.</translation>
+        <translation>Ajouter des pages à la série de cartons avant de continuer.</translation>
     </message>
     <message>
         <source>Creazione file annullata!</source>
@@ -916,7 +920,7 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     </message>
     <message>
         <source>Sei sicuro di voler uscire?</source>
-        <translation>Voulez-vous vraiment quitter&#xa0;?</translation>
+        <translation>Voulez-vous vraiment quitter le programme&#xa0;?</translation>
     </message>
     <message>
         <source>Generatore di cartelle per la Quintra.
@@ -938,17 +942,17 @@ Générateur avancé de cartons de loto.</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come STRINGA?</source>
-        <translation>Voulez-vous définir la valeur comme TEXTE&#xa0;?</translation>
+        <translation>Voulez-vous enregistrer la valeur comme TEXTE&#xa0;?</translation>
     </message>
     <message>
         <source>Vuoi impostare il valore come CELLA VUOTA?</source>
-        <translation>Voulez-vous définir la valeur comme CASE VIDE&#xa0;?</translation>
+        <translation>Voulez-vous en faire une CASE VIDE&#xa0;?</translation>
     </message>
     <message>
         <source>Cella impostata come IMMAGINE.
 Il percorso dell&apos;immagine deve essere scelto tramite il pannello a lato.</source>
-        <translation>Case définie comme IMAGE.
-Le chemin de l&apos;image doit être choisi dans le panneau latéral.</translation>
+        <translation>La case est maintenant une IMAGE.
+Choisissez son fichier dans le panneau latéral.</translation>
     </message>
     <message>
         <source>L&apos;immagine per la cella selezionata è quella visibile. La si vuole Cambiare?</source>
@@ -968,7 +972,7 @@ Le chemin de l&apos;image doit être choisi dans le panneau latéral.</translati
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation>Image définie correctement.</translation>
+        <translation>Image mise en place.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
@@ -984,7 +988,7 @@ Le chemin de l&apos;image doit être choisi dans le panneau latéral.</translati
     </message>
     <message>
         <source>Cartella di %1 pagine, %2 blocchi %3X%4 generata</source>
-        <translation>Série de cartons générée&#xa0;: pages %1, cartons par page %2 (%3X%4)</translation>
+        <translation>Série de cartons générée - pages&#xa0;: %1, cartons par page&#xa0;: %2 (%3×%4)</translation>
     </message>
     <message>
         <source>Problemi di impostazione parametri: non posso proseguire!</source>
@@ -1004,7 +1008,7 @@ Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
-        <translation>Création d&apos;une série de cartons&#xa0;: pages %1, cartons par page %2 (%3X%4)...</translation>
+        <translation>Création d&apos;une série de cartons - pages&#xa0;: %1, cartons par page&#xa0;: %2 (%3×%4)...</translation>
     </message>
     <message>
         <source>Generazione numeri:
@@ -1112,7 +1116,7 @@ Certaines cases ont été ignorées&#xa0;!</translation>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation>Police définie correctement.</translation>
+        <translation>Police appliquée.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
@@ -1143,27 +1147,27 @@ Vuoi visualizzarli?</source>
 Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
-        <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation>... et %1 autres paires de cartons identiques.</translation>
+        <source>... e altre coppie di blocchi uguali: %1.</source>
+        <translation>... et d&apos;autres paires de cartons identiques&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
-        <source>riga vuota</source>
-        <translation>ligne vide</translation>
+        <source>nessun contenuto</source>
+        <translation>aucun contenu</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
         <translation>le premier caractère n&apos;indique pas le nombre de lignes de la page</translation>
     </message>
     <message>
-        <source>troppo corta per le celle della pagina</source>
-        <translation>trop courte pour les cases de la page</translation>
+        <source>caratteri insufficienti per le celle della pagina</source>
+        <translation>pas assez de caractères pour les cases de la page</translation>
     </message>
     <message>
-        <source>oltre il massimo di %1 pagine</source>
-        <translation>au-delà du maximum de %1 pages</translation>
+        <source>oltre il numero massimo di pagine (%1)</source>
+        <translation>au-delà du nombre maximal de pages (%1)</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
@@ -1278,35 +1282,35 @@ Voulez-vous les afficher&#xa0;?</translation>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>
-        <translation>Impossible de créer %1 cases remplies avec seulement %2 numéros.</translation>
+        <translation>Pas assez de numéros (%2) pour les cases à remplir (%1).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly in sole %2 colonne.</source>
-        <translation>Impossible de placer %1 jokers dans seulement %2 colonnes.</translation>
+        <translation>Trop d&apos;images (%1) pour le nombre de colonnes (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte in sole %2 colonne.</source>
-        <translation>Impossible de placer %1 textes dans seulement %2 colonnes.</translation>
+        <translation>Trop de textes (%1) pour le nombre de colonnes (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini in sole %2 colonne.</source>
-        <translation>Impossible de placer %1 textes et images dans seulement %2 colonnes.</translation>
+        <translation>Trop de textes et d&apos;images (%1) pour le nombre de colonnes (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 jolly con sole %2 estrazioni.</source>
-        <translation>Impossible de placer %1 jokers dans seulement %2 cases remplies.</translation>
+        <translation>Trop d&apos;images (%1) pour le nombre de cases remplies par ligne (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte con sole %2 estrazioni.</source>
-        <translation>Impossible de placer %1 textes dans seulement %2 cases remplies.</translation>
+        <translation>Trop de textes (%1) pour le nombre de cases remplies par ligne (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 scritte e immagini con sole %2 estrazioni.</source>
-        <translation>Impossible de placer %1 textes et images dans seulement %2 cases remplies.</translation>
+        <translation>Trop de textes et d&apos;images (%1) pour le nombre de cases remplies par ligne (%2).</translation>
     </message>
     <message>
         <source>Non posso inserire %1 numeri in sole %2 colonne.</source>
-        <translation>Impossible de placer %1 numéros dans seulement %2 colonnes.</translation>
+        <translation>Trop de cases remplies par ligne (%1) pour le nombre de colonnes (%2).</translation>
     </message>
     <message>
         <source>Le pagine totali richieste (%1)
@@ -1324,7 +1328,7 @@ dépasse le maximum autorisé (%2).</translation>
 %1 -&gt; total des cases demandées.
 %2 -&gt; total des cases en mémoire.
 %3 -&gt; maximum de cases gérables.
-(le programme pourrait planter)</translation>
+(le programme pourrait s&apos;arrêter brutalement)</translation>
     </message>
 </context>
 <context>

@@ -112,8 +112,8 @@ Dimensioni pagina: %6</translation>
         <translation>Il numero di pagine</translation>
     </message>
     <message>
-        <source>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</source>
-        <translation>I numeri di questa pagina sono estratti colonna per colonna, ognuna dal proprio intervallo</translation>
+        <source>I numeri di questa pagina sono estratti colonna per colonna, ciascuna con il proprio intervallo</source>
+        <translation>I numeri di questa pagina sono estratti colonna per colonna, ciascuna con il proprio intervallo</translation>
     </message>
     <message>
         <source>Ordina numeri sulle colonne</source>
@@ -172,8 +172,8 @@ Dimensioni pagina: %6</translation>
         <translation>Riempi</translation>
     </message>
     <message>
-        <source>Toglie la spunta alle celle della selezione</source>
-        <translation>Toglie la spunta alle celle della selezione</translation>
+        <source>Toglie la spunta dalle celle della selezione</source>
+        <translation>Toglie la spunta dalle celle della selezione</translation>
     </message>
     <message>
         <source>Svuota</source>
@@ -288,8 +288,8 @@ Dimensioni pagina: %6</translation>
         <translation>Salva</translation>
     </message>
     <message>
-        <source>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</source>
-        <translation>Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;ordine dei numeri sulle colonne non viene salvato.</translation>
+        <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -403,6 +403,10 @@ Dimensione: %5 Bytes (%6 MB)
         <source>Sto caricando la pagina %1 di %2</source>
         <translation>Sto caricando la pagina %1 di %2</translation>
     </message>
+    <message>
+        <source>Salva lo schema delle pagine su file</source>
+        <translation>Salva lo schema delle pagine su file</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -415,8 +419,8 @@ Dimensione: %5 Bytes (%6 MB)
         <translation>Seleziona la lingua:</translation>
     </message>
     <message>
-        <source>Lingua del programma e dei commenti nelle impostazioni</source>
-        <translation>Lingua del programma e dei commenti nelle impostazioni</translation>
+        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
+        <translation>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
@@ -1143,27 +1147,27 @@ Vuoi visualizzarli?</source>
 Vuoi visualizzarli?</translation>
     </message>
     <message>
-        <source>... e altre %1 coppie di blocchi uguali.</source>
-        <translation>... e altre %1 coppie di blocchi uguali.</translation>
+        <source>... e altre coppie di blocchi uguali: %1.</source>
+        <translation>... e altre coppie di blocchi uguali: %1.</translation>
     </message>
 </context>
 <context>
     <name>MappingFile</name>
     <message>
-        <source>riga vuota</source>
-        <translation>riga vuota</translation>
+        <source>nessun contenuto</source>
+        <translation>nessun contenuto</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
         <translation>il primo carattere non indica il numero di righe della pagina</translation>
     </message>
     <message>
-        <source>troppo corta per le celle della pagina</source>
-        <translation>troppo corta per le celle della pagina</translation>
+        <source>caratteri insufficienti per le celle della pagina</source>
+        <translation>caratteri insufficienti per le celle della pagina</translation>
     </message>
     <message>
-        <source>oltre il massimo di %1 pagine</source>
-        <translation>oltre il massimo di %1 pagine</translation>
+        <source>oltre il numero massimo di pagine (%1)</source>
+        <translation>oltre il numero massimo di pagine (%1)</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>

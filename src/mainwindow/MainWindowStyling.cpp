@@ -306,7 +306,7 @@ void MainWindow::showEqualBlocks(qint64 pairs)
     const WaitCursor waiting(this);
     QStringList lines = m_cartella->equalBlockLines(mostLines).toList();
     if (pairs > lines.size()) {
-        lines.append(tr("... e altre %1 coppie di blocchi uguali.").arg(pairs - lines.size()));
+        lines.append(tr("... e altre coppie di blocchi uguali: %1.").arg(pairs - lines.size()));
     }
     MsgArea *report = openMsgArea();
     report->setLines(lines);

@@ -72,13 +72,13 @@ QString reasonText(Motivo motivo)
 {
     switch (motivo) {
     case Motivo::Vuota:
-        return Text::tr("riga vuota");
+        return Text::tr("nessun contenuto");
     case Motivo::SenzaRighe:
         return Text::tr("il primo carattere non indica il numero di righe della pagina");
     case Motivo::TroppoCorta:
-        return Text::tr("troppo corta per le celle della pagina");
+        return Text::tr("caratteri insufficienti per le celle della pagina");
     case Motivo::TroppePagine:
-        return Text::tr("oltre il massimo di %1 pagine").arg(mostPages);
+        return Text::tr("oltre il numero massimo di pagine (%1)").arg(mostPages);
     }
     return QString();
 }

@@ -468,9 +468,9 @@ void tst_EditPersonaleFile::skippedLinesAreListed()
     QVERIFY(report != nullptr);
     QVERIFY(report->isVisible());
     QCOMPARE(reportText(t), QStringLiteral("Queste righe del file non descrivono una pagina e sono state saltate:\n"
-                                           "Righe da 2 a 3: riga vuota.\n"
+                                           "Righe da 2 a 3: nessun contenuto.\n"
                                            "Riga 4: il primo carattere non indica il numero di righe della pagina.\n"
-                                           "Riga 5: troppo corta per le celle della pagina."));
+                                           "Riga 5: caratteri insufficienti per le celle della pagina."));
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 

@@ -308,10 +308,10 @@ void tst_MappingFile::theSkippedLinesAreDescribed()
                        {7, 7, Motivo::TroppoCorta},
                        {65536, 70000, Motivo::TroppePagine}}),
              QStringLiteral("Queste righe del file non descrivono una pagina e sono state saltate:\n"
-                            "Righe da 1 a 3: riga vuota.\n"
+                            "Righe da 1 a 3: nessun contenuto.\n"
                             "Riga 5: il primo carattere non indica il numero di righe della pagina.\n"
-                            "Riga 7: troppo corta per le celle della pagina.\n"
-                            "Righe da 65536 a 70000: oltre il massimo di 65535 pagine."));
+                            "Riga 7: caratteri insufficienti per le celle della pagina.\n"
+                            "Righe da 65536 a 70000: oltre il numero massimo di pagine (65535)."));
 }
 
 void tst_MappingFile::aLongListOfSkippedLinesIsCut()
@@ -322,7 +322,7 @@ void tst_MappingFile::aLongListOfSkippedLinesIsCut()
     }
     const QStringList lines = describe(many).split(QLatin1Char('\n'));
     QCOMPARE(lines.size(), 502);
-    QCOMPARE(lines.at(500), QStringLiteral("Riga 1000: riga vuota."));
+    QCOMPARE(lines.at(500), QStringLiteral("Riga 1000: nessun contenuto."));
     QCOMPARE(lines.last(), QStringLiteral("L'elenco continua fino alla riga 1200."));
 }
 
