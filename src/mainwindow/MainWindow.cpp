@@ -29,6 +29,7 @@ MainWindow::MainWindow(QWidget *parent)
 {
     initQuintraResources();
     ui->setupUi(this);
+    setupShortcuts();
     setWindowTitle(Product::nameAndRelease());
     welcome();
     setupParameters();
@@ -44,6 +45,13 @@ MainWindow::MainWindow(QWidget *parent)
 }
 
 MainWindow::~MainWindow() = default;
+
+// Not in the form: a button's shortcut goes when its text is set, which the form does last.
+void MainWindow::setupShortcuts()
+{
+    ui->butt_aggiungi_pagine->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_N));
+    ui->butt_stampa->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_P));
+}
 
 void MainWindow::welcome()
 {

@@ -112,6 +112,7 @@ protected:
 
 private:
     // Construction.
+    void setupShortcuts();
     void welcome();
     void setupParameters();
     void setupPageView();
