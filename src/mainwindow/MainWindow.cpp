@@ -72,7 +72,7 @@ void MainWindow::setupPageView()
     ui->pagina_corrente_spinBox->setValue(0);
     m_currentFont = QFont(QStringLiteral("Arial"), startFontPoints);
 
-    ui->gridLayout->addWidget(replaceTable());
+    ui->gridLayout->addWidget(replaceTable(), 0, 0);
     resetSelectionPanels(0);
     ui->gridLayout->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
 }

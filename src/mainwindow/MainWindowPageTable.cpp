@@ -80,7 +80,7 @@ void MainWindow::loadPagina(U16 page)
     fillTable(table, shown, m_cartella->getMaxPageColSize(page), globalConfig->defaultCellText);
     connect(table, &QTableWidget::itemChanged, this, &MainWindow::tableItemChanged);
     connect(table, &QTableWidget::itemSelectionChanged, this, &MainWindow::tableItemSelectionChanged);
-    ui->gridLayout->addWidget(table);
+    ui->gridLayout->addWidget(table, 0, 0);
     table->show();
     resetSelectionPanels(shown.nBlocchi);
 }

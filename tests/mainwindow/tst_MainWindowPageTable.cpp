@@ -2,6 +2,7 @@
 #include "PageWindow.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QHeaderView>
 
 namespace {
@@ -34,6 +35,7 @@ private slots:
     void loadingEmptiesTheSelectionPanels();
     void aPageBeyondTheSetIsRefused();
     void theTableTakesTheRoomOfTheOldOne();
+    void theGridStaysAsItIs();
 
     void withoutASetThePageNumberStaysZero();
     void aPageNumberOutsideTheSetIsClamped_data();
@@ -201,6 +203,21 @@ void tst_MainWindowPageTable::theTableTakesTheRoomOfTheOldOne()
     QTest::qWait(1);
     QCOMPARE(w.table()->geometry(), room);
     QCOMPARE(w.window->findChildren<QTableWidget *>().size(), 1);
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPageTable::theGridStaysAsItIs()
+{
+    PageWindow w;
+    const auto *grid = w.find<QGridLayout>("gridLayout");
+    w.showPages(3, {1, 2, 2});
+    for (const int number : {2, 3, 1}) {
+        w.pageNumber()->setValue(number);
+    }
+    w.press("pagina_elimina");
+    w.press("pagina_elimina"); // leaves the table of a single page
+    QCOMPARE(grid->rowCount(), 1);
+    QCOMPARE(grid->columnCount(), 1);
     QCOMPARE(w.boxes.problems(), QStringList());
 }
 
