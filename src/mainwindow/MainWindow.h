@@ -161,9 +161,10 @@ private:
     // Styling.
     QVector<Pagina *> pagesInRange() const;
     QVector<TablePosition> selectedPositions() const;
-    bool refusesWithoutPages();
-    bool refusesWithoutSelection();
-    bool refusesWithoutBlock();
+    bool require(bool condition, const QString &refusal);
+    bool requirePages();
+    bool requireSelection();
+    bool requireBlock();
     void openColourPicker(void (MainWindow::*colouringSlot)(QColor));
     void disconnectColourPicker();
     void recolour(const std::function<void()> &change);

@@ -105,8 +105,7 @@ void MainWindow::on_pagina_corrente_spinBox_valueChanged(int value)
 
 void MainWindow::on_pagina_elimina_clicked()
 {
-    if (m_cartella->getNumPages() == 0) {
-        updateStatusBar(tr("La cartella è vuota!"));
+    if (!requirePages()) {
         return;
     }
     const int value = ui->pagina_corrente_spinBox->value();

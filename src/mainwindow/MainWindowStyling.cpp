@@ -44,38 +44,29 @@ QVector<TablePosition> MainWindow::selectedPositions() const
     return positions;
 }
 
-// The three refusals tell the user why.
-bool MainWindow::refusesWithoutPages()
+// Whether a command has what it needs; the user is told when it has not.
+bool MainWindow::require(bool condition, const QString &refusal)
 {
-    if (m_cartella->getNumPages() > 0) {
-        return false;
+    if (!condition) {
+        updateStatusBar(refusal);
     }
-    updateStatusBar(tr("La cartella è vuota!"));
-    return true;
+    return condition;
 }
 
-bool MainWindow::refusesWithoutSelection()
+bool MainWindow::requirePages()
 {
-    if (refusesWithoutPages()) {
-        return true;
-    }
-    if (!m_table->selectedItems().isEmpty()) {
-        return false;
-    }
-    updateStatusBar(tr("Nessun elemento selezionato!"));
-    return true;
+    return require(m_cartella->getNumPages() > 0, tr("La cartella è vuota!"));
 }
 
-bool MainWindow::refusesWithoutBlock()
+bool MainWindow::requireSelection()
 {
-    if (refusesWithoutPages()) {
-        return true;
-    }
-    if (ui->applica_tutti_blocchi_checkBox->isChecked() || ui->blocco_n->intValue() > 0) {
-        return false;
-    }
-    updateStatusBar(tr("Nessun elemento selezionato!"));
-    return true;
+    return requirePages() && require(!m_table->selectedItems().isEmpty(), tr("Nessun elemento selezionato!"));
+}
+
+bool MainWindow::requireBlock()
+{
+    const bool allBlocks = ui->applica_tutti_blocchi_checkBox->isChecked();
+    return requirePages() && require(allBlocks || ui->blocco_n->intValue() > 0, tr("Nessun elemento selezionato!"));
 }
 
 // The next choice of colour reaches this slot and no other, whichever command opened the picker before.
@@ -105,7 +96,7 @@ void MainWindow::recolour(const std::function<void()> &change)
 
 void MainWindow::on_colorapaginasfondo_clicked()
 {
-    if (!refusesWithoutPages()) {
+    if (requirePages()) {
         openColourPicker(&MainWindow::coloraPaginaSfondo);
     }
 }
@@ -113,7 +104,7 @@ void MainWindow::on_colorapaginasfondo_clicked()
 void MainWindow::coloraPaginaSfondo(QColor color)
 {
     disconnectColourPicker();
-    if (refusesWithoutPages()) {
+    if (!requirePages()) {
         return;
     }
     recolour([this, color]() {
@@ -125,7 +116,7 @@ void MainWindow::coloraPaginaSfondo(QColor color)
 
 void MainWindow::on_colorabloccosfondo_clicked()
 {
-    if (!refusesWithoutBlock()) {
+    if (requireBlock()) {
         openColourPicker(&MainWindow::coloraBloccoSfondo);
     }
 }
@@ -133,7 +124,7 @@ void MainWindow::on_colorabloccosfondo_clicked()
 void MainWindow::coloraBloccoSfondo(QColor color)
 {
     disconnectColourPicker();
-    if (refusesWithoutBlock()) {
+    if (!requireBlock()) {
         return;
     }
     recolour([this, color]() {
@@ -145,7 +136,7 @@ void MainWindow::coloraBloccoSfondo(QColor color)
 
 void MainWindow::on_colorabloccolineaesterna_clicked()
 {
-    if (!refusesWithoutPages()) {
+    if (requirePages()) {
         openColourPicker(&MainWindow::coloraBloccoLineaEsterna);
     }
 }
@@ -158,7 +149,7 @@ void MainWindow::coloraBloccoLineaEsterna(QColor)
 
 void MainWindow::on_colorabloccolineainterna_clicked()
 {
-    if (!refusesWithoutPages()) {
+    if (requirePages()) {
         openColourPicker(&MainWindow::coloraBloccoLineaInterna);
     }
 }
@@ -170,7 +161,7 @@ void MainWindow::coloraBloccoLineaInterna(QColor)
 
 void MainWindow::on_coloracellatesto_clicked()
 {
-    if (!refusesWithoutSelection()) {
+    if (requireSelection()) {
         openColourPicker(&MainWindow::coloraCellaTesto);
     }
 }
@@ -183,7 +174,7 @@ void MainWindow::coloraCellaTesto(QColor color)
 
 void MainWindow::on_coloracellasfondo_clicked()
 {
-    if (!refusesWithoutSelection()) {
+    if (requireSelection()) {
         openColourPicker(&MainWindow::coloraCellaSfondo);
     }
 }
@@ -196,7 +187,7 @@ void MainWindow::coloraCellaSfondo(QColor color)
 
 void MainWindow::recolourCells(QColor Cella::*part, const QColor &colour, const QString &done)
 {
-    if (refusesWithoutSelection()) {
+    if (!requireSelection()) {
         return;
     }
     bool complete = true;
@@ -223,7 +214,7 @@ void MainWindow::warnOfSkippedCells(bool complete)
 
 void MainWindow::on_pagina_applica_clicked()
 {
-    if (refusesWithoutPages()) {
+    if (!requirePages()) {
         return;
     }
     for (Pagina *page : pagesInRange()) {
@@ -234,12 +225,12 @@ void MainWindow::on_pagina_applica_clicked()
 
 void MainWindow::on_blocco_applica_clicked()
 {
-    refusesWithoutPages();
+    requirePages();
 }
 
 void MainWindow::on_cella_applica_clicked()
 {
-    refusesWithoutPages();
+    requirePages();
 }
 
 void MainWindow::on_applica_tutte_celle_clicked(bool checked)
