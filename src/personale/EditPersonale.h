@@ -90,7 +90,6 @@ private:
     void restoreMainWindow();
     bool ask(const QString &title, const QString &question);
 
-    void rememberFolder(const QString &fileName);
     void writeMapping(const QString &fileName);
     void showSaveReport(const QString &fileName);
     void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);

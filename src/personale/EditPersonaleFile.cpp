@@ -8,7 +8,6 @@
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QTextStream>
@@ -42,14 +41,6 @@ MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
 }
 } // namespace
 
-void EditPersonale::rememberFolder(const QString &fileName)
-{
-    const QString folder = QFileInfo(fileName).path();
-    if (QDir(folder).exists()) {
-        globalConfig->defaultSaveDir = folder;
-    }
-}
-
 void EditPersonale::on_actionSave_triggered()
 {
     QString fileName =
@@ -59,7 +50,7 @@ void EditPersonale::on_actionSave_triggered()
         return;
     }
     fileName = withSuffix(fileName);
-    rememberFolder(fileName);
+    globalConfig->rememberFolder(fileName);
     const WaitCursor wait(this);
     writeMapping(fileName);
     showSaveReport(fileName);
@@ -111,7 +102,7 @@ void EditPersonale::on_actionOpen_triggered()
         ui->statusBar->showMessage(tr("Apertura file annullata!"));
         return;
     }
-    rememberFolder(fileName);
+    globalConfig->rememberFolder(fileName);
     const WaitCursor wait(this);
     QFile file(fileName);
     file.open(QIODevice::ReadOnly | QIODevice::Text);

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QSettings>
 #include <QStringList>
@@ -214,6 +215,16 @@ bool Config::writeComments(const QString &cNmin, const QString &cNmax, const QSt
 bool Config::isFirstStart() const
 {
     return firstStart;
+}
+
+bool Config::rememberFolder(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    if (!file.dir().exists()) {
+        return false;
+    }
+    defaultSaveDir = file.absolutePath();
+    return true;
 }
 
 int Config::formatId(const QString &suffix) const

@@ -25,6 +25,8 @@ public:
                        const QString &cCellText, const QString &cCellImage, const QString &cSaveDir,
                        const QString &cLanguage);
     bool isFirstStart() const;
+    // The folder of a file that the user chose becomes the save folder, in memory only. False when there is none.
+    bool rememberFolder(const QString &fileName);
 
     // Identifier of the output format with this suffix (upper case), -1 when it is not supported.
     int formatId(const QString &suffix) const;

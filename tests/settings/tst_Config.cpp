@@ -99,6 +99,10 @@ private slots:
     void resettingReplacesEveryValue();
     void anUnreadableFileReadsAsDefaults();
 
+    void theFolderOfAFileIsRemembered_data();
+    void theFolderOfAFileIsRemembered();
+    void aFolderThatIsMissingIsNotRemembered();
+
     void onlyUpperCasePdfIsAFormat();
     void everyFormatNameIsUnknown();
 };
@@ -547,6 +551,42 @@ void tst_Config::anUnreadableFileReadsAsDefaults()
     QCOMPARE(config.nMax, 90);
     QCOMPARE(config.defaultCellText, QStringLiteral("TXT"));
     QVERIFY(!comment(config, commentsInKeyOrder));
+}
+
+void tst_Config::theFolderOfAFileIsRemembered_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("in another folder") << QStringLiteral("%1/cards/set.pdf") << QStringLiteral("%1/cards");
+    QTest::newRow("of a file not yet there") << QStringLiteral("%1/cards/new.pdf") << QStringLiteral("%1/cards");
+    QTest::newRow("with a dot") << QStringLiteral("%1/v1.0/set") << QStringLiteral("%1/v1.0");
+    QTest::newRow("below the current one") << QStringLiteral("cards/set.pdf") << QStringLiteral("%1/cards");
+    QTest::newRow("the current one") << QStringLiteral("set.pdf") << QStringLiteral("%1");
+}
+
+void tst_Config::theFolderOfAFileIsRemembered()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, folder);
+    const ScratchFolder scratch;
+    scratch.write(QStringLiteral("cards/set.pdf"), "");
+    scratch.write(QStringLiteral("v1.0/set"), "");
+    Config config(nullptr);
+    config.defaultSaveDir = QStringLiteral("/before");
+    const QByteArray written = scratch.read(QStringLiteral("config.ini"));
+
+    QVERIFY(config.rememberFolder(file.contains(QLatin1Char('%')) ? file.arg(QDir::currentPath()) : file));
+    QCOMPARE(config.defaultSaveDir, folder.arg(QDir::currentPath()));
+    QCOMPARE(scratch.read(QStringLiteral("config.ini")), written); // only in memory
+}
+
+void tst_Config::aFolderThatIsMissingIsNotRemembered()
+{
+    const ScratchFolder scratch;
+    Config config(nullptr);
+    config.defaultSaveDir = QStringLiteral("/before");
+    QVERIFY(!config.rememberFolder(scratch.path(QStringLiteral("missing/set.pdf"))));
+    QCOMPARE(config.defaultSaveDir, QStringLiteral("/before"));
 }
 
 void tst_Config::onlyUpperCasePdfIsAFormat()
