@@ -52,6 +52,15 @@ MsgArea::MsgArea(QWidget *parent, bool fileMode)
 
 MsgArea::~MsgArea() = default;
 
+MsgArea *MsgArea::makeFor(QWidget *parent, bool fileMode)
+{
+    auto *window = new MsgArea(parent, fileMode);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowModality(Qt::WindowModal);
+    window->setEditable(fileMode);
+    return window;
+}
+
 void MsgArea::setEditable(bool editable)
 {
     ui->textEdit->setReadOnly(!editable);

@@ -21,6 +21,9 @@ public:
     MsgArea(QWidget *parent, bool fileMode);
     ~MsgArea() override;
 
+    // A window over `parent` that goes when it is closed, for the caller to fill and show. Only a file can be edited.
+    static MsgArea *makeFor(QWidget *parent, bool fileMode);
+
     void setEditable(bool editable);
     // In file mode a path, whose content is shown (empty when it cannot be read); in message mode the text itself.
     void setText(const QString &textOrPath, bool plain);

@@ -83,9 +83,7 @@ void EditPersonale::showSaveReport(const QString &fileName)
 
 void EditPersonale::showReport(const QString &text)
 {
-    m_msgArea = new MsgArea(this, false);
-    m_msgArea->setAttribute(Qt::WA_DeleteOnClose);
-    m_msgArea->setWindowModality(Qt::WindowModal);
+    m_msgArea = MsgArea::makeFor(this, false);
     m_msgArea->setText(text, true);
     m_msgArea->show();
 }

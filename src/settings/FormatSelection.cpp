@@ -86,10 +86,7 @@ void FormatSelection::on_procedi_clicked()
 
 void FormatSelection::on_default_settings_clicked()
 {
-    auto *editor = new MsgArea(this, true);
-    editor->setAttribute(Qt::WA_DeleteOnClose);
-    editor->setEditable(true);
-    editor->setWindowModality(Qt::WindowModal);
+    MsgArea *editor = MsgArea::makeFor(this, true);
     editor->setText(Config::filePath(), true);
     editor->show();
 }

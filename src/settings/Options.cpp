@@ -60,10 +60,7 @@ void Options::on_butt_azzeracontinua_clicked()
 
 void Options::on_butt_formatselection_clicked()
 {
-    m_msgArea = new MsgArea(this, true);
-    m_msgArea->setAttribute(Qt::WA_DeleteOnClose);
-    m_msgArea->setEditable(true);
-    m_msgArea->setWindowModality(Qt::WindowModal);
+    m_msgArea = MsgArea::makeFor(this, true);
     m_msgArea->setText(Config::filePath(), true);
     m_msgArea->show();
 }

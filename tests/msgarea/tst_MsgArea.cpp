@@ -64,6 +64,8 @@ private slots:
     void aClosedWindowIsDeleted();
     void escisClosesTheWindow();
     void editingCanBeSwitchedOff();
+    void onlyAFileIsMadeForEditing_data();
+    void onlyAFileIsMadeForEditing();
 
     void aMessageIsShownPlainOrAsHtml();
     void aFileIsShownPlainOrAsHtml();
@@ -162,6 +164,29 @@ void tst_MsgArea::editingCanBeSwitchedOff()
     QVERIFY(area.edit()->isReadOnly());
     area.window->setEditable(true);
     QVERIFY(!area.edit()->isReadOnly());
+}
+
+void tst_MsgArea::onlyAFileIsMadeForEditing_data()
+{
+    QTest::addColumn<bool>("fileMode");
+    QTest::newRow("report") << false;
+    QTest::newRow("file") << true;
+}
+
+void tst_MsgArea::onlyAFileIsMadeForEditing()
+{
+    QFETCH(bool, fileMode);
+    QWidget owner;
+    const QPointer<MsgArea> window = MsgArea::makeFor(&owner, fileMode);
+    QCOMPARE(window->parentWidget(), &owner);
+    QCOMPARE(window->windowModality(), Qt::WindowModal);
+    QCOMPARE(window->findChild<QTextEdit *>()->isReadOnly(), !fileMode);
+    QCOMPARE(!window->findChild<QMenuBar *>()->isHidden(), fileMode);
+    QVERIFY(!window->isVisible()); // not yet filled
+    window->show();
+    QVERIFY(window->close());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(window.isNull());
 }
 
 void tst_MsgArea::aMessageIsShownPlainOrAsHtml()
