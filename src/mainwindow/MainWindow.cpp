@@ -4,17 +4,13 @@
 #include "generation/GUtils.h"
 #include "generation/GeneraCartellaClassica.h"
 #include "msgarea/MsgArea.h"
-#include "msgarea/WaitCursor.h"
-#include "output/CreateOutputFile.h"
 #include "resources/Resources.h"
-#include "settings/Config.h"
 #include "settings/Options.h"
 #include "settings/Product.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
 #include <QColorDialog>
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -142,61 +138,6 @@ bool MainWindow::event(QEvent *event)
     return QMainWindow::event(event);
 }
 
-void MainWindow::on_butt_stampa_clicked()
-{
-    if (!m_generated || m_cartella->getNumPages() == 0) {
-        QMessageBox::warning(this, boxTitle(), tr("La cartella non contiene pagine!"));
-        updateStatusBar(tr("Aggiungere pagine alla cartella prima di proseguire."));
-        return;
-    }
-    const QString fileName = askPrintFileName();
-    if (fileName.isEmpty()) {
-        updateStatusBar(tr("Creazione file annullata!"));
-        return;
-    }
-    QString report;
-    if (!writeOutputFile(fileName, report)) {
-        warn(tr("Errore nella creazione del file:\n%1").arg(fileName), report);
-        return;
-    }
-    MsgArea *window = openMsgArea();
-    window->setText(report, true);
-    window->show();
-}
-
-// The file to print to, with its suffix; empty when the user gave none that can be. The folder is remembered.
-QString MainWindow::askPrintFileName()
-{
-    const QString suffix = globalConfig->outputFormatName.toLower();
-    const QString filter = QStringLiteral("%1 (*.%2);;").arg(globalConfig->outputFormatName, suffix);
-    const QString chosen =
-        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, filter);
-    const QFileInfo file(chosen);
-    if (chosen.isEmpty() || !file.dir().exists()) {
-        return QString();
-    }
-    globalConfig->defaultSaveDir = file.absolutePath();
-    return file.fileName().contains(QLatin1Char('.')) ? chosen : chosen + QLatin1Char('.') + suffix;
-}
-
-bool MainWindow::writeOutputFile(const QString &fileName, QString &report)
-{
-    const WaitCursor wait(this);
-    CreateOutputFile output(this);
-    connect(&output, &CreateOutputFile::status, this, &MainWindow::updateStatusBar);
-    return output.create(fileName, m_cartella.get(), report) >= 0;
-}
-
-// A message window over this one, that deletes itself when closed. The caller fills and shows it.
-MsgArea *MainWindow::openMsgArea()
-{
-    auto *window = new MsgArea(this, false);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWindowModality(Qt::WindowModal);
-    window->setEditable(false);
-    return window;
-}
-
 QString MainWindow::boxTitle()
 {
     return Product::titleFor(tr("Cartella classica"));
@@ -208,11 +149,6 @@ void MainWindow::warn(const QString &text, const QString &reason)
     QMessageBox box(QMessageBox::Warning, boxTitle(), text, QMessageBox::Ok, this);
     box.setInformativeText(reason);
     box.exec();
-}
-
-void MainWindow::on_pagina_formato_currentIndexChanged(int index)
-{
-    m_cartella->formato = index;
 }
 
 void MainWindow::on_actionEsci_triggered()
@@ -255,7 +191,7 @@ void MainWindow::on_actionInformazioni_triggered()
 {
     QString description = tr("Generatore di cartelle per la Quintra.\nAdvanced Bingo cards generator.");
     description.replace(QLatin1Char('\n'), QStringLiteral("<br/>"));
-    m_about = openMsgArea();
+    m_about = MsgArea::makeFor(this, false);
     m_about->setWindowTitle(Product::titleFor(tr("Informazioni")));
     m_about->setText(
         QStringLiteral("<h1>%1</h1><p>%2</p><p>%3</p>").arg(Product::nameText(), Product::releaseText(), description),

@@ -135,10 +135,11 @@ private:
     void showFirstPage();
     void openEditor(bool append);
 
-    // Boxes, report windows, printing.
+    // Boxes.
     static QString boxTitle();
     void warn(const QString &text, const QString &reason);
-    MsgArea *openMsgArea();
+
+    // Printing.
     QString askPrintFileName();
     bool writeOutputFile(const QString &fileName, QString &report);
 

@@ -299,7 +299,7 @@ void MainWindow::showEqualBlocks(qint64 pairs)
     if (pairs > lines.size()) {
         lines.append(tr("... e altre coppie di blocchi uguali: %1.").arg(pairs - lines.size()));
     }
-    MsgArea *report = openMsgArea();
+    MsgArea *report = MsgArea::makeFor(this, false);
     report->setLines(lines);
     report->show();
 }

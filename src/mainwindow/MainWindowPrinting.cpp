@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/MainWindow.h"
+
+#include "msgarea/MsgArea.h"
+#include "msgarea/WaitCursor.h"
+#include "output/CreateOutputFile.h"
+#include "settings/Config.h"
+#include "ui_MainWindow.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+void MainWindow::on_pagina_formato_currentIndexChanged(int index)
+{
+    m_cartella->formato = index;
+}
+
+void MainWindow::on_butt_stampa_clicked()
+{
+    if (!m_generated || m_cartella->getNumPages() == 0) {
+        QMessageBox::warning(this, boxTitle(), tr("La cartella non contiene pagine!"));
+        updateStatusBar(tr("Aggiungere pagine alla cartella prima di proseguire."));
+        return;
+    }
+    const QString fileName = askPrintFileName();
+    if (fileName.isEmpty()) {
+        updateStatusBar(tr("Creazione file annullata!"));
+        return;
+    }
+    QString report;
+    if (!writeOutputFile(fileName, report)) {
+        warn(tr("Errore nella creazione del file:\n%1").arg(fileName), report);
+        return;
+    }
+    MsgArea *window = MsgArea::makeFor(this, false);
+    window->setText(report, true);
+    window->show();
+}
+
+// The file to print to, with its suffix; empty when the user gave none that can be. The folder is remembered.
+QString MainWindow::askPrintFileName()
+{
+    const QString suffix = globalConfig->outputFormatName.toLower();
+    const QString filter = QStringLiteral("%1 (*.%2);;").arg(globalConfig->outputFormatName, suffix);
+    const QString chosen =
+        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, filter);
+    if (chosen.isEmpty() || !globalConfig->rememberFolder(chosen)) {
+        return QString();
+    }
+    return QFileInfo(chosen).fileName().contains(QLatin1Char('.')) ? chosen : chosen + QLatin1Char('.') + suffix;
+}
+
+bool MainWindow::writeOutputFile(const QString &fileName, QString &report)
+{
+    const WaitCursor wait(this);
+    CreateOutputFile output(this);
+    connect(&output, &CreateOutputFile::status, this, &MainWindow::updateStatusBar);
+    return output.create(fileName, m_cartella.get(), report) >= 0;
+}

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/PageWindow.h"
+#include "msgarea/MsgArea.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QTextEdit>
+
+namespace {
+const QString boxTitle = QStringLiteral("Quintra - Cartella classica");
+const QString saveCaption = QStringLiteral("Salva le cartelle su file");
+
+QString shownText(const MsgArea &window)
+{
+    return window.findChild<QTextEdit *>()->toPlainText();
+}
+} // namespace
+
+class tst_MainWindowPrinting final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void thePaperFormatIsWrittenIntoTheCardSet();
+    void aNewCardSetKeepsTheChosenPaperFormat();
+    void printingNeedsPages();
+    void printingNeedsPagesAlsoWhenAllWereDeleted();
+    void printingAsksForAFileInTheSaveFolder();
+    void printingIntoAMissingFolderIsCancelled();
+    void aPrintedSetIsReported();
+    void theSuffixIsAppendedToANameWithoutOne_data();
+    void theSuffixIsAppendedToANameWithoutOne();
+    void anUnknownSuffixIsAnError();
+    void aFileThatCannotBeWrittenIsAnError();
+    void printingShowsTheWaitCursor();
+};
+
+void tst_MainWindowPrinting::thePaperFormatIsWrittenIntoTheCardSet()
+{
+    const PageWindow page;
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(8);
+    QCOMPARE(page.set()->formato, 8);
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(0);
+    QCOMPARE(page.set()->formato, 0);
+}
+
+void tst_MainWindowPrinting::aNewCardSetKeepsTheChosenPaperFormat()
+{
+    const PageWindow page;
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(8);
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 1);
+    QCOMPARE(page.set()->formato, 8);
+}
+
+void tst_MainWindowPrinting::printingNeedsPages()
+{
+    PageWindow page;
+    page.boxes.expectBox(boxTitle, QStringLiteral("La cartella non contiene pagine!"), QMessageBox::Ok,
+                         QMessageBox::Warning);
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Aggiungere pagine alla cartella prima di proseguire."));
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::printingNeedsPagesAlsoWhenAllWereDeleted()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    page.press("pagina_elimina");
+    QCOMPARE(page.set()->getNumPages(), 0);
+    page.boxes.expectBox(boxTitle, QStringLiteral("La cartella non contiene pagine!"), QMessageBox::Ok,
+                         QMessageBox::Warning);
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Aggiungere pagine alla cartella prima di proseguire."));
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::printingAsksForAFileInTheSaveFolder()
+{
+    PageWindow page;
+    QVERIFY(QDir().mkdir(QStringLiteral("stampe")));
+    const QString folder = QDir::current().filePath(QStringLiteral("stampe"));
+    globalConfig->defaultSaveDir = folder;
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectFileDialog(saveCaption, QString(), [&](QWidget *dialog) {
+        const auto *chooser = qobject_cast<QFileDialog *>(dialog);
+        QCOMPARE(chooser->acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(chooser->directory().absolutePath(), folder);
+        QCOMPARE(chooser->nameFilters().value(0), QStringLiteral("PDF (*.pdf)"));
+    });
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Creazione file annullata!"));
+    QCOMPARE(globalConfig->defaultSaveDir, folder);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::printingIntoAMissingFolderIsCancelled()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QString before = globalConfig->defaultSaveDir;
+    const QString missing = QDir::current().filePath(QStringLiteral("manca"));
+    QVERIFY(QDir().mkdir(missing));
+    page.boxes.expectFileDialog(saveCaption, missing + QStringLiteral("/cartelle.pdf"), [&](QWidget *dialog) {
+        // The folder goes while the dialog is open.
+        qobject_cast<QFileDialog *>(dialog)->setDirectory(missing);
+        QVERIFY(QDir().rmdir(missing));
+    });
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Creazione file annullata!"));
+    QCOMPARE(globalConfig->defaultSaveDir, before);
+    QVERIFY(page.window->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::aPrintedSetIsReported()
+{
+    PageWindow page;
+    page.find<QSpinBox>("box_classica_numeropagine")->setValue(3);
+    page.press("butt_aggiungi_pagine");
+    QVERIFY(QDir().mkdir(QStringLiteral("stampe")));
+    const QString folder = QDir::current().filePath(QStringLiteral("stampe"));
+    const QString file = folder + QStringLiteral("/cartelle.pdf");
+    page.boxes.expectFileDialog(saveCaption, file);
+    const StatusLog log(page);
+    page.press("butt_stampa");
+
+    QVERIFY(QFileInfo(file).size() > 0);
+    QCOMPARE(globalConfig->defaultSaveDir, folder);
+    QCOMPARE(log.messages(), QStringList({QStringLiteral("PDF: Stampa pagina 1 di 3 (0%) in corso..."),
+                                          QStringLiteral("PDF: Stampa pagina 2 di 3 (33%) in corso..."),
+                                          QStringLiteral("PDF: Stampa pagina 3 di 3 (66%) in corso..."),
+                                          QStringLiteral("Stampa PDF completata!")}));
+    const auto *report = page.window->findChild<MsgArea *>();
+    QVERIFY(report != nullptr);
+    QVERIFY(report->isVisible());
+    QCOMPARE(report->windowModality(), Qt::WindowModal);
+    QVERIFY(report->findChild<QTextEdit *>()->isReadOnly());
+    QVERIFY2(shownText(*report).startsWith(QStringLiteral("File creato con successo!\n\nNome: cartelle\nPercorso: ") +
+                                           folder + QStringLiteral("\n\nPagine: 3\n")),
+             qPrintable(shownText(*report)));
+    QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::theSuffixIsAppendedToANameWithoutOne_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("bare name") << QStringLiteral("cartelle") << QStringLiteral("cartelle.pdf");
+    QTest::newRow("suffix given") << QStringLiteral("cartelle.PDF") << QStringLiteral("cartelle.PDF");
+    QTest::newRow("folder with a dot") << QStringLiteral("v1.0/cartelle") << QStringLiteral("v1.0/cartelle.pdf");
+}
+
+void tst_MainWindowPrinting::theSuffixIsAppendedToANameWithoutOne()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, written);
+    PageWindow page;
+    QVERIFY(QDir().mkdir(QStringLiteral("v1.0")));
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectFileDialog(saveCaption, QDir::current().filePath(chosen));
+    page.press("butt_stampa");
+    QVERIFY(QFileInfo(written).size() > 0);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::anUnknownSuffixIsAnError()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QString file = QDir::current().filePath(QStringLiteral("cartelle.txt"));
+    page.boxes.expectFileDialog(saveCaption, file);
+    page.boxes.expectBox(boxTitle, QStringLiteral("Errore nella creazione del file:\n") + file, QMessageBox::Ok,
+                         [&](const QMessageBox *box) {
+                             QCOMPARE(box->icon(), QMessageBox::Warning);
+                             QCOMPARE(box->informativeText(), QStringLiteral("Formato file sconosciuto!"));
+                             QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+                         });
+    page.press("butt_stampa");
+    QVERIFY(!QFileInfo::exists(file));
+    QVERIFY(page.window->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::aFileThatCannotBeWrittenIsAnError()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    // A dangling link into a missing folder: its own folder exists, and not even root can write it.
+    const QString file = QDir::current().filePath(QStringLiteral("cartelle.pdf"));
+    QVERIFY(QFile::link(QStringLiteral("/nonexistent/cartelle.pdf"), file));
+    page.boxes.expectFileDialog(saveCaption, file);
+    page.boxes.expectBox(boxTitle, QStringLiteral("Errore nella creazione del file:\n") + file, QMessageBox::Ok,
+                         [&](const QMessageBox *box) {
+                             QCOMPARE(box->icon(), QMessageBox::Warning);
+                             QCOMPARE(box->informativeText(), QStringLiteral("Impossibile scrivere sul file!"));
+                             QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+                         });
+    page.press("butt_stampa");
+    QVERIFY(page.window->findChild<MsgArea *>() == nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowPrinting::printingShowsTheWaitCursor()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectFileDialog(saveCaption, QDir::current().filePath(QStringLiteral("cartelle.pdf")));
+    QList<Qt::CursorShape> cursors;
+    connect(page.window->statusBar(), &QStatusBar::messageChanged,
+            [&]() { cursors.append(page.window->cursor().shape()); });
+    page.press("butt_stampa");
+    QCOMPARE(cursors, QList<Qt::CursorShape>({Qt::WaitCursor, Qt::WaitCursor}));
+    QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+QTEST_MAIN(tst_MainWindowPrinting)
+#include "tst_MainWindowPrinting.moc"
