@@ -4,12 +4,11 @@
 #include <algorithm>
 
 namespace {
-void colourBlock(const Blocco &block, const QColor &colour)
+void colourBlock(Blocco &block, const QColor &colour)
 {
-    for (size_t row = 0; row < block.nRighe; ++row) {
-        const Riga &cells = block.righe[row];
-        for (size_t column = 0; column < cells.nCelle; ++column) {
-            cells.celle[column].coloreSfondo = colour;
+    for (Riga &row : block) {
+        for (Cella &cell : row) {
+            cell.coloreSfondo = colour;
         }
     }
 }
@@ -34,11 +33,13 @@ QVector<Pagina *> reachedPages(const QVector<Pagina *> &pages, int shown, bool a
 
 void colourBlocks(const QVector<Pagina *> &pages, int block, bool allBlocks, const QColor &colour)
 {
-    for (const Pagina *page : pages) {
-        for (int i = 0; i < page->nBlocchi; ++i) {
-            if (allBlocks || i == block) {
-                colourBlock(page->blocchi[static_cast<size_t>(i)], colour);
+    for (Pagina *page : pages) {
+        int index = 0;
+        for (Blocco &candidate : *page) {
+            if (allBlocks || index == block) {
+                colourBlock(candidate, colour);
             }
+            ++index;
         }
     }
 }

@@ -97,7 +97,7 @@ QColor readableOn(const QColor &background)
     return qGray(background.rgb()) < middleGrey ? Qt::white : Qt::black;
 }
 
-void fillTable(QTableWidget *table, Pagina &page, int columns, const QString &emptyText)
+void fillTable(QTableWidget *table, const Pagina &page, int columns, const QString &emptyText)
 {
     table->setColumnCount(columns);
     table->setRowCount(tableRowCount(page));
@@ -107,13 +107,14 @@ void fillTable(QTableWidget *table, Pagina &page, int columns, const QString &em
     CellItems items(emptyText);
     const QTableWidgetItem filler = fillerItem();
     int tableRow = 0;
-    for (size_t block = 0; block < page.nBlocchi; ++block) {
-        for (size_t row = 0; row < page.blocchi[block].nRighe; ++row) {
-            const Riga &cells = page.blocchi[block].righe[row];
-            for (int column = 0; column < columns; ++column) {
-                table->setItem(tableRow, column,
-                               column < cells.nCelle ? items.make(cells.celle[static_cast<size_t>(column)])
-                                                     : new QTableWidgetItem(filler));
+    for (const Blocco &block : page) {
+        for (const Riga &row : block) {
+            int column = 0;
+            for (const Cella &cell : row) {
+                table->setItem(tableRow, column++, items.make(cell));
+            }
+            while (column < columns) {
+                table->setItem(tableRow, column++, new QTableWidgetItem(filler));
             }
             ++tableRow;
         }

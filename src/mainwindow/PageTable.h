@@ -19,4 +19,4 @@ class QTableWidget;
 [[nodiscard]] QColor readableOn(const QColor &background);
 
 // Fills an empty table, not yet connected, with the items of the page. `columns` is at least the longest row.
-void fillTable(QTableWidget *table, Pagina &page, int columns, const QString &emptyText);
+void fillTable(QTableWidget *table, const Pagina &page, int columns, const QString &emptyText);

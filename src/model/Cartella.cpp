@@ -30,8 +30,8 @@ Blocco emptyBlock(U8 nRighe, U8 nCelle)
 U8 widestRow(const Blocco &block)
 {
     U8 widest = 0;
-    for (int r = 0; r < block.nRighe; ++r) {
-        widest = std::max(widest, block.righe[r].nCelle);
+    for (const Riga &row : block) {
+        widest = std::max(widest, row.nCelle);
     }
     return widest;
 }
@@ -39,8 +39,8 @@ U8 widestRow(const Blocco &block)
 U8 widestRow(const Pagina &page)
 {
     U8 widest = 0;
-    for (int b = 0; b < page.nBlocchi; ++b) {
-        widest = std::max(widest, widestRow(page.blocchi[b]));
+    for (const Blocco &block : page) {
+        widest = std::max(widest, widestRow(block));
     }
     return widest;
 }

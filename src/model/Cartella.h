@@ -24,6 +24,7 @@ enum CELL_VALUE : qint32 {
 const QFont &defaultCellFont();
 
 // The records are open: other code reads and writes their fields. A count always equals the length of its array.
+// Range-based for walks the parts of a record; those of a const record are const.
 
 struct Cella
 {
@@ -40,6 +41,11 @@ struct Riga
 {
     U8 nCelle = 0;
     std::unique_ptr<Cella[]> celle; // left to right
+
+    friend Cella *begin(Riga &row) { return row.celle.get(); }
+    friend Cella *end(Riga &row) { return begin(row) + row.nCelle; }
+    friend const Cella *begin(const Riga &row) { return row.celle.get(); }
+    friend const Cella *end(const Riga &row) { return begin(row) + row.nCelle; }
 };
 
 struct Blocco
@@ -50,6 +56,11 @@ struct Blocco
     qint32 spessoreLineaInterna = 0;
     QColor coloreLineaEsterna = Qt::black;
     QColor coloreLineaInterna = Qt::black;
+
+    friend Riga *begin(Blocco &block) { return block.righe.get(); }
+    friend Riga *end(Blocco &block) { return begin(block) + block.nRighe; }
+    friend const Riga *begin(const Blocco &block) { return block.righe.get(); }
+    friend const Riga *end(const Blocco &block) { return begin(block) + block.nRighe; }
 };
 
 struct Pagina
@@ -58,6 +69,11 @@ struct Pagina
     std::unique_ptr<Blocco[]> blocchi; // top to bottom
     QColor sfondo = Qt::white;
     float spazioBlocchi = 1.2F; // millimetres between blocks
+
+    friend Blocco *begin(Pagina &page) { return page.blocchi.get(); }
+    friend Blocco *end(Pagina &page) { return begin(page) + page.nBlocchi; }
+    friend const Blocco *begin(const Pagina &page) { return page.blocchi.get(); }
+    friend const Blocco *end(const Pagina &page) { return begin(page) + page.nBlocchi; }
 };
 
 // The card set: an ordered list of pages of blocks (the cards) of rows of cells. All indices are 0-based.

@@ -1,31 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "model/Positions.h"
 
-namespace {
-Cella *find(const Pagina &page, int tableRow, int column)
-{
-    const std::optional<RowPosition> position = rowPosition(page, tableRow);
-    if (!position) {
-        return nullptr;
-    }
-    const Blocco &block = page.blocchi[static_cast<size_t>(position->block)];
-    const Riga &row = block.righe[static_cast<size_t>(position->row)];
-    return column >= 0 && column < row.nCelle ? &row.celle[static_cast<size_t>(column)] : nullptr;
-}
-} // namespace
+#include <utility>
 
 std::optional<RowPosition> rowPosition(const Pagina &page, int tableRow)
 {
     if (tableRow < 0) {
         return std::nullopt;
     }
-    int firstRow = 0;
-    for (int block = 0; block < page.nBlocchi; ++block) {
-        const int rows = page.blocchi[static_cast<size_t>(block)].nRighe;
-        if (tableRow < firstRow + rows) {
-            return RowPosition{block, tableRow - firstRow, firstRow};
+    RowPosition position{0, tableRow, 0};
+    for (const Blocco &block : page) {
+        if (position.row < block.nRighe) {
+            return position;
         }
-        firstRow += rows;
+        position.row -= block.nRighe;
+        position.firstRow += block.nRighe;
+        ++position.block;
     }
     return std::nullopt;
 }
@@ -33,18 +23,23 @@ std::optional<RowPosition> rowPosition(const Pagina &page, int tableRow)
 int tableRowCount(const Pagina &page)
 {
     int rows = 0;
-    for (size_t block = 0; block < page.nBlocchi; ++block) {
-        rows += page.blocchi[block].nRighe;
+    for (const Blocco &block : page) {
+        rows += block.nRighe;
     }
     return rows;
 }
 
 Cella *cellAt(Pagina &page, int tableRow, int column)
 {
-    return find(page, tableRow, column);
+    return const_cast<Cella *>(cellAt(std::as_const(page), tableRow, column)); // a cell of a page that is not const
 }
 
 const Cella *cellAt(const Pagina &page, int tableRow, int column)
 {
-    return find(page, tableRow, column);
+    const std::optional<RowPosition> position = rowPosition(page, tableRow);
+    if (!position) {
+        return nullptr;
+    }
+    const Riga &row = begin(begin(page)[position->block])[position->row];
+    return column >= 0 && column < row.nCelle ? begin(row) + column : nullptr;
 }

@@ -113,10 +113,8 @@ void EditPersonale::takeDisplayedBoxes()
 
 void EditPersonale::displayPage(U16 page)
 {
-    PaginaPersonale &shown = m_pages[page];
     ui->boxesWidget->hide();
-    for (size_t i = 0; i < shown.cellCount(); ++i) {
-        PersonaleChkBox &box = shown.chk[i];
+    for (PersonaleChkBox &box : m_pages[page]) {
         ui->boxesGridLayout->addWidget(&box, box.riga, box.colonna);
         box.show();
     }

@@ -34,8 +34,8 @@ MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
 {
     MappingFile::SchemaPagina scheme{page.nRighe, page.nColonne, {}};
     scheme.celle.reserve(page.cellCount());
-    for (size_t i = 0; i < page.cellCount(); ++i) {
-        scheme.celle.push_back({page.chk[i].tipo, page.chk[i].isChecked()});
+    for (const PersonaleChkBox &box : page) {
+        scheme.celle.push_back({box.tipo, box.isChecked()});
     }
     return scheme;
 }

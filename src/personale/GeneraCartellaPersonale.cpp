@@ -2,6 +2,7 @@
 #include "personale/GeneraCartellaPersonale.h"
 
 #include "generation/GUtils.h"
+#include "model/Positions.h"
 
 #include <cmath>
 #include <optional>
@@ -14,11 +15,6 @@ struct ImpossibleColumn
     int column; // 0-based
     int rangeSize;
 };
-
-Cella &cellAt(Pagina *pagina, int row, int column)
-{
-    return pagina->blocchi[0].righe[static_cast<size_t>(row)].celle[static_cast<size_t>(column)];
-}
 
 QVector<int> tickedNumbersPerColumn(const PaginaPersonale &schema)
 {
@@ -158,7 +154,7 @@ bool GeneraCartellaPersonale::riempiPagina(Pagina *pagina, PaginaPersonale &sche
         for (int column = 0; column < schema.nColonne; ++column) {
             PersonaleChkBox &box = schema.cell(row, column);
             if (box.isChecked()) {
-                fillCell(cellAt(pagina, row, column), box, numbers, remaining);
+                fillCell(*cellAt(*pagina, row, column), box, numbers, remaining);
             }
         }
     }
@@ -186,7 +182,7 @@ bool GeneraCartellaPersonale::riempiPerColonne(Pagina *pagina, PaginaPersonale &
         for (int row = 0; row < schema.nRighe; ++row) {
             PersonaleChkBox &box = schema.cell(row, column);
             if (box.isChecked()) {
-                fillCell(cellAt(pagina, row, column), box, numbers, wanted[column]);
+                fillCell(*cellAt(*pagina, row, column), box, numbers, wanted[column]);
             }
         }
     }

@@ -19,9 +19,11 @@ struct PaginaPersonale
     size_t cellCount() const { return size_t{nRighe} * nColonne; }
     bool hasCell(int row, int column) const { return row < nRighe && column < nColonne; }
     PersonaleChkBox &cell(int row, int column) const { return chk[static_cast<size_t>(row * nColonne + column)]; }
+    PersonaleChkBox *begin() const { return chk.get(); }
+    PersonaleChkBox *end() const { return begin() + cellCount(); }
     int tickedNumbers() const
     {
-        return static_cast<int>(std::count_if(chk.get(), chk.get() + cellCount(),
-                                              [](const PersonaleChkBox &box) { return box.isTickedNumber(); }));
+        return static_cast<int>(
+            std::count_if(begin(), end(), [](const PersonaleChkBox &box) { return box.isTickedNumber(); }));
     }
 };

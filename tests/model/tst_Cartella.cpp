@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <memory>
+#include <type_traits>
 
 namespace {
 const QStringList noWarnings;
@@ -44,6 +45,9 @@ private slots:
     void theTypeValuesAreFixed();
     void aNewPageHasItsDefaults();
     void allCellsShareOneFont();
+    void thePartsOfAPageAreWalkedInOrder();
+    void thePartsOfAConstPageAreConst();
+    void aRecordWithoutPartsIsWalkedWithoutAStep();
     void equalPagesAreMadeInOneGo();
     void onePageIsMadeInOneGo();
     void aSetHasItsDefaultsHoweverItIsMade();
@@ -142,6 +146,48 @@ void tst_Cartella::allCellsShareOneFont()
     const Riga &row = set.pagine[0]->blocchi[0].righe[0];
     QVERIFY(row.celle[0].font.isCopyOf(row.celle[1].font));
     QVERIFY(row.celle[0].font.isCopyOf(defaultCellFont()));
+}
+
+void tst_Cartella::thePartsOfAPageAreWalkedInOrder()
+{
+    const Cartella set(2, 3, 4);
+    Pagina &page = *set.pagine[0];
+    resizeRow(page.blocchi[0].righe[1], 6);
+    QVector<const Cella *> walked;
+    for (Blocco &block : page) {
+        for (Riga &row : block) {
+            for (Cella &cell : row) {
+                walked.append(&cell);
+            }
+        }
+    }
+    QCOMPARE(walked.size(), 2 * 3 * 4 + 2);
+    QCOMPARE(walked.first(), &page.blocchi[0].righe[0].celle[0]);
+    QCOMPARE(walked[4 + 5], &page.blocchi[0].righe[1].celle[5]);
+    QCOMPARE(walked[4 + 6], &page.blocchi[0].righe[2].celle[0]);
+    QCOMPARE(walked.last(), &page.blocchi[1].righe[2].celle[3]);
+}
+
+void tst_Cartella::thePartsOfAConstPageAreConst()
+{
+    const Cartella set(2, 3, 4);
+    const Pagina &page = *set.pagine[0];
+    QVERIFY((std::is_same_v<decltype(*begin(page)), const Blocco &>));
+    QVERIFY((std::is_same_v<decltype(*begin(*begin(page))), const Riga &>));
+    QVERIFY((std::is_same_v<decltype(*begin(*begin(*begin(page)))), const Cella &>));
+    QCOMPARE(end(page) - begin(page), 2);
+    QCOMPARE(end(*begin(page)) - begin(*begin(page)), 3);
+    QCOMPARE(end(*begin(*begin(page))) - begin(*begin(*begin(page))), 4);
+}
+
+void tst_Cartella::aRecordWithoutPartsIsWalkedWithoutAStep()
+{
+    Pagina page;
+    Blocco block;
+    Riga row;
+    QCOMPARE(begin(page), end(page));
+    QCOMPARE(begin(block), end(block));
+    QCOMPARE(begin(row), end(row));
 }
 
 void tst_Cartella::equalPagesAreMadeInOneGo()
