@@ -2,6 +2,7 @@
 #include "settings/TranslationChecks.h"
 
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
@@ -12,19 +13,19 @@
 
 namespace TranslationChecks {
 namespace {
-const QStringList configComments = {
-    QStringLiteral("Numeri - Minimo"),
-    QStringLiteral("Numeri - Massimo"),
-    QStringLiteral("Classica - Numero blocchi"),
-    QStringLiteral("Classica - Numero righe per blocco"),
-    QStringLiteral("Classica - Numero estrazioni per riga"),
-    QStringLiteral("Classica - Numero colonne"),
-    QStringLiteral("Classica - Numero jolly per riga"),
-    QStringLiteral("Testo di base nelle celle"),
-    QStringLiteral("Immagine di base nelle celle"),
-    QStringLiteral("Directory di base dove salvare"),
-    QStringLiteral("Lingua di default"),
+// What may follow a number in the texts: words that it does not count, and units.
+const QHash<QString, QStringList> notCounted = {
+    {QStringLiteral("en"), QStringLiteral("and is of saved to bytes MB").split(QLatin1Char(' '))},
+    {QStringLiteral("de"),
+     QStringLiteral("bis gespeichert nicht und von weiter wird Bytes MB").split(QLatin1Char(' '))},
+    {QStringLiteral("fr"), QStringLiteral("à enregistrée et non sur octets Mo").split(QLatin1Char(' '))},
+    {QStringLiteral("es"), QStringLiteral("a de guardada no y bytes MB").split(QLatin1Char(' '))},
 };
+
+QString speechOf(const Entry &entry)
+{
+    return entry.language.section(QLatin1Char('_'), 0, 0);
+}
 
 // The translation element: its text, or the texts of its plural forms.
 QStringList readForms(QXmlStreamReader &xml)
@@ -108,6 +109,9 @@ Source read(const QByteArray &content)
             readMessage(xml, context, source.entries);
         }
     }
+    for (Entry &entry : source.entries) {
+        entry.language = source.language;
+    }
     if (xml.hasError()) {
         source.error = xml.errorString();
     }
@@ -153,9 +157,39 @@ bool changesLineBreaks(const Entry &entry)
 bool leavesLatin1(const Entry &entry)
 {
     constexpr ushort lastOfLatin1 = 0xff;
-    return entry.context == QLatin1String("FormatSelection") && configComments.contains(entry.source) &&
-           std::any_of(entry.translation.begin(), entry.translation.end(),
+    return std::any_of(entry.translation.begin(), entry.translation.end(),
                        [](QChar character) { return character.unicode() > lastOfLatin1; });
+}
+
+bool countsAWord(const Entry &entry)
+{
+    static const QRegularExpression pattern(QStringLiteral("%L?\\d{1,2}[ \u00a0](\\w+)"),
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    const auto words = notCounted.constFind(speechOf(entry));
+    if (words == notCounted.constEnd()) {
+        return false;
+    }
+    for (auto matches = pattern.globalMatch(entry.translation); matches.hasNext();) {
+        if (!words->contains(matches.next().captured(1))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool misplacesPercentSigns(const Entry &entry)
+{
+    static const QRegularExpression unparted(QStringLiteral("(?<!\u00a0)%(?![\\dA-Za-z])"));
+    static const QRegularExpression parted(QStringLiteral("[ \u00a0]%(?![\\dA-Za-z])"));
+    static const QStringList parting = {QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("es")};
+    return entry.translation.contains(parting.contains(speechOf(entry)) ? unparted : parted);
+}
+
+bool misplacesFrenchSigns(const Entry &entry)
+{
+    // Two semicolons are not written to be read: they part the filters of a file dialog.
+    static const QRegularExpression unparted(QStringLiteral("(?<![\u00a0;])[:;!?](?!;)"));
+    return speechOf(entry) == QLatin1String("fr") && entry.translation.contains(unparted);
 }
 
 QStringList problems(const QVector<Entry> &entries)
@@ -169,7 +203,10 @@ QStringList problems(const QVector<Entry> &entries)
                                    {changesPlaceholders, QStringLiteral("other placeholders")},
                                    {changesColour, QStringLiteral("other colour of the status bar")},
                                    {changesLineBreaks, QStringLiteral("other line breaks")},
-                                   {leavesLatin1, QStringLiteral("not Latin-1")}};
+                                   {leavesLatin1, QStringLiteral("not Latin-1")},
+                                   {countsAWord, QStringLiteral("a number before what it counts")},
+                                   {misplacesPercentSigns, QStringLiteral("spacing of a percent sign")},
+                                   {misplacesFrenchSigns, QStringLiteral("spacing of a French sign")}};
     QStringList found;
     for (const Entry &entry : entries) {
         for (const Check &check : checks) {

@@ -14,6 +14,7 @@ struct Entry
     QString source;
     QString comment; // tells apart equal texts of one context
     QString translation;
+    QString language; // locale of the translation, such as de_DE
     bool unfinished = false;
 
     QString key() const { return context + QLatin1Char('/') + source + QLatin1Char('/') + comment; }
@@ -35,8 +36,15 @@ bool changesPlaceholders(const Entry &entry);
 // The status bar takes its colour from the last character of a message.
 bool changesColour(const Entry &entry);
 bool changesLineBreaks(const Entry &entry);
-// The comments of config.ini are written in Latin-1.
+// Texts are saved in Latin-1.
 bool leavesLatin1(const Entry &entry);
+// A number before the word that it counts, as in "%1 pages", is wrong when it is 1: "Pages: %1" never is. Italian
+// repeats the source texts, whatever they are.
+bool countsAWord(const Entry &entry);
+// German, French and Spanish part a percent sign from its number by a no-break space, English and Italian do not.
+bool misplacesPercentSigns(const Entry &entry);
+// French has a no-break space before ":", ";", "!" and "?".
+bool misplacesFrenchSigns(const Entry &entry);
 
 // One line for everything wrong with the entries.
 QStringList problems(const QVector<Entry> &entries);

@@ -7,6 +7,14 @@
 using TranslationChecks::Entry;
 
 namespace {
+// The content of a file of this language with one text.
+QByteArray fileOf(const char *language, const char *source, const char *translation)
+{
+    return QByteArray("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<TS version=\"2.1\" language=\"") + language +
+           "\"><context><name>Window</name><message><source>" + source + "</source><translation>" + translation +
+           "</translation></message></context></TS>";
+}
+
 Entry entry(const QString &source, const QString &translation, const QString &context = QStringLiteral("Window"))
 {
     Entry made;
@@ -42,8 +50,10 @@ private slots:
     void theLastCharacterMustKeepTheColour();
     void lineBreaksMustAgree_data();
     void lineBreaksMustAgree();
-    void commentsOfTheConfigurationStayInLatin1_data();
-    void commentsOfTheConfigurationStayInLatin1();
+    void textsStayInLatin1_data();
+    void textsStayInLatin1();
+    void theWordingOfAFileIsChecked_data();
+    void theWordingOfAFileIsChecked();
 
     void everyProblemIsALine();
     void textsWithoutAnEntryAreFound();
@@ -58,6 +68,7 @@ void tst_TranslationChecks::everyEntryIsRead()
         "<translation>drei</translation></message>"));
     QCOMPARE(read.error, QString());
     QCOMPARE(read.language, QStringLiteral("de_DE"));
+    QCOMPARE(read.entries[1].language, QStringLiteral("de_DE"));
     QCOMPARE(read.entries.size(), 2);
     QCOMPARE(read.entries[0].context, QStringLiteral("Window"));
     QCOMPARE(read.entries[0].source, QStringLiteral("L'uno\ndue"));
@@ -183,28 +194,64 @@ void tst_TranslationChecks::lineBreaksMustAgree()
     QCOMPARE(TranslationChecks::changesLineBreaks(entry(QStringLiteral("a\nb\n\nc"), translation)), fails);
 }
 
-void tst_TranslationChecks::commentsOfTheConfigurationStayInLatin1_data()
+void tst_TranslationChecks::textsStayInLatin1_data()
 {
-    QTest::addColumn<QString>("context");
-    QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("translation");
     QTest::addColumn<bool>("fails");
-    const QString dialog = QStringLiteral("FormatSelection");
-    const QString comment = QStringLiteral("Lingua di default");
-    QTest::newRow("Latin-1") << dialog << comment << QStringLiteral("Größe ÿ") << false;
-    QTest::newRow("a euro sign") << dialog << comment << QStringLiteral("10 €") << true;
-    QTest::newRow("a typographic apostrophe") << dialog << comment << QStringLiteral("l’un") << true;
-    QTest::newRow("a text that is no comment") << dialog << QStringLiteral("OK") << QStringLiteral("l’un") << false;
-    QTest::newRow("another context") << QStringLiteral("Options") << comment << QStringLiteral("l’un") << false;
+    QTest::newRow("Latin-1") << QStringLiteral("Größe «\u00a0ÿ\u00a0»") << false;
+    QTest::newRow("a euro sign") << QStringLiteral("10 €") << true;
+    QTest::newRow("a typographic apostrophe") << QStringLiteral("l’un") << true;
+    QTest::newRow("an ellipsis") << QStringLiteral("warten…") << true;
 }
 
-void tst_TranslationChecks::commentsOfTheConfigurationStayInLatin1()
+void tst_TranslationChecks::textsStayInLatin1()
 {
-    QFETCH(QString, context);
-    QFETCH(QString, source);
     QFETCH(QString, translation);
     QFETCH(bool, fails);
-    QCOMPARE(TranslationChecks::leavesLatin1(entry(source, translation, context)), fails);
+    QCOMPARE(TranslationChecks::leavesLatin1(entry(QStringLiteral("x"), translation)), fails);
+}
+
+void tst_TranslationChecks::theWordingOfAFileIsChecked_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("problem"); // the start of the only one
+    const QString counted = QStringLiteral("a number before what it counts: ");
+    const char *pages = "%1 pagine";
+    QTest::newRow("a counted word") << fileOf("en_GB", pages, "%1 pages") << counted;
+    QTest::newRow("a counted word of German") << fileOf("de_DE", pages, "Satz: %1 Seiten") << counted;
+    QTest::newRow("a counted word of French") << fileOf("fr_FR", pages, "%1&#xa0;pages") << counted;
+    QTest::newRow("a counted word of Spanish") << fileOf("es_ES", pages, "%1 páginas") << counted;
+    QTest::newRow("a number that counts no word") << fileOf("es_ES", pages, "páginas (%1)") << QString();
+    QTest::newRow("Italian as the source has it") << fileOf("it_IT", pages, pages) << QString();
+    QTest::newRow("a page of pages") << fileOf("de_DE", "%1 di %2", "Seite %1 von %2") << QString();
+
+    const QString percent = QStringLiteral("spacing of a percent sign: ");
+    const char *share = "%1 di %2 (%3%)";
+    QTest::newRow("German, no space") << fileOf("de_DE", share, "%1 von %2 (%3%)") << percent;
+    QTest::newRow("French, a breaking space") << fileOf("fr_FR", share, "%1 sur %2 (%3 %)") << percent;
+    QTest::newRow("Spanish, no space") << fileOf("es_ES", share, "%1 de %2 (%3%)") << percent;
+    QTest::newRow("Spanish, a no-break space") << fileOf("es_ES", share, "%1 de %2 (%3&#xa0;%)") << QString();
+    QTest::newRow("English, a space") << fileOf("en_GB", share, "%1 of %2 (%3 %)") << percent;
+    QTest::newRow("English, a no-break space") << fileOf("en_GB", share, "%1 of %2 (%3&#xa0;%)") << percent;
+    QTest::newRow("English, no space") << fileOf("en_GB", share, "%1 of %2 (%3%)") << QString();
+
+    const QString french = QStringLiteral("spacing of a French sign: ");
+    QTest::newRow("French, no space") << fileOf("fr_FR", "Uscire?", "Quitter?") << french;
+    QTest::newRow("French, a space that breaks") << fileOf("fr_FR", "Nome: x", "Nom : x") << french;
+    QTest::newRow("French, a space that does not") << fileOf("fr_FR", "Nome: x", "Nom&#xa0;: x") << QString();
+    QTest::newRow("French, filters") << fileOf("fr_FR", "(*.a);; (*.b)", "(*.a);; (*.b)") << QString();
+    QTest::newRow("German signs") << fileOf("de_DE", "Uscire?", "Beenden?") << QString();
+}
+
+void tst_TranslationChecks::theWordingOfAFileIsChecked()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, problem);
+    const auto read = TranslationChecks::read(content);
+    QCOMPARE(read.error, QString());
+    const QStringList problems = TranslationChecks::problems(read.entries);
+    QCOMPARE(problems.size(), problem.isEmpty() ? 0 : 1);
+    QVERIFY2(problem.isEmpty() || problems.first().startsWith(problem), qPrintable(problems.join(QLatin1Char('\n'))));
 }
 
 void tst_TranslationChecks::everyProblemIsALine()
