@@ -6,6 +6,7 @@
 #include "personale/EditPersonale.h"
 #include "settings/Config.h"
 #include "settings/FormatSelection.h"
+#include "settings/MadeTranslations.h"
 #include "settings/Options.h"
 #include "settings/Product.h"
 #include "support/BoxScript.h"
@@ -18,13 +19,19 @@
 #include <QDir>
 #include <QFile>
 #include <QGroupBox>
+#include <QKeySequence>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
+#include <QStatusBar>
 #include <QStyleOptionGroupBox>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QtTest>
 
 #include <memory>
@@ -71,9 +78,8 @@ private:
         }
     }
 
-    ScratchFolder folder;
-
 public:
+    ScratchFolder folder;
     Config config;
     GUtils utils;
     BoxScript boxes;
@@ -204,6 +210,74 @@ QStringList cutTexts(const QWidget &window)
     return cut;
 }
 
+int widthOf(const QString &text, const QFont &font)
+{
+    const QFontMetrics metrics(font);
+    int width = 0;
+    for (const QString &line : text.split(QLatin1Char('\n'))) {
+        width = qMax(width, metrics.horizontalAdvance(line));
+    }
+    return width;
+}
+
+// A tool tip breaks its lines by itself only when it is rich text.
+bool isToolTipCut(const QString &tip)
+{
+    return !Qt::mightBeRichText(tip) && widthOf(tip, QToolTip::font()) > smallestScreen.width();
+}
+
+bool isStatusTipCut(const QString &tip, const QStatusBar *bar)
+{
+    return bar != nullptr && widthOf(tip, bar->font()) > bar->width() - bar->height(); // the size grip at the end
+}
+
+// The tips of a window and of its widgets and actions that do not fit on the screen.
+QStringList cutTips(const QWidget &window)
+{
+    const auto *bar = window.findChild<QStatusBar *>();
+    QStringList cut;
+    const auto collect = [&](const QString &toolTip, const QString &statusTip) {
+        if (isToolTipCut(toolTip)) {
+            cut << toolTip;
+        }
+        if (isStatusTipCut(statusTip, bar)) {
+            cut << statusTip;
+        }
+    };
+    for (const auto *widget : window.findChildren<QWidget *>()) {
+        collect(widget->toolTip(), widget->statusTip());
+    }
+    for (const auto *action : window.findChildren<QAction *>()) {
+        collect(action->toolTip(), action->statusTip());
+    }
+    return cut;
+}
+
+// The texts whose mnemonic another text of the same menu has already.
+QStringList repeatedMnemonics(const QList<QAction *> &menu)
+{
+    QSet<QString> taken;
+    QStringList repeated;
+    for (const QAction *action : menu) {
+        const QString key = QKeySequence::mnemonic(action->text()).toString();
+        if (!key.isEmpty() && taken.contains(key)) {
+            repeated << action->text();
+        }
+        taken.insert(key);
+    }
+    return repeated;
+}
+
+// The same in the menu bar of a window and in each of its menus.
+QStringList repeatedMnemonics(const QMainWindow &window)
+{
+    QStringList repeated = repeatedMnemonics(window.menuWidget()->actions());
+    for (const auto *menu : window.menuWidget()->findChildren<QMenu *>()) {
+        repeated << repeatedMnemonics(menu->actions());
+    }
+    return repeated;
+}
+
 // Dialogs keep the size they ask for; the others are made as large as the smallest screen.
 void showOnSmallestScreen(QWidget *window)
 {
@@ -228,6 +302,10 @@ private slots:
     void noTextIsCut_data();
     void noTextIsCut();
     void aTextTooLongForItsPlaceIsFound();
+    void aTipTooLongForTheScreenIsFound();
+    void noMnemonicIsTwiceInAMenu_data();
+    void noMnemonicIsTwiceInAMenu();
+    void aMnemonicTwiceInAMenuIsFound();
     void theKindsOfCellsHaveDifferentInitials_data();
     void theKindsOfCellsHaveDifferentInitials();
 
@@ -319,6 +397,7 @@ void tst_LanguageOfWindows::noTextIsCut()
     showOnSmallestScreen(shown.get());
 
     QCOMPARE(cutTexts(*shown).join(QStringLiteral(", ")), QString());
+    QCOMPARE(cutTips(*shown), QStringList());
     const QSize needed = shown->size().expandedTo(shown->minimumSizeHint());
     QVERIFY2(needed.width() <= smallestScreen.width(), qPrintable(QString::number(needed.width())));
     QVERIFY2(needed.height() <= smallestScreen.height(), qPrintable(QString::number(needed.height())));
@@ -341,6 +420,63 @@ void tst_LanguageOfWindows::aTextTooLongForItsPlaceIsFound()
     group->setTitle(QString());
     button->setText(QString(200, QLatin1Char('m')));
     QVERIFY(!cutTexts(dialog).isEmpty());
+}
+
+void tst_LanguageOfWindows::aTipTooLongForTheScreenIsFound()
+{
+    Program program;
+    MainWindow window;
+    showOnSmallestScreen(&window);
+    auto *action = window.findChild<QAction *>(QStringLiteral("actionCrea"));
+    const QString tooLong(200, QLatin1Char('m'));
+    const QString twoLines = QString(50, QLatin1Char('m')) + QLatin1Char('\n') + QString(50, QLatin1Char('m'));
+
+    action->setStatusTip(tooLong);
+    action->setToolTip(twoLines);
+    QCOMPARE(cutTips(window), QStringList(tooLong));
+
+    action->setStatusTip(QString());
+    action->setToolTip(tooLong);
+    QCOMPARE(cutTips(window), QStringList(tooLong));
+
+    action->setToolTip(QStringLiteral("<p>%1</p>").arg(tooLong));
+    QCOMPARE(cutTips(window), QStringList());
+}
+
+void tst_LanguageOfWindows::noMnemonicIsTwiceInAMenu_data()
+{
+    addWindows();
+}
+
+void tst_LanguageOfWindows::noMnemonicIsTwiceInAMenu()
+{
+    QFETCH(QString, language);
+    QFETCH(int, window);
+    Program program;
+    Cartella cartella;
+    QVERIFY(program.speak(language));
+    const std::unique_ptr<QWidget> shown = makeWindow(window, &cartella);
+    const auto *withMenus = qobject_cast<QMainWindow *>(shown.get());
+    QCOMPARE(withMenus == nullptr, window == FirstStart || window == Settings);
+    if (withMenus != nullptr) {
+        QVERIFY(!withMenus->menuWidget()->findChildren<QMenu *>().isEmpty());
+        QCOMPARE(repeatedMnemonics(*withMenus), QStringList());
+    }
+}
+
+void tst_LanguageOfWindows::aMnemonicTwiceInAMenuIsFound()
+{
+    Program program;
+    const QString context = QStringLiteral("MainWindow");
+    program.folder.write(QStringLiteral("language/Quintra_ma_DE.qm"),
+                         madeTranslation({{context, QStringLiteral("File"), QStringLiteral("&One")},
+                                          {context, QStringLiteral("Aiuto"), QStringLiteral("Tw&o")},
+                                          {context, QStringLiteral("Apri"), QStringLiteral("&Three")},
+                                          {context, QStringLiteral("Salva"), QStringLiteral("Eigh&t")},
+                                          {context, QStringLiteral("Opzioni"), QStringLiteral("&Twenty")}}));
+    QVERIFY(program.speak(QStringLiteral("ma_DE")));
+    const MainWindow window;
+    QCOMPARE(repeatedMnemonics(window), QStringList({QStringLiteral("Tw&o"), QStringLiteral("Eigh&t")}));
 }
 
 void tst_LanguageOfWindows::theKindsOfCellsHaveDifferentInitials_data()
