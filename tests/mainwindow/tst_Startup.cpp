@@ -2,11 +2,11 @@
 #include "generation/GUtils.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/Startup.h"
+#include "mainwindow/WholeProgram.h"
 #include "msgarea/MsgArea.h"
 #include "settings/Config.h"
 #include "settings/FormatSelection.h"
 #include "settings/Options.h"
-#include "support/BoxScript.h"
 #include "support/ScratchFolder.h"
 
 #include <QAction>
@@ -20,87 +20,9 @@
 #include <QTimer>
 #include <QtTest>
 
-#include <functional>
-#include <memory>
+using namespace WholeProgram;
 
-// Runs the whole program, once or several times, each with an application object of its own. What the user does is a
-// function that the first turn of the program's event loop calls.
 namespace {
-constexpr int patience = 20000; // milliseconds
-
-std::function<void()> user;
-std::unique_ptr<BoxScript> boxes; // while the application lives
-QStringList boxProblems;
-
-void endOfApplication()
-{
-    boxProblems = boxes->problems();
-    boxes.reset();
-}
-
-void startOfApplication()
-{
-    QTimer::singleShot(0, []() {
-        boxes = std::make_unique<BoxScript>();
-        qAddPostRoutine(endOfApplication);
-        user();
-    });
-    QTimer::singleShot(patience, []() { qFatal("the program does not end"); });
-}
-Q_COREAPP_STARTUP_FUNCTION(startOfApplication)
-
-// The result of the program.
-int run(const std::function<void()> &actions)
-{
-    user = actions;
-    int argc = 1;
-    char name[] = "quintra";
-    char *argv[] = {name, nullptr};
-    return startQuintra(argc, argv);
-}
-
-// The window of this class that is shown; null when there is none.
-template<class Window>
-Window *shown()
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (auto *found = qobject_cast<Window *>(window); found != nullptr && found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-// Continues once a window of this class is shown and the present action is over.
-template<class Window>
-void whenShown(const std::function<void(Window *)> &action)
-{
-    QTimer::singleShot(5, [action]() {
-        if (auto *window = shown<Window>()) {
-            action(window);
-        } else {
-            whenShown<Window>(action);
-        }
-    });
-}
-
-QString translated(const char *context, const char *text)
-{
-    return QCoreApplication::translate(context, text);
-}
-
-void leave(MainWindow *window)
-{
-    boxes->expectBox(QStringLiteral("Quintra"), translated("MainWindow", "Sei sicuro di voler uscire?"),
-                     QMessageBox::Yes);
-    window->close();
-}
-
-void pressOk(FormatSelection *dialog)
-{
-    QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("procedi")), Qt::LeftButton);
-}
-
 QAction *action(const QWidget *window, const char *name)
 {
     return window->findChild<QAction *>(QString::fromLatin1(name));
