@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "settings/WholeFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <filesystem>
+#include <unistd.h>
+
+namespace {
+constexpr int mostLinks = 40;
+constexpr int mostNamesBeside = 100;
+constexpr int longestName = 255; // bytes
+
+// The file at the end of a chain of links; a link still when they lead round in a circle.
+QFileInfo behindLinks(const QString &fileName)
+{
+    QFileInfo file(fileName);
+    for (int links = 0; file.isSymLink() && links < mostLinks; ++links) {
+        file.setFile(file.symLinkTarget());
+    }
+    return file;
+}
+
+// Opened without being changed: access rights alone do not tell everything.
+bool opensForWriting(const QString &fileName)
+{
+    return QFile(fileName).open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly);
+}
+
+int byteCount(const QString &name)
+{
+    return QFile::encodeName(name).size();
+}
+
+// A file that cannot be written is not replaced either: its own opening tells why.
+bool isReplaceable(const QFileInfo &file)
+{
+    const bool regular = file.isFile() && opensForWriting(file.filePath());
+    const bool missing = !file.exists() && !file.isSymLink() && byteCount(file.fileName()) <= longestName;
+    return (regular || missing) && QFileInfo(file.path()).isWritable();
+}
+
+QString nameBeside(const QFileInfo &file, int number)
+{
+    const QString suffix = QStringLiteral(".part") + (number > 1 ? QString::number(number) : QString());
+    QString name = file.fileName();
+    while (byteCount(name + suffix) > longestName) {
+        name.chop(1);
+    }
+    return file.path() + QLatin1Char('/') + name + suffix;
+}
+
+bool isTaken(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    return file.exists() || file.isSymLink();
+}
+
+// With the rights of the file that it is to replace; empty when there can be none, for the reason in `error`.
+QString createBeside(const QFileInfo &file, QString &error)
+{
+    constexpr QFile::Permissions ofThisUser = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
+    for (int number = 1; number <= mostNamesBeside; ++number) {
+        QFile beside(nameBeside(file, number));
+        if (beside.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+            if (file.exists()) {
+                beside.setPermissions(file.permissions() & ~ofThisUser);
+            }
+            return beside.fileName();
+        }
+        error = beside.errorString();
+        if (!isTaken(beside.fileName())) {
+            break;
+        }
+    }
+    return QString();
+}
+
+// Where a file system has no sync, this is no failure.
+bool isSynced(int descriptor)
+{
+    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+bool bringToDisk(const QString &fileName, QString &error)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly)) {
+        error = file.errorString();
+        return false;
+    }
+    if (!isSynced(file.handle())) {
+        error = qt_error_string(errno);
+        return false;
+    }
+    return true;
+}
+
+// Why the content did not get whole into the open file; empty when it did.
+QString lossOf(QFile &file, const QByteArray &content)
+{
+    if (file.write(content) != content.size()) {
+        return file.errorString();
+    }
+    file.close();
+    return file.error() == QFile::NoError ? QString() : file.errorString();
+}
+} // namespace
+
+WholeFile::WholeFile(const QString &fileName)
+    : m_target(behindLinks(fileName).filePath())
+{
+}
+
+WholeFile::~WholeFile()
+{
+    if (!m_beside.isEmpty()) {
+        QFile::remove(m_beside);
+    }
+}
+
+bool WholeFile::create()
+{
+    const QFileInfo file(m_target);
+    if (isReplaceable(file)) {
+        m_beside = createBeside(file, m_error);
+    }
+    // An old file is not written on because the disk has no room for another.
+    return !m_beside.isEmpty() || m_error.isEmpty() || !file.exists();
+}
+
+QString WholeFile::writtenName() const
+{
+    return m_beside.isEmpty() ? m_target : m_beside;
+}
+
+bool WholeFile::commit()
+{
+    return m_beside.isEmpty() || (bringToDisk(m_beside, m_error) && takeName());
+}
+
+void WholeFile::leaveIncomplete()
+{
+    if (!m_beside.isEmpty() && !isTaken(m_target)) {
+        takeName();
+    }
+    m_beside.clear();
+}
+
+bool WholeFile::takeName()
+{
+    namespace fs = std::filesystem;
+    std::error_code error;
+    fs::rename(fs::path(QFile::encodeName(m_beside).toStdString()), fs::path(QFile::encodeName(m_target).toStdString()),
+               error);
+    if (error) {
+        m_error = qt_error_string(error.value());
+        return false;
+    }
+    m_beside.clear();
+    return true;
+}
+
+Written writeWhole(const QString &fileName, const QByteArray &content, QIODevice::OpenMode mode, QString *reason)
+{
+    const auto failed = [reason](Written how, const QString &why) {
+        if (reason != nullptr) {
+            *reason = why;
+        }
+        return how;
+    };
+    WholeFile whole(fileName);
+    if (!whole.create()) {
+        return failed(Written::Incomplete, whole.errorString());
+    }
+    QFile file(whole.writtenName());
+    if (!file.open(QIODevice::WriteOnly | mode)) {
+        return failed(Written::NotOpened, file.errorString());
+    }
+    const QString loss = lossOf(file, content);
+    if (!loss.isEmpty()) {
+        return failed(Written::Incomplete, loss);
+    }
+    return whole.commit() ? Written::Whole : failed(Written::Incomplete, whole.errorString());
+}
