@@ -1350,4 +1350,63 @@ eccedono il massimo consentito (%2).</source>
         <translation>Leer</translation>
     </message>
 </context>
+<context>
+    <name>Registro</name>
+    <message>
+        <source>riga vuota</source>
+        <translation>leere Zeile</translation>
+    </message>
+    <message>
+        <source>non è finita, il file è stato troncato</source>
+        <translation>nicht vollständig, die Datei wurde abgeschnitten</translation>
+    </message>
+    <message>
+        <source>troppo lunga per una scheda</source>
+        <translation>zu lang für eine Karte</translation>
+    </message>
+    <message>
+        <source>non comincia con i numeri di pagina e di scheda</source>
+        <translation>beginnt nicht mit den Nummern von Seite und Karte</translation>
+    </message>
+    <message>
+        <source>manca il segno | prima delle celle</source>
+        <translation>das Zeichen | vor den Feldern fehlt</translation>
+    </message>
+    <message>
+        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
+        <translation>ein Feld ist weder eine Zahl noch ein Text in Anführungszeichen noch das Wort immagine</translation>
+    </message>
+    <message>
+        <source>un numero è maggiore di %1</source>
+        <translation>eine Zahl ist größer als %1</translation>
+    </message>
+    <message>
+        <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
+        <translation>die Anführungszeichen eines Textes sind nicht geschlossen oder \ steht falsch</translation>
+    </message>
+    <message>
+        <source>righe o celle oltre il massimo di %1</source>
+        <translation>Zeilen oder Felder über dem Höchstwert von %1</translation>
+    </message>
+    <message>
+        <source>la scheda c&apos;è già</source>
+        <translation>die Karte gibt es schon</translation>
+    </message>
+    <message>
+        <source>Queste righe del registro non sono schede e sono state saltate:</source>
+        <translation>Diese Zeilen des Registers sind keine Karten und wurden übersprungen:</translation>
+    </message>
+    <message>
+        <source>Riga %1: %2.</source>
+        <translation>Zeile %1: %2.</translation>
+    </message>
+    <message>
+        <source>Righe da %1 a %2: %3.</source>
+        <translation>Zeilen %1 bis %2: %3.</translation>
+    </message>
+    <message>
+        <source>L&apos;elenco continua fino alla riga %1.</source>
+        <translation>Die Liste geht bis Zeile %1 weiter.</translation>
+    </message>
+</context>
 </TS>

@@ -1350,4 +1350,63 @@ exceeds the maximum allowed (%2).</translation>
         <translation>Empty</translation>
     </message>
 </context>
+<context>
+    <name>Registro</name>
+    <message>
+        <source>riga vuota</source>
+        <translation>empty line</translation>
+    </message>
+    <message>
+        <source>non è finita, il file è stato troncato</source>
+        <translation>not complete, the file was cut off</translation>
+    </message>
+    <message>
+        <source>troppo lunga per una scheda</source>
+        <translation>too long for a card</translation>
+    </message>
+    <message>
+        <source>non comincia con i numeri di pagina e di scheda</source>
+        <translation>does not begin with the numbers of page and card</translation>
+    </message>
+    <message>
+        <source>manca il segno | prima delle celle</source>
+        <translation>the sign | before the cells is missing</translation>
+    </message>
+    <message>
+        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
+        <translation>a cell is no number, no text in quotes and not the word immagine</translation>
+    </message>
+    <message>
+        <source>un numero è maggiore di %1</source>
+        <translation>a number is greater than %1</translation>
+    </message>
+    <message>
+        <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
+        <translation>the quotes of a text are not closed, or \ is used wrongly</translation>
+    </message>
+    <message>
+        <source>righe o celle oltre il massimo di %1</source>
+        <translation>rows or cells beyond the maximum of %1</translation>
+    </message>
+    <message>
+        <source>la scheda c&apos;è già</source>
+        <translation>the card is there already</translation>
+    </message>
+    <message>
+        <source>Queste righe del registro non sono schede e sono state saltate:</source>
+        <translation>These lines of the register are no cards and were skipped:</translation>
+    </message>
+    <message>
+        <source>Riga %1: %2.</source>
+        <translation>Line %1: %2.</translation>
+    </message>
+    <message>
+        <source>Righe da %1 a %2: %3.</source>
+        <translation>Lines %1 to %2: %3.</translation>
+    </message>
+    <message>
+        <source>L&apos;elenco continua fino alla riga %1.</source>
+        <translation>The list goes on to line %1.</translation>
+    </message>
+</context>
 </TS>

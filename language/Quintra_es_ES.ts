@@ -1350,4 +1350,63 @@ supera el máximo permitido (%2).</translation>
         <translation>Vacía</translation>
     </message>
 </context>
+<context>
+    <name>Registro</name>
+    <message>
+        <source>riga vuota</source>
+        <translation>línea vacía</translation>
+    </message>
+    <message>
+        <source>non è finita, il file è stato troncato</source>
+        <translation>incompleta, el archivo está cortado</translation>
+    </message>
+    <message>
+        <source>troppo lunga per una scheda</source>
+        <translation>demasiado larga para un cartón</translation>
+    </message>
+    <message>
+        <source>non comincia con i numeri di pagina e di scheda</source>
+        <translation>no empieza con los números de página y de cartón</translation>
+    </message>
+    <message>
+        <source>manca il segno | prima delle celle</source>
+        <translation>falta el signo | antes de las casillas</translation>
+    </message>
+    <message>
+        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
+        <translation>una casilla no es un número, ni un texto entre comillas, ni la palabra immagine</translation>
+    </message>
+    <message>
+        <source>un numero è maggiore di %1</source>
+        <translation>un número es mayor que %1</translation>
+    </message>
+    <message>
+        <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
+        <translation>las comillas de un texto no están cerradas, o \ está mal usado</translation>
+    </message>
+    <message>
+        <source>righe o celle oltre il massimo di %1</source>
+        <translation>filas o casillas por encima del máximo de %1</translation>
+    </message>
+    <message>
+        <source>la scheda c&apos;è già</source>
+        <translation>el cartón ya existe</translation>
+    </message>
+    <message>
+        <source>Queste righe del registro non sono schede e sono state saltate:</source>
+        <translation>Estas líneas del registro no son cartones y se han omitido:</translation>
+    </message>
+    <message>
+        <source>Riga %1: %2.</source>
+        <translation>Línea %1: %2.</translation>
+    </message>
+    <message>
+        <source>Righe da %1 a %2: %3.</source>
+        <translation>Líneas de la %1 a la %2: %3.</translation>
+    </message>
+    <message>
+        <source>L&apos;elenco continua fino alla riga %1.</source>
+        <translation>La lista continúa hasta la línea %1.</translation>
+    </message>
+</context>
 </TS>

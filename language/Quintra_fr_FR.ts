@@ -1350,4 +1350,63 @@ dépasse le maximum autorisé (%2).</translation>
         <translation>Vide</translation>
     </message>
 </context>
+<context>
+    <name>Registro</name>
+    <message>
+        <source>riga vuota</source>
+        <translation>ligne vide</translation>
+    </message>
+    <message>
+        <source>non è finita, il file è stato troncato</source>
+        <translation>incomplète, le fichier a été tronqué</translation>
+    </message>
+    <message>
+        <source>troppo lunga per una scheda</source>
+        <translation>trop longue pour un carton</translation>
+    </message>
+    <message>
+        <source>non comincia con i numeri di pagina e di scheda</source>
+        <translation>ne commence pas par les numéros de page et de carton</translation>
+    </message>
+    <message>
+        <source>manca il segno | prima delle celle</source>
+        <translation>le signe | manque avant les cases</translation>
+    </message>
+    <message>
+        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
+        <translation>une case n&apos;est ni un nombre, ni un texte entre guillemets, ni le mot immagine</translation>
+    </message>
+    <message>
+        <source>un numero è maggiore di %1</source>
+        <translation>un nombre est supérieur à %1</translation>
+    </message>
+    <message>
+        <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
+        <translation>les guillemets d&apos;un texte ne sont pas fermés, ou \ est mal employé</translation>
+    </message>
+    <message>
+        <source>righe o celle oltre il massimo di %1</source>
+        <translation>lignes ou cases au-delà du maximum de %1</translation>
+    </message>
+    <message>
+        <source>la scheda c&apos;è già</source>
+        <translation>le carton existe déjà</translation>
+    </message>
+    <message>
+        <source>Queste righe del registro non sono schede e sono state saltate:</source>
+        <translation>Ces lignes du registre ne sont pas des cartons et ont été ignorées :</translation>
+    </message>
+    <message>
+        <source>Riga %1: %2.</source>
+        <translation>Ligne %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Righe da %1 a %2: %3.</source>
+        <translation>Lignes %1 à %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>L&apos;elenco continua fino alla riga %1.</source>
+        <translation>La liste continue jusqu&apos;à la ligne %1.</translation>
+    </message>
+</context>
 </TS>

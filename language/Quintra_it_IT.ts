@@ -1350,4 +1350,63 @@ eccedono il massimo consentito (%2).</translation>
         <translation>Vuota</translation>
     </message>
 </context>
+<context>
+    <name>Registro</name>
+    <message>
+        <source>riga vuota</source>
+        <translation>riga vuota</translation>
+    </message>
+    <message>
+        <source>non è finita, il file è stato troncato</source>
+        <translation>non è finita, il file è stato troncato</translation>
+    </message>
+    <message>
+        <source>troppo lunga per una scheda</source>
+        <translation>troppo lunga per una scheda</translation>
+    </message>
+    <message>
+        <source>non comincia con i numeri di pagina e di scheda</source>
+        <translation>non comincia con i numeri di pagina e di scheda</translation>
+    </message>
+    <message>
+        <source>manca il segno | prima delle celle</source>
+        <translation>manca il segno | prima delle celle</translation>
+    </message>
+    <message>
+        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
+        <translation>una cella non è un numero, un testo tra virgolette o la parola immagine</translation>
+    </message>
+    <message>
+        <source>un numero è maggiore di %1</source>
+        <translation>un numero è maggiore di %1</translation>
+    </message>
+    <message>
+        <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
+        <translation>le virgolette di un testo non sono chiuse, o \ è usato male</translation>
+    </message>
+    <message>
+        <source>righe o celle oltre il massimo di %1</source>
+        <translation>righe o celle oltre il massimo di %1</translation>
+    </message>
+    <message>
+        <source>la scheda c&apos;è già</source>
+        <translation>la scheda c&apos;è già</translation>
+    </message>
+    <message>
+        <source>Queste righe del registro non sono schede e sono state saltate:</source>
+        <translation>Queste righe del registro non sono schede e sono state saltate:</translation>
+    </message>
+    <message>
+        <source>Riga %1: %2.</source>
+        <translation>Riga %1: %2.</translation>
+    </message>
+    <message>
+        <source>Righe da %1 a %2: %3.</source>
+        <translation>Righe da %1 a %2: %3.</translation>
+    </message>
+    <message>
+        <source>L&apos;elenco continua fino alla riga %1.</source>
+        <translation>L&apos;elenco continua fino alla riga %1.</translation>
+    </message>
+</context>
 </TS>

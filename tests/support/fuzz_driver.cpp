@@ -51,7 +51,7 @@ int main(int argc, char **argv)
     const QDir folder(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString());
     const QStringList names = folder.entryList(QDir::Files, QDir::Name);
     if (argc < 2 || names.isEmpty()) {
-        std::fputs("usage: fuzz_MappingFile <folder with files>\n", stderr);
+        std::fputs("usage: fuzz_<reader> <folder with files>\n", stderr);
         return 2;
     }
     std::mt19937 random(1);

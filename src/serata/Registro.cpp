@@ -1,0 +1,396 @@
+// SPDX-License-Identifier: MIT
+#include "serata/Registro.h"
+
+#include <QCoreApplication>
+#include <QIODevice>
+#include <QSet>
+#include <QStringList>
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+#include <limits>
+#include <optional>
+
+namespace Registro {
+namespace {
+constexpr char separator = ';';
+constexpr char rowMark = '|';
+constexpr char quote = '"';
+constexpr char escape = '\\';
+constexpr char pictureWord[] = "immagine";
+constexpr int escapedDigits = 4; // hexadecimal, after \u
+constexpr int hexadecimal = 16;
+constexpr int longestLine = 1 << 22; // bytes: far more than 255 rows of 255 cells need
+constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
+constexpr size_t mostEntriesDescribed = 500;
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Registro)
+};
+
+void appendNumber(std::string &text, quint32 number)
+{
+    char digits[std::numeric_limits<quint32>::digits10 + 1];
+    text.append(digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr);
+}
+
+bool standsAsItIs(QChar c)
+{
+    constexpr ushort lastLatin1 = 0xff;
+    return c.unicode() <= lastLatin1 && c.category() != QChar::Other_Control;
+}
+
+void appendCharacter(std::string &text, QChar c)
+{
+    if (!standsAsItIs(c)) {
+        const QString digits =
+            QString::number(c.unicode(), hexadecimal).rightJustified(escapedDigits, QLatin1Char('0'));
+        text += escape;
+        text += 'u';
+        text += digits.toStdString();
+        return;
+    }
+    const char character = c.toLatin1();
+    if (character == quote || character == escape) {
+        text += character;
+    }
+    text += character;
+}
+
+void appendCell(std::string &text, const Cella &cella)
+{
+    switch (cella.tipo) {
+    case CELL_NUMERO:
+        appendNumber(text, cella.numero);
+        break;
+    case CELL_TESTO:
+        text += quote;
+        for (const QChar c : cella.testo) {
+            appendCharacter(text, c);
+        }
+        text += quote;
+        break;
+    case CELL_IMMAGINE:
+        text += pictureWord;
+        break;
+    case CELL_VUOTA:
+        break;
+    }
+}
+
+// Takes a line apart, from its first character to its last.
+class LineReader final
+{
+public:
+    LineReader(const char *begin, const char *end)
+        : m_next(begin)
+        , m_end(end)
+    {
+    }
+
+    bool atEnd() const { return m_next == m_end; }
+    // Whether nothing is left of the present column.
+    bool atColumnEnd() const { return atEnd() || *m_next == separator; }
+
+    bool take(char character)
+    {
+        const bool there = !atEnd() && *m_next == character;
+        m_next += there ? 1 : 0;
+        return there;
+    }
+
+    bool take(const char *word)
+    {
+        const auto length = static_cast<std::ptrdiff_t>(std::strlen(word));
+        const bool there = m_end - m_next >= length && std::equal(word, word + length, m_next);
+        m_next += there ? length : 0;
+        return there;
+    }
+
+    // A decimal number; nothing when there is no digit. What is too large for the type is its largest value.
+    std::optional<quint32> takeNumber()
+    {
+        quint32 number = 0;
+        const auto [end, error] = std::from_chars(m_next, m_end, number);
+        if (end == m_next) {
+            return std::nullopt;
+        }
+        m_next = end;
+        return error == std::errc() ? number : std::numeric_limits<quint32>::max();
+    }
+
+    // The text up to the closing quotes, the opening ones were taken; nothing when it is not well-formed.
+    std::optional<QString> takeText()
+    {
+        QString text;
+        while (!atEnd()) {
+            const char character = *m_next++;
+            if (character == quote && !take(quote)) {
+                return text;
+            }
+            const auto decoded = character == escape ? takeEscaped() : QChar::fromLatin1(character);
+            if (!decoded) {
+                return std::nullopt;
+            }
+            text += *decoded;
+        }
+        return std::nullopt;
+    }
+
+private:
+    std::optional<QChar> takeEscaped()
+    {
+        if (take(escape)) {
+            return QLatin1Char(escape);
+        }
+        ushort code = 0;
+        if (!take('u') || m_end - m_next < escapedDigits) {
+            return std::nullopt;
+        }
+        const char *const end = m_next + escapedDigits;
+        if (std::from_chars(m_next, end, code, hexadecimal).ptr != end) {
+            return std::nullopt;
+        }
+        m_next = end;
+        return QChar(code);
+    }
+
+    const char *m_next;
+    const char *m_end;
+};
+
+bool decodePosition(LineReader &line, Posizione &posizione)
+{
+    const auto pagina = line.takeNumber();
+    const bool separated = line.take(separator);
+    const auto blocco = line.takeNumber();
+    if (!pagina || !separated || !blocco || !line.atColumnEnd() || *pagina == 0 ||
+        *pagina > std::numeric_limits<U16>::max() || *blocco == 0 || *blocco > mostPerCard) {
+        return false;
+    }
+    posizione = {static_cast<U16>(*pagina), static_cast<U8>(*blocco)};
+    return true;
+}
+
+// The cell of one column; the reason when it holds none.
+std::optional<Motivo> decodeCell(LineReader &line, Casella &casella)
+{
+    if (line.atColumnEnd()) {
+        return std::nullopt;
+    }
+    if (const auto number = line.takeNumber()) {
+        casella = {CELL_NUMERO, *number, QString()};
+        return *number > numeroPiuAlto ? std::optional(Motivo::Numero) : std::nullopt;
+    }
+    if (line.take(quote)) {
+        const auto text = line.takeText();
+        casella = {CELL_TESTO, 0, text.value_or(QString())};
+        return text ? std::nullopt : std::optional(Motivo::Testo);
+    }
+    if (line.take(pictureWord)) {
+        casella.tipo = CELL_IMMAGINE;
+        return std::nullopt;
+    }
+    return Motivo::Casella;
+}
+
+// One column after the position: the begin of a row, or a cell of the present one.
+std::optional<Motivo> decodeColumn(LineReader &line, Scheda &scheda)
+{
+    if (line.take(rowMark)) {
+        scheda.righe.emplace_back();
+        return scheda.righe.size() > mostPerCard ? std::optional(Motivo::TroppeCaselle) : std::nullopt;
+    }
+    if (scheda.righe.empty()) {
+        return Motivo::SenzaRiga;
+    }
+    std::vector<Casella> &riga = scheda.righe.back();
+    riga.emplace_back();
+    return riga.size() > mostPerCard ? std::optional(Motivo::TroppeCaselle) : decodeCell(line, riga.back());
+}
+
+// Fills `scheda` from a line; the reason when the line gives none.
+std::optional<Motivo> decode(LineReader line, Scheda &scheda)
+{
+    if (line.atEnd()) {
+        return Motivo::Vuota;
+    }
+    if (!decodePosition(line, scheda.posizione)) {
+        return Motivo::SenzaPosizione;
+    }
+    while (line.take(separator)) {
+        const auto reason = decodeColumn(line, scheda);
+        if (reason) {
+            return reason;
+        }
+    }
+    return line.atEnd() ? std::nullopt : std::optional(Motivo::Casella);
+}
+
+void skip(std::vector<RigheSaltate> &saltate, int line, Motivo motivo)
+{
+    if (!saltate.empty() && saltate.back().ultima == line - 1 && saltate.back().motivo == motivo) {
+        saltate.back().ultima = line;
+    } else {
+        saltate.push_back({line, line, motivo});
+    }
+}
+
+QString reasonText(Motivo motivo)
+{
+    switch (motivo) {
+    case Motivo::Vuota:
+        return Text::tr("riga vuota");
+    case Motivo::Tronca:
+        return Text::tr("non è finita, il file è stato troncato");
+    case Motivo::TroppoLunga:
+        return Text::tr("troppo lunga per una scheda");
+    case Motivo::SenzaPosizione:
+        return Text::tr("non comincia con i numeri di pagina e di scheda");
+    case Motivo::SenzaRiga:
+        return Text::tr("manca il segno | prima delle celle");
+    case Motivo::Casella:
+        return Text::tr("una cella non è un numero, un testo tra virgolette o la parola immagine");
+    case Motivo::Numero:
+        return Text::tr("un numero è maggiore di %1").arg(numeroPiuAlto);
+    case Motivo::Testo:
+        return Text::tr("le virgolette di un testo non sono chiuse, o \\ è usato male");
+    case Motivo::TroppeCaselle:
+        return Text::tr("righe o celle oltre il massimo di %1").arg(mostPerCard);
+    case Motivo::Doppia:
+        return Text::tr("la scheda c'è già");
+    }
+    return QString();
+}
+
+// The lines of a device, one after the other, in a buffer that is used again.
+class Lines final
+{
+public:
+    explicit Lines(QIODevice &device)
+        : m_device(device)
+        , m_buffer(longestLine + 1, Qt::Uninitialized)
+    {
+    }
+
+    // Goes to the next line; false at the end.
+    bool next()
+    {
+        m_tooLong = false;
+        do {
+            m_length = m_device.readLine(m_buffer.data(), m_buffer.size());
+            m_whole = m_length > 0 && m_buffer.at(int(m_length) - 1) == '\n';
+            m_tooLong = m_tooLong || m_length == longestLine;
+        } while (m_length == longestLine && !m_whole);
+        return m_length > 0 || m_tooLong;
+    }
+    // Why the line cannot be read at all.
+    std::optional<Motivo> reason() const
+    {
+        if (m_tooLong) {
+            return Motivo::TroppoLunga;
+        }
+        return m_whole ? std::nullopt : std::optional(Motivo::Tronca);
+    }
+    LineReader reader() const
+    {
+        const char *begin = m_buffer.constData();
+        const char *end = begin + m_length - 1;
+        return {begin, end > begin && *(end - 1) == '\r' ? end - 1 : end};
+    }
+
+private:
+    QIODevice &m_device;
+    QByteArray m_buffer;
+    qint64 m_length = 0;
+    bool m_whole = false;
+    bool m_tooLong = false;
+};
+
+// A different one for every position.
+quint32 key(Posizione posizione)
+{
+    constexpr int bitsOfBlock = 8;
+    return quint32(posizione.pagina) << bitsOfBlock | posizione.blocco;
+}
+} // namespace
+
+void appendLine(std::string &text, const Blocco &blocco, Posizione posizione)
+{
+    appendNumber(text, posizione.pagina);
+    text += separator;
+    appendNumber(text, posizione.blocco);
+    for (size_t r = 0; r < blocco.nRighe; ++r) {
+        const Riga &riga = blocco.righe[r];
+        text += separator;
+        text += rowMark;
+        for (size_t c = 0; c < riga.nCelle; ++c) {
+            text += separator;
+            appendCell(text, riga.celle[c]);
+        }
+    }
+    text += '\n';
+}
+
+bool write(QIODevice &device, const Cartella &cartella)
+{
+    std::string text;
+    for (int p = 0; p < cartella.getNumPages(); ++p) {
+        const Pagina &pagina = *cartella.pagine[p];
+        text.clear();
+        for (int b = 0; b < pagina.nBlocchi; ++b) {
+            appendLine(text, pagina.blocchi[size_t(b)], {U16(p + 1), U8(b + 1)});
+        }
+        const auto size = static_cast<qint64>(text.size());
+        if (device.write(text.data(), size) != size) {
+            return false;
+        }
+    }
+    return true;
+}
+
+Lettura read(QIODevice &device)
+{
+    Lettura result;
+    QSet<quint32> positions;
+    Lines lines(device);
+    for (int number = 1; lines.next(); ++number) {
+        Scheda scheda;
+        auto reason = lines.reason();
+        if (!reason) {
+            reason = decode(lines.reader(), scheda);
+        }
+        if (!reason && positions.contains(key(scheda.posizione))) {
+            reason = Motivo::Doppia;
+        }
+        if (reason) {
+            skip(result.saltate, number, *reason);
+        } else {
+            positions.insert(key(scheda.posizione));
+            result.schede.push_back(std::move(scheda));
+        }
+    }
+    std::sort(result.schede.begin(), result.schede.end(),
+              [](const Scheda &a, const Scheda &b) { return a.posizione < b.posizione; });
+    return result;
+}
+
+QString describe(const std::vector<RigheSaltate> &saltate)
+{
+    QStringList lines(Text::tr("Queste righe del registro non sono schede e sono state saltate:"));
+    for (size_t i = 0; i < std::min(saltate.size(), mostEntriesDescribed); ++i) {
+        const RigheSaltate &some = saltate[i];
+        const QString reason = reasonText(some.motivo);
+        lines << (some.prima == some.ultima
+                      ? Text::tr("Riga %1: %2.").arg(some.prima).arg(reason)
+                      : Text::tr("Righe da %1 a %2: %3.").arg(some.prima).arg(some.ultima).arg(reason));
+    }
+    if (saltate.size() > mostEntriesDescribed) {
+        lines << Text::tr("L'elenco continua fino alla riga %1.").arg(saltate.back().ultima);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace Registro
