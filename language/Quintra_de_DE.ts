@@ -1351,6 +1351,33 @@ eccedono il massimo consentito (%2).</source>
     </message>
 </context>
 <context>
+    <name>Premi</name>
+    <message>
+        <source>ambo</source>
+        <translation>Zweier</translation>
+    </message>
+    <message>
+        <source>terno</source>
+        <translation>Dreier</translation>
+    </message>
+    <message>
+        <source>quaterna</source>
+        <translation>Vierer</translation>
+    </message>
+    <message>
+        <source>cinquina</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>due cinquine</source>
+        <translation>zwei Linien</translation>
+    </message>
+    <message>
+        <source>tombola</source>
+        <translation>Bingo</translation>
+    </message>
+</context>
+<context>
     <name>Registro</name>
     <message>
         <source>riga vuota</source>

@@ -1351,6 +1351,33 @@ exceeds the maximum allowed (%2).</translation>
     </message>
 </context>
 <context>
+    <name>Premi</name>
+    <message>
+        <source>ambo</source>
+        <translation>two in a line</translation>
+    </message>
+    <message>
+        <source>terno</source>
+        <translation>three in a line</translation>
+    </message>
+    <message>
+        <source>quaterna</source>
+        <translation>four in a line</translation>
+    </message>
+    <message>
+        <source>cinquina</source>
+        <translation>line</translation>
+    </message>
+    <message>
+        <source>due cinquine</source>
+        <translation>two lines</translation>
+    </message>
+    <message>
+        <source>tombola</source>
+        <translation>full house</translation>
+    </message>
+</context>
+<context>
     <name>Registro</name>
     <message>
         <source>riga vuota</source>

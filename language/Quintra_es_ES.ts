@@ -1351,6 +1351,33 @@ supera el máximo permitido (%2).</translation>
     </message>
 </context>
 <context>
+    <name>Premi</name>
+    <message>
+        <source>ambo</source>
+        <translation>ambo</translation>
+    </message>
+    <message>
+        <source>terno</source>
+        <translation>terno</translation>
+    </message>
+    <message>
+        <source>quaterna</source>
+        <translation>cuaterno</translation>
+    </message>
+    <message>
+        <source>cinquina</source>
+        <translation>línea</translation>
+    </message>
+    <message>
+        <source>due cinquine</source>
+        <translation>dos líneas</translation>
+    </message>
+    <message>
+        <source>tombola</source>
+        <translation>bingo</translation>
+    </message>
+</context>
+<context>
     <name>Registro</name>
     <message>
         <source>riga vuota</source>

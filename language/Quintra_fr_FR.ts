@@ -1351,6 +1351,33 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
 </context>
 <context>
+    <name>Premi</name>
+    <message>
+        <source>ambo</source>
+        <translation>ambe</translation>
+    </message>
+    <message>
+        <source>terno</source>
+        <translation>terne</translation>
+    </message>
+    <message>
+        <source>quaterna</source>
+        <translation>quaterne</translation>
+    </message>
+    <message>
+        <source>cinquina</source>
+        <translation>quine</translation>
+    </message>
+    <message>
+        <source>due cinquine</source>
+        <translation>double quine</translation>
+    </message>
+    <message>
+        <source>tombola</source>
+        <translation>carton plein</translation>
+    </message>
+</context>
+<context>
     <name>Registro</name>
     <message>
         <source>riga vuota</source>

@@ -1351,6 +1351,33 @@ eccedono il massimo consentito (%2).</translation>
     </message>
 </context>
 <context>
+    <name>Premi</name>
+    <message>
+        <source>ambo</source>
+        <translation>ambo</translation>
+    </message>
+    <message>
+        <source>terno</source>
+        <translation>terno</translation>
+    </message>
+    <message>
+        <source>quaterna</source>
+        <translation>quaterna</translation>
+    </message>
+    <message>
+        <source>cinquina</source>
+        <translation>cinquina</translation>
+    </message>
+    <message>
+        <source>due cinquine</source>
+        <translation>due cinquine</translation>
+    </message>
+    <message>
+        <source>tombola</source>
+        <translation>tombola</translation>
+    </message>
+</context>
+<context>
     <name>Registro</name>
     <message>
         <source>riga vuota</source>

@@ -322,13 +322,12 @@ void appendLine(std::string &text, const Blocco &blocco, Posizione posizione)
     appendNumber(text, posizione.pagina);
     text += separator;
     appendNumber(text, posizione.blocco);
-    for (size_t r = 0; r < blocco.nRighe; ++r) {
-        const Riga &riga = blocco.righe[r];
+    for (const Riga &riga : blocco) {
         text += separator;
         text += rowMark;
-        for (size_t c = 0; c < riga.nCelle; ++c) {
+        for (const Cella &cella : riga) {
             text += separator;
-            appendCell(text, riga.celle[c]);
+            appendCell(text, cella);
         }
     }
     text += '\n';
@@ -337,11 +336,14 @@ void appendLine(std::string &text, const Blocco &blocco, Posizione posizione)
 bool write(QIODevice &device, const Cartella &cartella)
 {
     std::string text;
-    for (int p = 0; p < cartella.getNumPages(); ++p) {
-        const Pagina &pagina = *cartella.pagine[p];
+    Posizione posizione;
+    for (const Pagina *pagina : cartella.pagine) {
         text.clear();
-        for (int b = 0; b < pagina.nBlocchi; ++b) {
-            appendLine(text, pagina.blocchi[size_t(b)], {U16(p + 1), U8(b + 1)});
+        ++posizione.pagina;
+        posizione.blocco = 0;
+        for (const Blocco &blocco : *pagina) {
+            ++posizione.blocco;
+            appendLine(text, blocco, posizione);
         }
         const auto size = static_cast<qint64>(text.size());
         if (device.write(text.data(), size) != size) {

@@ -60,10 +60,13 @@ bool operator==(const Scheda &a, const Scheda &b)
 std::vector<Scheda> schedeOf(const Cartella &cartella)
 {
     std::vector<Scheda> schede;
-    for (int p = 0; p < cartella.getNumPages(); ++p) {
-        const Pagina &pagina = *cartella.pagine[p];
-        for (int b = 0; b < pagina.nBlocchi; ++b) {
-            schede.push_back(schedaOf(pagina.blocchi[size_t(b)], {static_cast<U16>(p + 1), static_cast<U8>(b + 1)}));
+    Posizione posizione;
+    for (const Pagina *pagina : cartella.pagine) {
+        ++posizione.pagina;
+        posizione.blocco = 0;
+        for (const Blocco &blocco : *pagina) {
+            ++posizione.blocco;
+            schede.push_back(schedaOf(blocco, posizione));
         }
     }
     return schede;
@@ -71,12 +74,12 @@ std::vector<Scheda> schedeOf(const Cartella &cartella)
 
 Scheda schedaOf(const Blocco &blocco, Posizione posizione)
 {
-    Scheda scheda{posizione, std::vector<std::vector<Casella>>(blocco.nRighe)};
-    for (size_t r = 0; r < blocco.nRighe; ++r) {
-        const Riga &riga = blocco.righe[r];
-        scheda.righe[r].reserve(riga.nCelle);
-        std::transform(riga.celle.get(), riga.celle.get() + riga.nCelle, std::back_inserter(scheda.righe[r]),
-                       casellaOf);
+    Scheda scheda{posizione, {}};
+    scheda.righe.reserve(blocco.nRighe);
+    for (const Riga &riga : blocco) {
+        scheda.righe.emplace_back();
+        scheda.righe.back().reserve(riga.nCelle);
+        std::transform(begin(riga), end(riga), std::back_inserter(scheda.righe.back()), casellaOf);
     }
     return scheda;
 }
