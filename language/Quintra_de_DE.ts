@@ -25,7 +25,7 @@ Die Karten einer Seite sind immer verschieden.</translation>
     </message>
     <message>
         <source>Confronto pagina %1 di %2</source>
-        <translation>Vergleiche Seite %1 von %2</translation>
+        <translation>Seite %1 von %2 wird verglichen</translation>
     </message>
     <message>
         <source>numero</source>
@@ -289,7 +289,7 @@ Seitengröße: %6</translation>
     </message>
     <message>
         <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Seitenbelegung in einer Datei speichern. Eine Seite mit mehr als 255 Feldern kann nicht vollständig wieder gelesen werden, und die Option &quot;Zahlen spaltenweise ziehen&quot; wird nicht gespeichert.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Seitenbelegung in einer Datei speichern. Eine Seite mit mehr als 255 Feldern kann nicht vollständig wieder eingelesen werden, und die Option &quot;Zahlen spaltenweise ziehen&quot; wird nicht gespeichert.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -333,7 +333,7 @@ Seitengröße: %6</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation>Seiten erstellt und zum Hauptkartensatz hinzugefügt!</translation>
+        <translation>Seiten erstellt und zum Kartensatz hinzugefügt!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
@@ -393,7 +393,7 @@ Größe: %5 Bytes (%6 MB)
     </message>
     <message>
         <source>Sto leggendo la pagina %1</source>
-        <translation>Lese Seite %1</translation>
+        <translation>Seite %1 wird gelesen</translation>
     </message>
     <message>
         <source>Apertura completata!</source>
@@ -401,7 +401,7 @@ Größe: %5 Bytes (%6 MB)
     </message>
     <message>
         <source>Sto caricando la pagina %1 di %2</source>
-        <translation>Lade Seite %1 von %2</translation>
+        <translation>Seite %1 von %2 wird geladen</translation>
     </message>
     <message>
         <source>Salva lo schema delle pagine su file</source>
@@ -503,7 +503,7 @@ Größe: %5 Bytes (%6 MB)
     <name>GeneraCartellaPersonale</name>
     <message>
         <source>Nessuna pagina da generare!</source>
-        <translation>Keine Seiten zu erzeugen!</translation>
+        <translation>Es gibt keine Seiten zu erzeugen!</translation>
     </message>
     <message>
         <source>Nessun numero generato!</source>
@@ -514,7 +514,7 @@ Größe: %5 Bytes (%6 MB)
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation>Spaltenweise Erzeugung:
+        <translation>Spaltenweises Ziehen der Zahlen:
 Zu viele Zahlen (%1) für Spalte Nr. %2
 Die Spalte braucht so viele verschiedene Zahlen (%3) zwischen %4 und %5,
 aber das ist unmöglich, da der Bereich weniger umfasst (%6).</translation>
@@ -886,7 +886,7 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
     <message>
         <source>Informazioni sul programma</source>
-        <translation>Über das Programm</translation>
+        <translation>Informationen zum Programm</translation>
     </message>
     <message>
         <source>Welcome to %1 %2!</source>
@@ -972,11 +972,11 @@ Wählen Sie die Bilddatei in der Seitenleiste.</translation>
     </message>
     <message>
         <source>Immagine impostata correttamente.</source>
-        <translation>Bild festgelegt.</translation>
+        <translation>Bild geändert.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
-        <translation>Auswahl des Feldbildes</translation>
+        <translation>Auswahl des Bildes für das Feld</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
@@ -1116,7 +1116,7 @@ Einige Felder wurden ausgelassen!</translation>
     </message>
     <message>
         <source>Font impostato correttamente.</source>
-        <translation>Schriftart festgelegt.</translation>
+        <translation>Schriftart geändert.</translation>
     </message>
     <message>
         <source>Verifica blocchi uguali:
@@ -1167,7 +1167,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>oltre il numero massimo di pagine (%1)</source>
-        <translation>über der Höchstzahl der Seiten (%1)</translation>
+        <translation>über der Höchstzahl an Seiten (%1)</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
@@ -1210,7 +1210,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation>Möchten Sie ohne Speichern schließen?</translation>
+        <translation>Möchten Sie das Fenster schließen, ohne zu speichern?</translation>
     </message>
     <message>
         <source>Salva su file</source>

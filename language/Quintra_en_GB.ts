@@ -125,7 +125,7 @@ Page size: %6</translation>
     </message>
     <message>
         <source>La selezione comprende tutte le celle della pagina</source>
-        <translation>The selection covers all the cells of the page</translation>
+        <translation>The selection covers all the cells on the page</translation>
     </message>
     <message>
         <source>Tutte</source>
@@ -201,7 +201,7 @@ Page size: %6</translation>
     </message>
     <message>
         <source>Celle con un testo</source>
-        <translation>Cells with a text</translation>
+        <translation>Cells with text</translation>
     </message>
     <message>
         <source>Testo</source>
@@ -333,7 +333,7 @@ Page size: %6</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation>Pages created and added to the main card set!</translation>
+        <translation>Pages created and added to the card set!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
@@ -345,7 +345,7 @@ Page size: %6</translation>
     </message>
     <message>
         <source>Sei sicuro di voler chiudere?</source>
-        <translation>Are you sure you want to close?</translation>
+        <translation>Are you sure you want to close this window?</translation>
     </message>
     <message>
         <source>Salva le cartelle su file</source>
@@ -514,7 +514,7 @@ Size: %5 bytes (%6 MB)
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation>Generation by column:
+        <translation>Drawing numbers by column:
 Too many numbers (%1) for column no. %2
 The column needs that many different numbers (%3) between %4 and %5,
 but this is impossible because the range has fewer (%6).</translation>
@@ -662,7 +662,7 @@ Error while adding page %i.</translation>
     </message>
     <message>
         <source>Spazio tra i blocchi della pagina, in millimetri</source>
-        <translation>Space between the cards of the page, in millimetres</translation>
+        <translation>Space between the cards on the page, in millimetres</translation>
     </message>
     <message>
         <source>I comandi di pagina e di blocco agiscono su tutte le pagine</source>
@@ -976,7 +976,7 @@ Choose its file in the side panel.</translation>
     </message>
     <message>
         <source>Selezione immagine cella</source>
-        <translation>Choice of the cell picture</translation>
+        <translation>Choosing the cell picture</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
@@ -1159,7 +1159,7 @@ Do you want to see them?</translation>
     </message>
     <message>
         <source>il primo carattere non indica il numero di righe della pagina</source>
-        <translation>the first character does not give the number of rows of the page</translation>
+        <translation>the first character does not give the number of rows on the page</translation>
     </message>
     <message>
         <source>caratteri insufficienti per le celle della pagina</source>
@@ -1210,7 +1210,7 @@ Do you want to see them?</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation>Do you want to close without saving?</translation>
+        <translation>Do you want to close this window without saving?</translation>
     </message>
     <message>
         <source>Salva su file</source>

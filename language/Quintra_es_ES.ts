@@ -333,7 +333,7 @@ Tamaño de página: %6</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation>¡Páginas creadas y añadidas a la serie principal!</translation>
+        <translation>¡Páginas creadas y añadidas a la serie de cartones!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
@@ -514,7 +514,7 @@ Tamaño: %5 bytes (%6 MB)
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation>Generación por columnas:
+        <translation>Extracción de números por columnas:
 Demasiados números (%1) para la columna n.º&#xa0;%2
 La columna necesita esa cantidad de números distintos (%3) entre %4 y %5,
 pero es imposible, ya que el intervalo tiene menos (%6).</translation>
@@ -610,7 +610,7 @@ Error al añadir la página %i.</translation>
     </message>
     <message>
         <source>Crea le pagine richieste e le aggiunge alla cartella</source>
-        <translation>Crear las páginas pedidas y añadirlas a la serie de cartones</translation>
+        <translation>Crear las páginas solicitadas y añadirlas a la serie de cartones</translation>
     </message>
     <message>
         <source>Aggiungi pagine</source>
@@ -980,7 +980,7 @@ Elija su archivo en el panel lateral.</translation>
     </message>
     <message>
         <source>Sei sicuro di voler cancellare la cartella e crearne una nuova?</source>
-        <translation>¿Seguro que desea borrar la serie de cartones y crear una nueva?</translation>
+        <translation>¿Seguro que desea eliminar la serie de cartones y crear una nueva?</translation>
     </message>
     <message>
         <source>Creazione annullata.</source>
@@ -1004,7 +1004,7 @@ Vuoi proseguire comunque?</source>
     </message>
     <message>
         <source>Sto cancellando la precedente cartella...</source>
-        <translation>Borrando la serie anterior...</translation>
+        <translation>Eliminando la serie anterior...</translation>
     </message>
     <message>
         <source>Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...</source>
@@ -1210,11 +1210,11 @@ Vuoi visualizzarli?</source>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation>¿Desea cerrar sin guardar?</translation>
+        <translation>¿Desea cerrar la ventana sin guardar?</translation>
     </message>
     <message>
         <source>Salva su file</source>
-        <translation>Guardar en archivo</translation>
+        <translation>Guardar en un archivo</translation>
     </message>
     <message>
         <source>File salvato con successo.</source>
@@ -1262,7 +1262,7 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
-        <translation>Problema al borrar el archivo:
+        <translation>Problema al eliminar el archivo:
  %1</translation>
     </message>
     <message>
@@ -1271,11 +1271,11 @@ Vuoi visualizzarli?</source>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione e l&apos;uscita dal programma?</source>
-        <translation>¿Borrar el archivo de configuración y salir del programa?</translation>
+        <translation>¿Eliminar el archivo de configuración y salir del programa?</translation>
     </message>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
-        <translation>¿Borrar el archivo de configuración?</translation>
+        <translation>¿Eliminar el archivo de configuración?</translation>
     </message>
 </context>
 <context>
@@ -1315,7 +1315,7 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
-        <translation>El total de páginas pedidas (%1)
+        <translation>El total de páginas solicitadas (%1)
 supera el máximo permitido (%2).</translation>
     </message>
     <message>
@@ -1325,9 +1325,9 @@ supera el máximo permitido (%2).</translation>
 %3 -&gt; caselle massime gestibili.
 (eventuale crash del programma)</source>
         <translation>Se desaconseja continuar por las siguientes razones:
-%1 -&gt; casillas totales pedidas.
+%1 -&gt; casillas totales solicitadas.
 %2 -&gt; casillas totales en memoria.
-%3 -&gt; casillas máximas gestionables.
+%3 -&gt; número máximo de casillas que se pueden gestionar.
 (el programa podría cerrarse inesperadamente)</translation>
     </message>
 </context>

@@ -325,7 +325,7 @@ Dimensions de la page&#xa0;: %6</translation>
     </message>
     <message>
         <source>Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?</source>
-        <translation>Les pages choisies seront remplacées par la disposition actuelle. Continuer&#xa0;?</translation>
+        <translation>La disposition actuelle remplacera celle des pages choisies. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Copia schema effettuata!</source>
@@ -333,7 +333,7 @@ Dimensions de la page&#xa0;: %6</translation>
     </message>
     <message>
         <source>Pagine create e aggiunte alla cartella principale!</source>
-        <translation>Pages créées et ajoutées à la série principale&#xa0;!</translation>
+        <translation>Pages créées et ajoutées à la série de cartons&#xa0;!</translation>
     </message>
     <message>
         <source>Errore durante la creazione delle pagine!
@@ -514,7 +514,7 @@ Taille&#xa0;: %5 octets (%6 Mo)
 Impossibile generare %1 numeri sulla colonna n^ %2
 La colonna vorrebbe %3 numeri diversi tra %4 e %5
 ma cio&apos; risulta impossibile in quanto il range e&apos; composto da %6 numeri.</source>
-        <translation>Génération par colonne&#xa0;:
+        <translation>Tirage des numéros par colonne&#xa0;:
 Trop de numéros (%1) pour la colonne n°&#xa0;%2
 La colonne demande autant de numéros différents (%3) entre %4 et %5,
 mais c&apos;est impossible car l&apos;intervalle en compte moins (%6).</translation>
@@ -1210,7 +1210,7 @@ Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
         <source>Vuoi uscire senza salvare?</source>
-        <translation>Voulez-vous fermer sans enregistrer&#xa0;?</translation>
+        <translation>Voulez-vous fermer cette fenêtre sans enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>Salva su file</source>
@@ -1327,7 +1327,7 @@ dépasse le maximum autorisé (%2).</translation>
         <translation>Il est déconseillé de continuer pour les raisons suivantes&#xa0;:
 %1 -&gt; total des cases demandées.
 %2 -&gt; total des cases en mémoire.
-%3 -&gt; maximum de cases gérables.
+%3 -&gt; nombre maximal de cases gérables.
 (le programme pourrait s&apos;arrêter brutalement)</translation>
     </message>
 </context>
