@@ -419,8 +419,8 @@ Größe: %5 Bytes (%6 MB)
         <translation>Sprache wählen:</translation>
     </message>
     <message>
-        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
-        <translation>Sprache des Programms bis zum Beenden und der Kommentare in den Einstellungen; spätere Starts verwenden die Systemsprache</translation>
+        <source>&lt;p&gt;Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Sprache des Programms bis zum Beenden und der Kommentare in den Einstellungen; spätere Starts verwenden die Systemsprache&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
@@ -562,7 +562,7 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     </message>
     <message>
         <source>Celle di ogni riga</source>
-        <translation>Felder jeder Reihe</translation>
+        <translation>Felder in jeder Reihe</translation>
     </message>
     <message>
         <source>Numero di estrazioni per riga</source>

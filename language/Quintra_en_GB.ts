@@ -419,8 +419,8 @@ Size: %5 bytes (%6 MB)
         <translation>Select the language:</translation>
     </message>
     <message>
-        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
-        <translation>Language of the program until it is closed, and of the comments in the settings; later starts use the system language</translation>
+        <source>&lt;p&gt;Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Language of the program until it is closed, and of the comments in the settings; later starts use the system language&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>

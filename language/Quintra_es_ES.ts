@@ -419,8 +419,8 @@ Tamaño: %5 bytes (%6 MB)
         <translation>Seleccione el idioma:</translation>
     </message>
     <message>
-        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
-        <translation>Idioma del programa hasta cerrarlo y de los comentarios de la configuración; después se usa el idioma del sistema</translation>
+        <source>&lt;p&gt;Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Idioma del programa hasta cerrarlo y de los comentarios de la configuración; después se usa el idioma del sistema&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>

@@ -419,8 +419,8 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <translation>Choisir la langue&#xa0;:</translation>
     </message>
     <message>
-        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
-        <translation>Langue du programme jusqu&apos;à sa fermeture et des commentaires dans les paramètres&#xa0;; ensuite, la langue du système s&apos;applique</translation>
+        <source>&lt;p&gt;Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Langue du programme jusqu&apos;à sa fermeture et des commentaires dans les paramètres&#xa0;; ensuite, la langue du système s&apos;applique&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>

@@ -419,8 +419,8 @@ Dimensione: %5 Bytes (%6 MB)
         <translation>Seleziona la lingua:</translation>
     </message>
     <message>
-        <source>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</source>
-        <translation>Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema</translation>
+        <source>&lt;p&gt;Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Lingua del programma fino alla chiusura e dei commenti nelle impostazioni; ai prossimi avvii vale la lingua del sistema&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Impostazioni di default: </source>
