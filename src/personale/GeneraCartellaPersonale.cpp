@@ -39,7 +39,7 @@ void fillCell(Cella &cell, PersonaleChkBox &box, const QVector<unsigned> &number
     cell.tipo = box.tipo;
     if (box.tipo == CELL_NUMERO) {
         cell.numero = numberAt(numbers, --remaining);
-        box.setNumero(cell.numero);
+        box.setText(QString::number(cell.numero));
     }
 }
 

@@ -100,40 +100,6 @@ void PersonaleChkBox::setPosition(U8 row, U8 column)
     setToolTip(positionText(row, column));
 }
 
-void PersonaleChkBox::setNumero(quint32 numero)
-{
-    m_notedNumber = numero;
-    if (m_onDisplay) {
-        showNotedNumber();
-    }
-}
-
-QString PersonaleChkBox::text() const
-{
-    return m_notedNumber ? QString::number(*m_notedNumber) : QCheckBox::text();
-}
-
-void PersonaleChkBox::showEvent(QShowEvent *event)
-{
-    m_onDisplay = true;
-    showNotedNumber();
-    QCheckBox::showEvent(event);
-}
-
-void PersonaleChkBox::hideEvent(QHideEvent *event)
-{
-    m_onDisplay = false;
-    QCheckBox::hideEvent(event);
-}
-
-void PersonaleChkBox::showNotedNumber()
-{
-    if (m_notedNumber) {
-        setText(QString::number(*m_notedNumber));
-        m_notedNumber.reset();
-    }
-}
-
 // Numbers of two digits fit without moving the grid.
 QSize PersonaleChkBox::sizeHint() const
 {

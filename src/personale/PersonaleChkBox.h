@@ -5,8 +5,6 @@
 
 #include <QCheckBox>
 
-#include <optional>
-
 // One cell of a hand-drawn page: the tick says whether it is filled, `tipo` with what. Its colour and the first letter
 // of its type show at a glance what it is; arrow keys move to the neighbours of the grid that holds it.
 class PersonaleChkBox final : public QCheckBox
@@ -22,12 +20,6 @@ public:
     void setPosition(U8 row, U8 column);
 
     bool isTickedNumber() const { return tipo == CELL_NUMERO && isChecked(); }
-
-    // Shows a number as the text. A box that is not on display notes it until it is shown: of the many boxes of many
-    // pages few are ever looked at, and setting the text of all of them takes most of the time of their creation.
-    void setNumero(quint32 numero);
-    // The text with the number, noted or shown. Hides the function of the base, which does not know a noted number.
-    QString text() const;
 
     QSize sizeHint() const override;
 
@@ -46,18 +38,11 @@ public slots:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     // The whole cell can be clicked.
     bool hitButton(const QPoint &position) const override;
 
 private:
     static QString typeName(CELL_VALUE value);
-    void showNotedNumber();
     void moveFocus(int rows, int columns);
-
-    // Kept here, since asking every one of many boxes whether it is visible costs a good part of filling their pages.
-    bool m_onDisplay = false;
-    std::optional<quint32> m_notedNumber; // not yet in the text
 };

@@ -90,7 +90,6 @@ private slots:
     void typeAndTickAreSeen_data();
     void typeAndTickAreSeen();
     void aNumberIsPaintedAsItsText();
-    void aNumberIsTheTextShownOrNot();
 };
 
 void tst_PersonaleChkBox::aNewBoxIsAnUntickedEmptyCell()
@@ -296,28 +295,6 @@ void tst_PersonaleChkBox::aNumberIsPaintedAsItsText()
     QVERIFY(box.grab().toImage() != without);
     box.setText(QStringLiteral("1234567"));
     QVERIFY(box.sizeHint().width() > emptyWidth);
-}
-
-void tst_PersonaleChkBox::aNumberIsTheTextShownOrNot()
-{
-    PersonaleChkBox box;
-    const QCheckBox &base = box;
-    box.setNumero(12);
-    QCOMPARE(box.text(), QStringLiteral("12"));
-    const int width = box.sizeHint().width();
-    box.setNumero(1234567);
-    QVERIFY(box.sizeHint().width() > width);
-    box.show();
-    QCOMPARE(base.text(), QStringLiteral("1234567"));
-    box.setNumero(0);
-    QCOMPARE(base.text(), QStringLiteral("0"));
-    QCOMPARE(box.text(), QStringLiteral("0"));
-    box.hide();
-    box.setNumero(90);
-    QCOMPARE(box.text(), QStringLiteral("90"));
-    QCOMPARE(base.text(), QStringLiteral("0")); // not told before it is shown
-    box.show();
-    QCOMPARE(base.text(), QStringLiteral("90"));
 }
 
 QTEST_MAIN(tst_PersonaleChkBox)
