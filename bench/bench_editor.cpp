@@ -9,10 +9,7 @@
 #include <QCheckBox>
 #include <QSpinBox>
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
-#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -44,76 +41,59 @@ void deliverEvents()
     QCoreApplication::processEvents();
 }
 
-template<typename Action>
-void timed(benchmark::State &state, Action action)
+double creatingBare()
 {
-    const auto start = std::chrono::steady_clock::now();
-    action();
-    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-    state.SetIterationTime(seconds.count());
+    BareBoxes boxes;
+    const double seconds = processorTime([&boxes]() { boxes = createBareBoxes(); });
+    deliverEvents();
+    return seconds;
 }
 
-void createBare(benchmark::State &state)
+double deletingBare()
 {
-    for (auto _ : state) {
-        BareBoxes boxes;
-        timed(state, [&boxes]() { boxes = createBareBoxes(); });
-        deliverEvents();
-    }
+    BareBoxes boxes = createBareBoxes();
+    deliverEvents();
+    return processorTime([&boxes]() { boxes.clear(); });
 }
-BENCHMARK(createBare)->UseManualTime()->Iterations(1)->Repetitions(7)->Unit(benchmark::kMillisecond);
-
-void deleteBare(benchmark::State &state)
-{
-    for (auto _ : state) {
-        BareBoxes boxes = createBareBoxes();
-        deliverEvents();
-        timed(state, [&boxes]() { boxes.clear(); });
-    }
-}
-BENCHMARK(deleteBare)->UseManualTime()->Iterations(1)->Repetitions(7)->Unit(benchmark::kMillisecond);
 
 // Until the window is on the screen.
-void openEditor(benchmark::State &state)
+double openingEditor()
 {
     Cartella cartella;
-    for (auto _ : state) {
-        std::unique_ptr<EditPersonale> editor;
-        timed(state, [&editor, &cartella]() {
-            editor = std::make_unique<EditPersonale>(nullptr, &cartella, rows, columns, manyPages, 1, 90, U8(0));
-            deliverEvents();
-        });
-    }
-}
-BENCHMARK(openEditor)->UseManualTime()->Iterations(1)->Repetitions(7)->Unit(benchmark::kMillisecond);
-
-void closeEditor(benchmark::State &state)
-{
-    Cartella cartella;
-    for (auto _ : state) {
-        auto editor = std::make_unique<EditPersonale>(nullptr, &cartella, rows, columns, manyPages, 1, 90, U8(0));
+    std::unique_ptr<EditPersonale> editor;
+    return processorTime([&editor, &cartella]() {
+        editor = std::make_unique<EditPersonale>(nullptr, &cartella, rows, columns, manyPages, 1, 90, U8(0));
         deliverEvents();
-        timed(state, [&editor]() { editor.reset(); });
-    }
+    });
 }
-BENCHMARK(closeEditor)->UseManualTime()->Iterations(1)->Repetitions(7)->Unit(benchmark::kMillisecond);
+
+double closingEditor()
+{
+    Cartella cartella;
+    auto editor = std::make_unique<EditPersonale>(nullptr, &cartella, rows, columns, manyPages, 1, 90, U8(0));
+    deliverEvents();
+    return processorTime([&editor]() { editor.reset(); });
+}
 
 // To and fro between the first and the last of the given number of pages, painted each time.
-void switchPage(benchmark::State &state)
+Quantity switchingPages(U16 pages)
 {
-    Cartella cartella;
-    const auto pages = static_cast<U16>(state.range(0));
-    const EditPersonale editor(nullptr, &cartella, rows, columns, pages, 1, 90, 0);
-    deliverEvents();
-    auto *page = editor.findChild<QSpinBox *>(QStringLiteral("pageNumSpinBox"));
-    for (auto _ : state) {
-        page->setValue(pages);
+    return [pages]() {
+        constexpr int times = 20;
+        Cartella cartella;
+        const EditPersonale editor(nullptr, &cartella, rows, columns, pages, 1, 90, 0);
         deliverEvents();
-        page->setValue(1);
-        deliverEvents();
-    }
+        auto *page = editor.findChild<QSpinBox *>(QStringLiteral("pageNumSpinBox"));
+        return processorTime([page, pages]() {
+            for (int i = 0; i < times; ++i) {
+                page->setValue(pages);
+                deliverEvents();
+                page->setValue(1);
+                deliverEvents();
+            }
+        });
+    };
 }
-BENCHMARK(switchPage)->Arg(2)->Arg(manyPages)->Unit(benchmark::kMillisecond);
 
 // As many numbers as the classic generator gives: every column uses up its range of 1 to 90.
 std::vector<PaginaPersonale> drawnPages()
@@ -137,25 +117,31 @@ std::vector<PaginaPersonale> drawnPages()
     return pages;
 }
 
-void createPerColumn(benchmark::State &state)
+double creatingPerColumn()
 {
     std::vector<PaginaPersonale> pages = drawnPages();
-    GeneraCartellaPersonale generatore;
-    for (auto _ : state) {
-        std::optional<Cartella> cartella(std::in_place);
+    Cartella cartella;
+    return processorTime([&pages, &cartella]() {
         QString errore;
-        bool created = false;
-        timed(state, [&]() { created = generatore.generaPagine(manyPages, pages, &*cartella, 1, 90, errore); });
-        if (!created) {
-            state.SkipWithError("pages not created");
+        if (!GeneraCartellaPersonale().generaPagine(manyPages, pages, &cartella, 1, 90, errore)) {
+            qFatal("pages not created");
         }
-        cartella.reset();
+    });
+}
+
+void tellNumbers(const Pagina &page, QCheckBox *boxes)
+{
+    for (const Riga &row : *begin(page)) {
+        for (const Cella &cell : row) {
+            if (cell.tipo == CELL_NUMERO) {
+                boxes++->setText(QString::number(cell.numero));
+            }
+        }
     }
 }
-BENCHMARK(createPerColumn)->UseManualTime()->Iterations(1)->Repetitions(7)->Unit(benchmark::kMillisecond);
 
 // As many pages of the classic generator, each of its numbers told to a bare check box that is ticked.
-void createClassic(benchmark::State &state)
+double creatingClassic()
 {
     constexpr int drawn = 5; // per row
     BareBoxes boxes = createBareBoxes();
@@ -163,35 +149,23 @@ void createClassic(benchmark::State &state)
         std::for_each_n(page.get(), cellsPerPage, [](QCheckBox &box) { box.setChecked(true); });
     }
     QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
-    GeneraCartellaClassica generatore;
-    for (auto _ : state) {
-        std::optional<Cartella> cartella;
-        bool created = true;
-        timed(state, [&]() {
-            cartella.emplace(manyPages, U8(1), rows, columns);
-            for (int page = 0; page < manyPages; ++page) {
-                created = generatore.generate(cartella->pagine[page], columns, drawn, 0, 0, 1, 90) && created;
-                QCheckBox *box = boxes[static_cast<size_t>(page)].get();
-                for (const Riga &row : *begin(*cartella->pagine[page])) {
-                    for (const Cella &cell : row) {
-                        if (cell.tipo == CELL_NUMERO) {
-                            box++->setText(QString::number(cell.numero));
-                        }
-                    }
-                }
+    std::optional<Cartella> cartella;
+    return processorTime([&]() {
+        cartella.emplace(manyPages, U8(1), rows, columns);
+        for (int page = 0; page < manyPages; ++page) {
+            if (!GeneraCartellaClassica().generate(cartella->pagine[page], columns, drawn, 0, 0, 1, 90)) {
+                qFatal("a page was not filled");
             }
-        });
-        if (!created) {
-            state.SkipWithError("pages not created");
+            tellNumbers(*cartella->pagine[page], boxes[static_cast<size_t>(page)].get());
         }
-    }
+    });
 }
-BENCHMARK(createClassic)->UseManualTime()->Iterations(1)->Repetitions(7)->Unit(benchmark::kMillisecond);
 
-const Ratio opening("opening the editor, 1000 pages of 18 x 9 / bare check boxes", "openEditor", "createBare",
+const Ratio opening("opening the editor, 1000 pages of 18 x 9 / bare check boxes", openingEditor, creatingBare,
                     Ratio::Bound::AtMost, 3);
-const Ratio closing("closing it / deleting bare check boxes", "closeEditor", "deleteBare", Ratio::Bound::AtMost, 3);
-const Ratio switching("switching pages, 1000 / 2 pages", "switchPage/1000", "switchPage/2", Ratio::Bound::AtMost, 1.5);
-const Ratio creating("creating 1000 pages per column / classic, told to bare boxes", "createPerColumn", "createClassic",
+const Ratio closing("closing it / deleting bare check boxes", closingEditor, deletingBare, Ratio::Bound::AtMost, 3);
+const Ratio switching("switching pages, 1000 / 2 pages", switchingPages(manyPages), switchingPages(2),
+                      Ratio::Bound::AtMost, 1.5);
+const Ratio creating("creating 1000 pages per column / classic, told to bare boxes", creatingPerColumn, creatingClassic,
                      Ratio::Bound::AtMost, 2);
 } // namespace
