@@ -91,12 +91,12 @@ bool print(const Announced &ratio, const std::vector<double> &sorted)
 {
     const char *sign = ratio.bound == Ratio::Bound::AtMost ? "<=" : ">=";
     if (sorted.empty()) {
-        std::printf("%-66s %32s %2s %8.2f\n", ratio.what.c_str(), "not run", sign, ratio.limit);
+        std::printf("%-66s %32s %2s %8.4g\n", ratio.what.c_str(), "not run", sign, ratio.limit);
         return true;
     }
     const double median = sorted[sorted.size() / 2];
     const bool reached = within(ratio, sorted.front()) || within(ratio, sorted.back());
-    std::printf("%-66s %9.2f %10.2f -%10.2f %2s %8.2f%s\n", ratio.what.c_str(), median, sorted.front(), sorted.back(),
+    std::printf("%-66s %9.4g %10.4g -%10.4g %2s %8.4g%s\n", ratio.what.c_str(), median, sorted.front(), sorted.back(),
                 sign, ratio.limit,
                 !reached                ? " NOT REACHED"
                 : within(ratio, median) ? ""

@@ -3,120 +3,13 @@
 #include "model/Cartella.h"
 
 #include <algorithm>
-#include <limits>
-#include <utility>
 #include <vector>
 
 namespace {
-quint64 cellsOf(const Blocco &block)
-{
-    quint64 cells = 0;
-    for (int r = 0; r < block.nRighe; ++r) {
-        cells += block.righe[r].nCelle;
-    }
-    return cells;
-}
-
 struct BlockPosition
 {
     int page;
     int block;
-};
-
-// The blocks entered so far, found again by their signature in a table of places (open addressing). Blocks must be
-// entered page by page.
-class BlockIndex final
-{
-public:
-    explicit BlockIndex(const QVector<Pagina *> &pages)
-    {
-        size_t blocks = 0;
-        for (const Pagina *page : pages) {
-            blocks += page->nBlocchi;
-        }
-        m_blocks.reserve(blocks);
-        size_t places = 2;
-        while (places < 2 * blocks) {
-            places *= 2;
-        }
-        m_places.resize(places);
-    }
-
-    // Enters a block; how many blocks of earlier pages have its signature.
-    quint64 enter(QString signature, BlockPosition position)
-    {
-        const auto entered = static_cast<quint32>(m_blocks.size());
-        Place &place = placeOf(signature);
-        if (place.firstBlock == noBlock) {
-            place.firstBlock = entered;
-        }
-        m_blocks.push_back({std::move(signature), position, noBlock, entered, 0, 0});
-        m_firstEqual = place.firstBlock;
-
-        Entry &first = m_blocks[place.firstBlock];
-        if (m_blocks[first.lastEqual].position.page != position.page) {
-            first.onEarlierPages = first.equals;
-        }
-        m_blocks[first.lastEqual].nextEqual = entered;
-        first.lastEqual = entered;
-        ++first.equals;
-        return first.onEarlierPages;
-    }
-
-    // Calls `take` with the position of each of the first `count` blocks that have the signature entered last.
-    template<typename Take>
-    void forEachEqual(quint64 count, Take take) const
-    {
-        quint32 block = m_firstEqual;
-        for (quint64 i = 0; i < count; ++i, block = m_blocks[block].nextEqual) {
-            take(m_blocks[block].position);
-        }
-    }
-
-private:
-    static constexpr quint32 noBlock = std::numeric_limits<quint32>::max();
-
-    struct Entry
-    {
-        QString signature;
-        BlockPosition position;
-        quint32 nextEqual;
-        // Only kept of the first block with a signature:
-        quint32 lastEqual;
-        quint32 equals;
-        quint32 onEarlierPages; // of the equals, than that of the last one
-    };
-    struct Place
-    {
-        uint hash = 0;
-        quint32 firstBlock = noBlock;
-    };
-
-    // The place of the signature, or the free one to put it.
-    Place &placeOf(const QString &signature)
-    {
-        const uint hash = qHash(signature);
-        const size_t mask = m_places.size() - 1;
-        size_t at = hash & mask;
-        while (m_places[at].firstBlock != noBlock &&
-               (m_places[at].hash != hash || m_blocks[m_places[at].firstBlock].signature != signature)) {
-            at = (at + 1) & mask;
-        }
-        m_places[at].hash = hash;
-        return m_places[at];
-    }
-
-    std::vector<Entry> m_blocks; // in the order entered
-    std::vector<Place> m_places;
-    quint32 m_firstEqual = 0;
-};
-
-struct EqualBlockCounters
-{
-    quint64 blocks = 0;
-    quint64 comparisons = 0; // as comparing each pair would have made
-    quint64 cells = 0;
-    quint64 equal = 0;
 };
 
 // Words the equal pairs.
@@ -138,10 +31,133 @@ private:
     QString m_line;
 };
 
-QString summaryOf(const EqualBlockCounters &counters)
+// The equal blocks of a set. Sorting brings them together: unlike a hash table it reads the memory of large sets in
+// order.
+class EqualBlocks final
+{
+public:
+    // Calls `aboutToRead` with the index of each page.
+    template<typename Progress>
+    EqualBlocks(const QVector<Pagina *> &pages, Progress aboutToRead)
+    {
+        for (int p = 0; p < pages.size(); ++p) {
+            aboutToRead(p);
+            for (int b = 0; b < pages[p]->nBlocchi; ++b) {
+                enter(blockSignature(pages[p]->blocchi[b]), {p, b});
+            }
+        }
+        groupEquals();
+    }
+
+    // Pairs of equal blocks on different pages.
+    qint64 pairs() const
+    {
+        qint64 sum = 0;
+        for (const Block &block : m_blocks) {
+            sum += block.equalsBefore;
+        }
+        return sum;
+    }
+
+    // Appends the first `most` pairs, in the order of the later block of each.
+    void appendLines(QVector<QString> &lines, qint64 most) const
+    {
+        const PairLines words;
+        qint64 left = most;
+        for (const Block &block : m_blocks) {
+            for (quint32 i = 0; i < block.equalsBefore && left > 0; ++i, --left) {
+                lines.append(words.line(block.position, m_blocks[m_grouped[block.firstEqual + i].index].position));
+            }
+        }
+    }
+
+private:
+    struct Block
+    {
+        QString signature;
+        BlockPosition position;
+        quint32 firstEqual;   // where its equals begin in m_grouped
+        quint32 equalsBefore; // how many of them are on earlier pages
+    };
+    struct Place
+    {
+        uint hash; // spares most comparisons of signatures
+        quint32 index;
+    };
+
+    void enter(const QString &signature, BlockPosition position)
+    {
+        m_grouped.push_back({qHash(signature), static_cast<quint32>(m_blocks.size())});
+        m_blocks.push_back({signature, position, 0, 0});
+    }
+
+    void groupEquals()
+    {
+        std::sort(m_grouped.begin(), m_grouped.end(), [this](Place left, Place right) {
+            const int order = compare(left, right);
+            return order != 0 ? order < 0 : left.index < right.index;
+        });
+        quint32 first = 0;
+        quint32 before = 0;
+        for (quint32 at = 1; at < m_grouped.size(); ++at) {
+            Block &block = m_blocks[m_grouped[at].index];
+            if (compare(m_grouped[at - 1], m_grouped[at]) != 0) {
+                first = at;
+                before = 0;
+            } else if (m_blocks[m_grouped[at - 1].index].position.page != block.position.page) {
+                before = at - first;
+            }
+            block.firstEqual = first;
+            block.equalsBefore = before;
+        }
+    }
+
+    // 0 for equal signatures; else by their hash values, in no order that means anything.
+    int compare(Place left, Place right) const
+    {
+        if (left.hash != right.hash) {
+            return left.hash < right.hash ? -1 : 1;
+        }
+        return m_blocks[left.index].signature.compare(m_blocks[right.index].signature);
+    }
+
+    std::vector<Block> m_blocks;  // in the order of the set
+    std::vector<Place> m_grouped; // equal blocks together, in the order of the set
+};
+
+quint64 cellsOf(const Blocco &block)
+{
+    quint64 cells = 0;
+    for (const Riga &row : block) {
+        cells += row.nCelle;
+    }
+    return cells;
+}
+
+struct Counters
+{
+    quint64 blocks = 0;
+    quint64 comparisons = 0; // as comparing each pair makes
+    quint64 cells = 0;
+};
+
+Counters countersOf(const QVector<Pagina *> &pages)
+{
+    Counters counters;
+    for (const Pagina *page : pages) {
+        counters.comparisons += counters.blocks * page->nBlocchi;
+        counters.blocks += page->nBlocchi;
+        for (const Blocco &block : *page) {
+            counters.cells += cellsOf(block);
+        }
+    }
+    return counters;
+}
+
+QString summaryOf(const Counters &counters, qint64 equal)
 {
     constexpr float hundred = 100.0F;
-    float percentage = static_cast<float>(counters.equal) * hundred;
+    float percentage = static_cast<float>(equal) * hundred;
     percentage = counters.blocks == 0 ? 0.0F : percentage / static_cast<float>(counters.blocks);
     // A check without any comparison says that it made one.
     const quint64 comparisons = counters.comparisons == 0 ? 1 : counters.comparisons;
@@ -152,7 +168,7 @@ QString summaryOf(const EqualBlockCounters &counters)
         .arg(counters.blocks)
         .arg(comparisons)
         .arg(counters.cells)
-        .arg(counters.equal)
+        .arg(equal)
         .arg(QString::number(static_cast<double>(percentage), 'f', 2));
 }
 } // namespace
@@ -168,45 +184,21 @@ qint64 Cartella::checkForEqualBlocks(QVector<QString> *risultati, QString *somma
     }
     const QString progress = tr("Confronto pagina %1 di %2");
     const QString pageCount = QString::number(pagine.size());
-    const PairLines lines;
-    BlockIndex index(pagine);
-    EqualBlockCounters counters;
-    for (int p = 0; p < pagine.size(); ++p) {
-        emit checkForEqualBlocksStatus(progress.arg(QString::number(p + 1), pageCount));
-        const Pagina &page = *pagine[p];
-        for (int b = 0; b < page.nBlocchi; ++b) {
-            const quint64 equal = index.enter(blockSignature(page.blocchi[b]), {p, b});
-            counters.cells += cellsOf(page.blocchi[b]);
-            counters.comparisons += counters.blocks; // still those of the earlier pages
-            counters.equal += equal;
-            if (risultati != nullptr) {
-                index.forEachEqual(equal, [&](BlockPosition earlier) {
-                    risultati->append(lines.line({p, b}, earlier));
-                });
-            }
-        }
-        counters.blocks += page.nBlocchi;
+    const EqualBlocks blocks(
+        pagine, [&](int page) { emit checkForEqualBlocksStatus(progress.arg(QString::number(page + 1), pageCount)); });
+    const qint64 equal = blocks.pairs();
+    if (risultati != nullptr) {
+        blocks.appendLines(*risultati, equal);
     }
     if (sommario != nullptr) {
-        *sommario = summaryOf(counters);
+        *sommario = summaryOf(countersOf(pagine), equal);
     }
-    return static_cast<qint64>(counters.equal);
+    return equal;
 }
 
 QVector<QString> Cartella::equalBlockLines(qint64 most) const
 {
-    QVector<QString> found;
-    const PairLines lines;
-    BlockIndex index(pagine);
-    for (int p = 0; p < pagine.size() && found.size() < most; ++p) {
-        const Pagina &page = *pagine[p];
-        for (int b = 0; b < page.nBlocchi && found.size() < most; ++b) {
-            const quint64 equal = index.enter(blockSignature(page.blocchi[b]), {p, b});
-            const auto wanted = static_cast<quint64>(most - found.size());
-            index.forEachEqual(std::min(equal, wanted), [&](BlockPosition earlier) {
-                found.append(lines.line({p, b}, earlier));
-            });
-        }
-    }
-    return found;
+    QVector<QString> lines;
+    EqualBlocks(pagine, [](int) {}).appendLines(lines, most);
+    return lines;
 }
