@@ -3,6 +3,7 @@
 
 #include "generation/GUtils.h"
 #include "model/Cartella.h"
+#include "output/Megabytes.h"
 #include "output/PagePainter.h"
 #include "settings/Config.h"
 #include "settings/Product.h"
@@ -16,7 +17,6 @@ namespace {
 constexpr int pdfFormatId = 0;
 constexpr int noFormatId = -1;
 constexpr int failure = -1;
-constexpr double megabytesPerByte = 9.536743e-07;
 
 void setUpPrinter(QPrinter &printer, const QString &fileName, const Cartella &set)
 {
@@ -115,10 +115,5 @@ QString CreateOutputFile::successReport(qint64 bytes) const
     return tr("File creato con successo!\n\nNome: %1\nPercorso: %2\n\nPagine: %3\nDimensione: %4 Bytes (%5 MB)\n"
               "----------------------------------------\n\nDimensioni pagina: %6")
         .arg(file.completeBaseName(), file.absolutePath(), QString::number(cartella->getNumPages()),
-             QString::number(bytes), megabytesText(bytes), GUtils::paperFormatName(cartella->formato));
-}
-
-QString megabytesText(qint64 bytes)
-{
-    return QString::number(static_cast<double>(bytes) * megabytesPerByte, 'f', 2);
+             QString::number(bytes), megabytesText<double>(bytes), GUtils::paperFormatName(cartella->formato));
 }

@@ -34,6 +34,3 @@ private:
     bool printPages(const PagePainter &painter, QPrinter &printer);
     QString successReport(qint64 bytes) const;
 };
-
-// Megabytes of 1048576 bytes, with two decimals.
-[[nodiscard]] QString megabytesText(qint64 bytes);

@@ -3,6 +3,7 @@
 
 #include "msgarea/MsgArea.h"
 #include "msgarea/WaitCursor.h"
+#include "output/Megabytes.h"
 #include "personale/MappingFile.h"
 #include "settings/Config.h"
 #include "settings/Product.h"
@@ -71,14 +72,12 @@ void EditPersonale::writeMapping(const QString &fileName)
 
 void EditPersonale::showSaveReport(const QString &fileName)
 {
-    constexpr float megabytesPerByte = 9.536743e-07F;
     const QFileInfo info(fileName);
     const qint64 size = info.size();
-    const float megabytes = static_cast<float>(size) * megabytesPerByte;
     showReport(tr("File creato con successo!\n\nNome: %1\nEstensione: %2\nPercorso: %3\n\nPagine: %4\nDimensione: "
                   "%5 Bytes (%6 MB)\n")
                    .arg(info.completeBaseName(), info.suffix(), info.absolutePath(), QString::number(m_pageCount),
-                        QString::number(size), QString::number(static_cast<double>(megabytes), 'f', 2)));
+                        QString::number(size), megabytesText<float>(size)));
 }
 
 void EditPersonale::showReport(const QString &text)

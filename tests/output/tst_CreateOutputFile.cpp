@@ -161,24 +161,6 @@ private slots:
                                               "(148x210mm)"));
     }
 
-    void megabytesAreRoundedToTwoDecimals_data()
-    {
-        QTest::addColumn<qint64>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("none") << qint64{0} << "0.00";
-        QTest::newRow("one") << qint64{1048576} << "1.00";
-        QTest::newRow("one and a half") << qint64{1572864} << "1.50";
-        QTest::newRow("rounded up") << qint64{5243} << "0.01";
-        QTest::newRow("beyond 32 bits") << qint64{5368709120} << "5120.00";
-    }
-
-    void megabytesAreRoundedToTwoDecimals()
-    {
-        QFETCH(qint64, bytes);
-        QFETCH(QString, text);
-        QCOMPARE(megabytesText(bytes), text);
-    }
-
     void unwritablePathsAreRefused_data()
     {
         QTest::addColumn<QString>("name");
