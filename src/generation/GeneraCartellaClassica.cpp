@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "generation/GeneraCartellaClassica.h"
 
-#include "generation/CellImage.h"
 #include "generation/ColumnLayout.h"
+#include "generation/DefaultCell.h"
 #include "generation/GUtils.h"
-#include "settings/Config.h"
 
 #include <QDebug>
 
@@ -115,8 +114,8 @@ class CellWriter final
 {
 public:
     explicit CellWriter(bool withImages)
-        : m_text(globalConfig != nullptr ? globalConfig->defaultCellText : QString())
-        , m_image(withImages ? defaultCellImage() : QImage())
+        : m_text(DefaultCell::text())
+        , m_image(withImages ? DefaultCell::image() : QImage())
     {
     }
 

@@ -2,8 +2,8 @@
 #include "mainwindow/MainWindow.h"
 
 #include "generation/CellImage.h"
+#include "generation/DefaultCell.h"
 #include "mainwindow/PageTable.h"
-#include "settings/Config.h"
 #include "settings/Product.h"
 #include "ui_MainWindow.h"
 
@@ -88,7 +88,7 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
     }
     if (cell->tipo != before || item->text().isEmpty()) {
         const QScopedValueRollback<bool> guard(m_editGuard, true);
-        item->setText(cellText(*cell, globalConfig->defaultCellText));
+        item->setText(cellText(*cell, DefaultCell::text()));
     }
     if (item->isSelected()) {
         tableItemSelectionChanged();
@@ -117,7 +117,7 @@ void MainWindow::setTypedText(Cella *cell, const QString &text)
                              tr("Cella impostata come IMMAGINE.\nIl percorso dell'immagine deve essere scelto tramite "
                                 "il pannello a lato."));
     cell->tipo = CELL_IMMAGINE;
-    cell->immagine = defaultCellImage();
+    cell->immagine = DefaultCell::image();
 }
 
 void MainWindow::on_buttSelezionaImmagine_clicked()
@@ -132,7 +132,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
         return;
     }
     const QString path = QFileDialog::getOpenFileName(
-        this, tr("Apre un'immagine da inserire nella cella"), QFileInfo(globalConfig->defaultCellImage).absolutePath(),
+        this, tr("Apre un'immagine da inserire nella cella"), QFileInfo(DefaultCell::imagePath()).absolutePath(),
         tr("JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)"));
     if (path.isEmpty()) {
         qWarning("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");

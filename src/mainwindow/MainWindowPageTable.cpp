@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
+#include "generation/DefaultCell.h"
 #include "mainwindow/PageTable.h"
 #include "model/Positions.h"
 #include "msgarea/WaitCursor.h"
-#include "settings/Config.h"
 #include "ui_MainWindow.h"
 
 #include <QHeaderView>
@@ -77,7 +77,7 @@ void MainWindow::loadPagina(U16 page)
     QTableWidget *table = replaceTable();
     setUpHeaders(table);
     setPageColour(table, shown.sfondo);
-    fillTable(table, shown, m_cartella->getMaxPageColSize(page), globalConfig->defaultCellText);
+    fillTable(table, shown, m_cartella->getMaxPageColSize(page), DefaultCell::text());
     connect(table, &QTableWidget::itemChanged, this, &MainWindow::tableItemChanged);
     connect(table, &QTableWidget::itemSelectionChanged, this, &MainWindow::tableItemSelectionChanged);
     ui->gridLayout->addWidget(table, 0, 0);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generation/GeneraCartellaClassica.h"
 
-#include "generation/CellImage.h"
+#include "generation/DefaultCell.h"
 #include "generation/GUtils.h"
 #include "settings/Config.h"
 #include "support/LogCapture.h"
@@ -492,7 +492,7 @@ void tst_GeneraCartellaClassica::jollyCellsShowTheDefaults()
         const Cella &text = row.celle[row.celle[0].tipo == CELL_IMMAGINE ? 1 : 0];
         QCOMPARE(image.tipo, CELL_IMMAGINE);
         QCOMPARE(image.immagine.size(), QSize(7, 5));
-        QCOMPARE(image.immagine.cacheKey(), defaultCellImage().cacheKey());
+        QCOMPARE(image.immagine.cacheKey(), DefaultCell::image().cacheKey());
         QCOMPARE(text.tipo, CELL_TESTO);
         QCOMPARE(text.testo, QStringLiteral("Jolly!"));
     }

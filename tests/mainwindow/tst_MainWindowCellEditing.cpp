@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PageWindow.h"
 
-#include "generation/CellImage.h"
+#include "generation/DefaultCell.h"
 #include "support/LogCapture.h"
 
 #include <QFileDialog>
@@ -212,7 +212,7 @@ void tst_MainWindowCellEditing::threeNoMakeAnImageCell()
     w.type(0, 0, QStringLiteral("foto"));
     QCOMPARE(w.cell(0, 0, 0).tipo, CELL_IMMAGINE);
     QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(8, 6));
-    QCOMPARE(w.cell(0, 0, 0).immagine.cacheKey(), defaultCellImage().cacheKey()); // shared
+    QCOMPARE(w.cell(0, 0, 0).immagine.cacheKey(), DefaultCell::image().cacheKey()); // shared
     QCOMPARE(w.item(0, 0)->text(), QStringLiteral("IMG"));
     QCOMPARE(w.boxes.problems(), QStringList());
 }
