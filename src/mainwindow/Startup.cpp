@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QScopeGuard>
 
 #include <memory>
 
@@ -36,7 +37,12 @@ int startQuintra(int &argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
 
-    // Declared in the reverse order of creation, so that the loop goes first and the configuration last.
+    const auto forgetAll = qScopeGuard([]() {
+        globalUtils = nullptr;
+        globalConfig = nullptr;
+        globalEventLoop = nullptr;
+    });
+    // Not in the order of creation, so that the loop goes first and the configuration last.
     std::unique_ptr<Config> config;
     std::unique_ptr<GUtils> utils;
     std::unique_ptr<QEventLoop> loop;

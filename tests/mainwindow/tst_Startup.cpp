@@ -180,6 +180,9 @@ void tst_Startup::theSharedObjectsLiveAsLongAsTheWindows()
         leave(shown<MainWindow>());
     });
     QCOMPARE(gone, QStringList({QStringLiteral("window"), QStringLiteral("loop"), QStringLiteral("application")}));
+    QVERIFY(globalUtils == nullptr);
+    QVERIFY(globalConfig == nullptr);
+    QVERIFY(globalEventLoop == nullptr);
     QCOMPARE(boxProblems, QStringList());
 }
 
