@@ -94,6 +94,13 @@ Seitengröße: %6</translation>
     </message>
 </context>
 <context>
+    <name>Diario</name>
+    <message>
+        <source>la serata è già aperta in un&apos;altra finestra</source>
+        <translation>der Spielabend ist schon in einem anderen Fenster geöffnet</translation>
+    </message>
+</context>
+<context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>

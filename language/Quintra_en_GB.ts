@@ -94,6 +94,13 @@ Page size: %6</translation>
     </message>
 </context>
 <context>
+    <name>Diario</name>
+    <message>
+        <source>la serata è già aperta in un&apos;altra finestra</source>
+        <translation>the evening is already open in another window</translation>
+    </message>
+</context>
+<context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>

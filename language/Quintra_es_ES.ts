@@ -94,6 +94,13 @@ Tamaño de página: %6</translation>
     </message>
 </context>
 <context>
+    <name>Diario</name>
+    <message>
+        <source>la serata è già aperta in un&apos;altra finestra</source>
+        <translation>la velada ya está abierta en otra ventana</translation>
+    </message>
+</context>
+<context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>

@@ -94,6 +94,13 @@ Dimensions de la page&#xa0;: %6</translation>
     </message>
 </context>
 <context>
+    <name>Diario</name>
+    <message>
+        <source>la serata è già aperta in un&apos;altra finestra</source>
+        <translation>la soirée est déjà ouverte dans une autre fenêtre</translation>
+    </message>
+</context>
+<context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>
@@ -1421,7 +1428,7 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Queste righe del registro non sono schede e sono state saltate:</source>
-        <translation>Ces lignes du registre ne sont pas des cartons et ont été ignorées :</translation>
+        <translation>Ces lignes du registre ne sont pas des cartons et ont été ignorées&#xa0;:</translation>
     </message>
     <message>
         <source>Riga %1: %2.</source>

@@ -94,6 +94,13 @@ Dimensioni pagina: %6</translation>
     </message>
 </context>
 <context>
+    <name>Diario</name>
+    <message>
+        <source>la serata è già aperta in un&apos;altra finestra</source>
+        <translation>la serata è già aperta in un&apos;altra finestra</translation>
+    </message>
+</context>
+<context>
     <name>EditPersonale</name>
     <message>
         <source>Pagina</source>

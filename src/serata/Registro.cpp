@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "serata/Registro.h"
 
+#include "settings/WholeFile.h"
+
 #include <QCoreApplication>
-#include <QIODevice>
+#include <QFile>
 #include <QSet>
 #include <QStringList>
 
@@ -315,6 +317,13 @@ quint32 key(Posizione posizione)
     constexpr int bitsOfBlock = 8;
     return quint32(posizione.pagina) << bitsOfBlock | posizione.blocco;
 }
+
+// Whether the last bytes have left the program too.
+bool isClosed(QFile &file)
+{
+    file.close();
+    return file.error() == QFile::NoError;
+}
 } // namespace
 
 void appendLine(std::string &text, const Blocco &blocco, Posizione posizione)
@@ -349,6 +358,25 @@ bool write(QIODevice &device, const Cartella &cartella)
         if (device.write(text.data(), size) != size) {
             return false;
         }
+    }
+    return true;
+}
+
+bool save(const QString &fileName, const Cartella &cartella, QString &reason)
+{
+    WholeFile whole(fileName);
+    if (!whole.create()) {
+        reason = whole.errorString();
+        return false;
+    }
+    QFile file(whole.writtenName());
+    if (!file.open(QIODevice::WriteOnly) || !write(file, cartella) || !isClosed(file)) {
+        reason = file.errorString();
+        return false;
+    }
+    if (!whole.commit()) {
+        reason = whole.errorString();
+        return false;
     }
     return true;
 }

@@ -52,6 +52,8 @@ struct Lettura
 void appendLine(std::string &text, const Blocco &blocco, Posizione posizione);
 // False when the device does not take everything.
 [[nodiscard]] bool write(QIODevice &device, const Cartella &cartella);
+// Writes a file, whole or not at all. False when that fails, for the reason then in `reason`.
+[[nodiscard]] bool save(const QString &fileName, const Cartella &cartella, QString &reason);
 // Reads an open device to its end. Never fails: odd lines are skipped.
 Lettura read(QIODevice &device);
 

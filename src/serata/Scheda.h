@@ -43,6 +43,9 @@ std::vector<Scheda> schedeOf(const Cartella &cartella);
 // The card of a block.
 Scheda schedaOf(const Blocco &blocco, Posizione posizione);
 
+// A number that tells these cards from others, the same on every machine.
+quint64 improntaOf(const std::vector<Scheda> &schede);
+
 // The different numbers of a row or of a whole card, ascending.
 std::vector<quint32> numbersOf(const std::vector<Casella> &riga);
 std::vector<quint32> numbersOf(const Scheda &scheda);

@@ -2,6 +2,8 @@
 #include "serata/Registro.h"
 
 #include "serata/MadeCards.h"
+#include "support/FileFaults.h"
+#include "support/ScratchFolder.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -72,6 +74,8 @@ private slots:
     void everyTextIsReadBack();
     void aSetIsReadBack();
     void aDeviceThatIsFullIsToldOf();
+    void aFileIsWrittenWhole();
+    void afterAnyFaultTheOldRegisterIsThere();
     void linesInAnyOrderAreReadInTheOrderOfThePositions();
     void lineEndsOfWindowsAreRead();
     void oddLinesAreSkipped_data();
@@ -189,6 +193,40 @@ void tst_Registro::aDeviceThatIsFullIsToldOf()
     FullDevice full(needed - 1);
     full.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     QVERIFY(!Registro::write(full, set));
+}
+
+void tst_Registro::aFileIsWrittenWhole()
+{
+    const ScratchFolder folder;
+    const Cartella set(3, 6, 3, 9);
+    QString reason;
+    QVERIFY(Registro::save(QStringLiteral("natale.csv"), set, reason));
+    QCOMPARE(folder.read(QStringLiteral("natale.csv")), written(set));
+    QCOMPARE(reason, QString());
+    QVERIFY(!Registro::save(QStringLiteral("missing/natale.csv"), set, reason));
+    QVERIFY(!reason.isEmpty());
+}
+
+void tst_Registro::afterAnyFaultTheOldRegisterIsThere()
+{
+    const ScratchFolder folder;
+    const QString name = QStringLiteral("natale.csv");
+    const Cartella set(200, 6, 3, 9); // more than one write
+    bool reached = true;
+    for (int call = 1; reached; ++call) {
+        folder.write(name, good);
+        QString reason;
+        bool saved = false;
+        {
+            const FileFaults faults(folder.path(QString()), FileFaults::Calls::Changes, call,
+                                    FileFaults::Effect::LastingError);
+            saved = Registro::save(folder.path(name), set, reason);
+            reached = FileFaults::seen() >= call;
+        }
+        QCOMPARE(folder.read(name), saved ? written(set) : good);
+        QCOMPARE(reason.isEmpty(), saved);
+        QCOMPARE(saved, !reached);
+    }
 }
 
 void tst_Registro::linesInAnyOrderAreReadInTheOrderOfThePositions()

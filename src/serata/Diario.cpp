@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "serata/Diario.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace {
+constexpr char cardsWord[] = "schede ";
+constexpr char gameWord[] = "numeri ";
+constexpr int hexadecimal = 16;
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Diario)
+};
+
+// The lines, without their ends.
+QByteArray cardsLine(quint64 impronta)
+{
+    return cardsWord + QByteArray::number(impronta, hexadecimal);
+}
+
+QByteArray gameLine(Intervallo numeri)
+{
+    return gameWord + QByteArray::number(numeri.da) + ' ' + QByteArray::number(numeri.a);
+}
+
+QByteArray callLine(quint32 numero)
+{
+    return '+' + QByteArray::number(numero);
+}
+
+QByteArray takenBackLine(quint32 numero)
+{
+    return '-' + QByteArray::number(numero);
+}
+
+// Each of these takes a line into the course of the evening, or tells that the line is none of its kind.
+bool takeCards(const QByteArray &line, Diario::Corso &corso)
+{
+    const quint64 impronta = line.mid(int(qstrlen(cardsWord))).toULongLong(nullptr, hexadecimal);
+    if (line != cardsLine(impronta)) {
+        return false;
+    }
+    corso.impronta = impronta;
+    return true;
+}
+
+bool takeGame(const QByteArray &line, Diario::Corso &corso)
+{
+    const QList<QByteArray> bounds = line.mid(int(qstrlen(gameWord))).split(' ');
+    const Intervallo numeri{bounds.first().toUInt(), bounds.last().toUInt()};
+    if (line != gameLine(numeri) || numeri.da > numeri.a || numeri.a > numeroPiuAlto) {
+        return false;
+    }
+    corso.numeri = numeri;
+    corso.chiamate.clear();
+    return true;
+}
+
+bool takeCall(const QByteArray &line, Diario::Corso &corso)
+{
+    const quint32 numero = line.mid(1).toUInt();
+    const auto found = std::find(corso.chiamate.begin(), corso.chiamate.end(), numero);
+    const bool wasCalled = found != corso.chiamate.end();
+    if (line == callLine(numero) && !wasCalled && corso.numeri && contains(*corso.numeri, numero)) {
+        corso.chiamate.push_back(numero);
+        return true;
+    }
+    if (line == takenBackLine(numero) && wasCalled) {
+        corso.chiamate.erase(found);
+        return true;
+    }
+    return false;
+}
+
+// Where a file system has no sync, this is no failure.
+bool isSynced(int descriptor)
+{
+    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+// Brings the name of a new file to the disk.
+bool isFolderSynced(const QString &fileName)
+{
+    const QByteArray folder = QFile::encodeName(QFileInfo(fileName).absolutePath());
+    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return errno == EACCES; // a folder that may be written but not read
+    }
+    const bool synced = isSynced(descriptor);
+    ::close(descriptor);
+    return synced;
+}
+} // namespace
+
+Diario::Corso Diario::read(const QString &fileName)
+{
+    Corso corso;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return corso;
+    }
+    QList<QByteArray> lines = file.readAll().split('\n');
+    lines.removeLast(); // empty, or not finished
+    for (const QByteArray &line : qAsConst(lines)) {
+        if (!takeCards(line, corso) && !takeGame(line, corso) && !takeCall(line, corso)) {
+            ++corso.righeSaltate;
+        }
+    }
+    return corso;
+}
+
+Diario::Diario(const QString &fileName)
+    : m_file(fileName)
+{
+}
+
+bool Diario::begin(quint64 impronta, Intervallo numeri)
+{
+    if (!open()) {
+        return false;
+    }
+    m_size = 0;
+    if (!add(cardsLine(impronta) + '\n' + gameLine(numeri))) {
+        return false;
+    }
+    return isFolderSynced(m_file.fileName()) || fail(qt_error_string(errno));
+}
+
+bool Diario::resume()
+{
+    if (!open()) {
+        return false;
+    }
+    m_size = m_file.readAll().lastIndexOf('\n') + 1; // what follows was not confirmed
+    return true;
+}
+
+bool Diario::addCards(quint64 impronta)
+{
+    return add(cardsLine(impronta));
+}
+
+bool Diario::addGame(Intervallo numeri)
+{
+    return add(gameLine(numeri));
+}
+
+bool Diario::addCall(quint32 numero)
+{
+    return add(callLine(numero));
+}
+
+bool Diario::addTakenBack(quint32 numero)
+{
+    return add(takenBackLine(numero));
+}
+
+bool Diario::open()
+{
+    m_file.close();
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+        return fail(m_file.errorString());
+    }
+    // The system takes the lock off when the program ends, however that happens.
+    if (flock(m_file.handle(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        return fail(Text::tr("la serata è già aperta in un'altra finestra"));
+    }
+    return true;
+}
+
+// After the lines confirmed, in place of what may be left there.
+bool Diario::add(const QByteArray &line)
+{
+    const QByteArray bytes = line + '\n';
+    if (!m_file.resize(m_size) || !m_file.seek(m_size) || m_file.write(bytes) != bytes.size()) {
+        fail(m_file.errorString());
+    } else if (!isSynced(m_file.handle())) {
+        fail(qt_error_string(errno));
+    } else {
+        m_size += bytes.size();
+        return true;
+    }
+    m_file.resize(m_size);
+    return false;
+}
+
+bool Diario::fail(const QString &reason)
+{
+    m_error = reason;
+    return false;
+}
