@@ -3,37 +3,25 @@
 
 #include "resources/Resources.h"
 #include "settings/Config.h"
+#include "settings/WholeFile.h"
 #include "ui_MsgArea.h"
 
 #include <QCloseEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace {
-constexpr qint64 notWritten = -1;
-
-// Content of a Latin-1 file, empty when it cannot be read.
+// Content of a Latin-1 file, empty when it cannot be read. A device may give bytes without end.
 QString readLatin1(QFile &file)
 {
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         return QString();
     }
     QString text = QString::fromLatin1(file.readAll());
     file.close();
     return text;
-}
-
-// Bytes that reached the file.
-qint64 writeLatin1(QFile &file, const QString &text)
-{
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return notWritten;
-    }
-    const qint64 written = file.write(text.toLatin1());
-    const bool flushed = file.flush();
-    file.close();
-    return flushed ? written : notWritten;
 }
 } // namespace
 
@@ -110,8 +98,8 @@ void MsgArea::on_actionSalva_triggered()
         }
         m_file = std::make_unique<QFile>(name);
     }
-    const QString text = ui->textEdit->toPlainText();
-    if (m_file && writeLatin1(*m_file, text) == text.size()) {
+    const QByteArray text = ui->textEdit->toPlainText().toLatin1();
+    if (m_file && writeWhole(m_file->fileName(), text, QIODevice::Text) == Written::Whole) {
         QMessageBox::information(this, tr("Salva"), tr("File salvato con successo."));
         m_modified = false;
     } else {
