@@ -414,6 +414,42 @@ Größe: %5 Bytes (%6 MB)
         <source>Salva lo schema delle pagine su file</source>
         <translation>Seitenbelegung in einer Datei speichern</translation>
     </message>
+    <message>
+        <source>Errore nel salvataggio del file:
+%1
+
+%2</source>
+        <translation>Fehler beim Speichern der Datei:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Non è un file di cartelle:
+%1</source>
+        <translation>Das ist keine Belegungsdatei:
+%1</translation>
+    </message>
+    <message>
+        <source>Errore nella lettura del file:
+%1
+
+%2</source>
+        <translation>Fehler beim Lesen der Datei:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Nessuna riga del file descrive una pagina.</source>
+        <translation>Keine Zeile der Datei beschreibt eine Seite.</translation>
+    </message>
+    <message>
+        <source>Non vi sono pagine.
+%1</source>
+        <translation>Es gibt keine Seiten.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -1283,6 +1319,19 @@ Möchten Sie sie ansehen?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Konfigurationsdatei löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>Overwriting</name>
+    <message>
+        <source>Il file esiste già:
+%1
+
+Sostituirlo?</source>
+        <translation>Die Datei ist schon vorhanden:
+%1
+
+Ersetzen?</translation>
     </message>
 </context>
 <context>

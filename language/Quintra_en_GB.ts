@@ -414,6 +414,42 @@ Size: %5 bytes (%6 MB)
         <source>Salva lo schema delle pagine su file</source>
         <translation>Save the page layout to a file</translation>
     </message>
+    <message>
+        <source>Errore nel salvataggio del file:
+%1
+
+%2</source>
+        <translation>Error while saving the file:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Non è un file di cartelle:
+%1</source>
+        <translation>This is not a layout file:
+%1</translation>
+    </message>
+    <message>
+        <source>Errore nella lettura del file:
+%1
+
+%2</source>
+        <translation>Error while reading the file:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Nessuna riga del file descrive una pagina.</source>
+        <translation>No line of the file describes a page.</translation>
+    </message>
+    <message>
+        <source>Non vi sono pagine.
+%1</source>
+        <translation>There are no pages.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -1283,6 +1319,19 @@ Do you want to see them?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Delete the configuration file?</translation>
+    </message>
+</context>
+<context>
+    <name>Overwriting</name>
+    <message>
+        <source>Il file esiste già:
+%1
+
+Sostituirlo?</source>
+        <translation>The file already exists:
+%1
+
+Replace it?</translation>
     </message>
 </context>
 <context>

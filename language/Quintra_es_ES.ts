@@ -414,6 +414,42 @@ Tamaño: %5 bytes (%6 MB)
         <source>Salva lo schema delle pagine su file</source>
         <translation>Guardar el diseño de las páginas en un archivo</translation>
     </message>
+    <message>
+        <source>Errore nel salvataggio del file:
+%1
+
+%2</source>
+        <translation>Error al guardar el archivo:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Non è un file di cartelle:
+%1</source>
+        <translation>No es un archivo de diseño:
+%1</translation>
+    </message>
+    <message>
+        <source>Errore nella lettura del file:
+%1
+
+%2</source>
+        <translation>Error al leer el archivo:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Nessuna riga del file descrive una pagina.</source>
+        <translation>Ninguna línea del archivo describe una página.</translation>
+    </message>
+    <message>
+        <source>Non vi sono pagine.
+%1</source>
+        <translation>No hay páginas.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -1283,6 +1319,19 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>¿Eliminar el archivo de configuración?</translation>
+    </message>
+</context>
+<context>
+    <name>Overwriting</name>
+    <message>
+        <source>Il file esiste già:
+%1
+
+Sostituirlo?</source>
+        <translation>El archivo ya existe:
+%1
+
+¿Reemplazarlo?</translation>
     </message>
 </context>
 <context>

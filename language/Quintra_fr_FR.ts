@@ -414,6 +414,42 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <source>Salva lo schema delle pagine su file</source>
         <translation>Enregistrer la disposition des pages dans un fichier</translation>
     </message>
+    <message>
+        <source>Errore nel salvataggio del file:
+%1
+
+%2</source>
+        <translation>Erreur lors de l&apos;enregistrement du fichier&#xa0;:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Non è un file di cartelle:
+%1</source>
+        <translation>Ce n&apos;est pas un fichier de disposition&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>Errore nella lettura del file:
+%1
+
+%2</source>
+        <translation>Erreur lors de la lecture du fichier&#xa0;:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Nessuna riga del file descrive una pagina.</source>
+        <translation>Aucune ligne du fichier ne décrit une page.</translation>
+    </message>
+    <message>
+        <source>Non vi sono pagine.
+%1</source>
+        <translation>Il n&apos;y a aucune page.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -1283,6 +1319,19 @@ Voulez-vous les afficher&#xa0;?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Supprimer le fichier de configuration&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>Overwriting</name>
+    <message>
+        <source>Il file esiste già:
+%1
+
+Sostituirlo?</source>
+        <translation>Le fichier existe déjà&#xa0;:
+%1
+
+Le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>

@@ -414,6 +414,42 @@ Dimensione: %5 Bytes (%6 MB)
         <source>Salva lo schema delle pagine su file</source>
         <translation>Salva lo schema delle pagine su file</translation>
     </message>
+    <message>
+        <source>Errore nel salvataggio del file:
+%1
+
+%2</source>
+        <translation>Errore nel salvataggio del file:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Non è un file di cartelle:
+%1</source>
+        <translation>Non è un file di cartelle:
+%1</translation>
+    </message>
+    <message>
+        <source>Errore nella lettura del file:
+%1
+
+%2</source>
+        <translation>Errore nella lettura del file:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Nessuna riga del file descrive una pagina.</source>
+        <translation>Nessuna riga del file descrive una pagina.</translation>
+    </message>
+    <message>
+        <source>Non vi sono pagine.
+%1</source>
+        <translation>Non vi sono pagine.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>FormatSelection</name>
@@ -1283,6 +1319,19 @@ Vuoi visualizzarli?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Proseguire con la cancellazionede del file di configurazione?</translation>
+    </message>
+</context>
+<context>
+    <name>Overwriting</name>
+    <message>
+        <source>Il file esiste già:
+%1
+
+Sostituirlo?</source>
+        <translation>Il file esiste già:
+%1
+
+Sostituirlo?</translation>
     </message>
 </context>
 <context>

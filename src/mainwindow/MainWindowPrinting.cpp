@@ -2,6 +2,7 @@
 #include "mainwindow/MainWindow.h"
 
 #include "msgarea/MsgArea.h"
+#include "msgarea/Overwriting.h"
 #include "msgarea/WaitCursor.h"
 #include "output/CreateOutputFile.h"
 #include "settings/Config.h"
@@ -38,17 +39,18 @@ void MainWindow::on_butt_stampa_clicked()
     window->show();
 }
 
-// The file to print to, with its suffix; empty when the user gave none that can be. The folder is remembered.
+// The file to print to, with its suffix; empty when the user gave none that can be. The folder is remembered. The
+// dialog asks before a file is overwritten, but knows only the name without the suffix.
 QString MainWindow::askPrintFileName()
 {
     const QString suffix = globalConfig->outputFormatName.toLower();
     const QString filter = QStringLiteral("%1 (*.%2);;").arg(globalConfig->outputFormatName, suffix);
     const QString chosen =
         QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, filter);
-    if (chosen.isEmpty() || !globalConfig->rememberFolder(chosen)) {
-        return QString();
-    }
-    return QFileInfo(chosen).fileName().contains(QLatin1Char('.')) ? chosen : chosen + QLatin1Char('.') + suffix;
+    const bool hasSuffix = QFileInfo(chosen).fileName().contains(QLatin1Char('.'));
+    const QString fileName = hasSuffix ? chosen : chosen + QLatin1Char('.') + suffix;
+    const bool sure = chosen.isEmpty() || hasSuffix || mayOverwrite(this, boxTitle(), fileName);
+    return !chosen.isEmpty() && sure && globalConfig->rememberFolder(chosen) ? fileName : QString();
 }
 
 bool MainWindow::writeOutputFile(const QString &fileName, QString &report)

@@ -90,8 +90,13 @@ private:
     void restoreMainWindow();
     bool ask(const QString &title, const QString &question);
 
-    void writeMapping(const QString &fileName);
+    QString askSaveFileName();
+    QByteArray mappingText();
+    QString writeMapping(const QString &fileName);
     void showSaveReport(const QString &fileName);
+    QString readMapping(const QString &fileName);
+    void warn(const QString &text);
+    void showPagesOrReason(const QString &whyNone);
     void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);
     void loadPage(PaginaPersonale &page, const MappingFile::SchemaPagina &scheme);
     void showReport(const QString &text);

@@ -2,15 +2,18 @@
 #include "personale/EditPersonale.h"
 
 #include "msgarea/MsgArea.h"
+#include "msgarea/Overwriting.h"
 #include "msgarea/WaitCursor.h"
 #include "output/Megabytes.h"
 #include "personale/MappingFile.h"
 #include "settings/Config.h"
 #include "settings/Product.h"
+#include "settings/WholeFile.h"
 #include "ui_EditPersonale.h"
 
 #include <QFile>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QTextStream>
 
 namespace {
@@ -31,6 +34,13 @@ QString withSuffix(const QString &fileName)
     return QFileInfo(fileName).suffix() == fileSuffix() ? fileName : fileName + QLatin1Char('.') + fileSuffix();
 }
 
+// It could be read without end, or never give anything.
+bool isDevice(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    return file.exists() && !file.isFile() && !file.isDir();
+}
+
 MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
 {
     MappingFile::SchemaPagina scheme{page.nRighe, page.nColonne, {}};
@@ -44,30 +54,57 @@ MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
 
 void EditPersonale::on_actionSave_triggered()
 {
-    QString fileName =
-        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, fileFilter());
+    const QString fileName = askSaveFileName();
     if (fileName.isEmpty()) {
         ui->statusBar->showMessage(tr("Creazione file annullata!"));
         return;
     }
-    fileName = withSuffix(fileName);
     globalConfig->rememberFolder(fileName);
-    const WaitCursor wait(this);
-    writeMapping(fileName);
+    const QString loss = writeMapping(fileName);
     showSaveReport(fileName);
+    if (!loss.isEmpty()) {
+        warn(tr("Errore nel salvataggio del file:\n%1\n\n%2").arg(fileName, loss));
+    }
 }
 
-// Whether the file could be opened is told by the size in the report.
-void EditPersonale::writeMapping(const QString &fileName)
+// With its suffix; empty when the user wants none. The dialog asks before a file is overwritten, but knows only the
+// name without the suffix.
+QString EditPersonale::askSaveFileName()
 {
-    QFile file(fileName);
-    file.open(QIODevice::WriteOnly | QIODevice::Text);
-    QTextStream stream(&file);
+    const QString chosen =
+        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, fileFilter());
+    if (chosen.isEmpty()) {
+        return QString();
+    }
+    const QString fileName = withSuffix(chosen);
+    const bool sure = fileName == chosen || mayOverwrite(this, Product::titleFor(tr("Mappatura manuale")), fileName);
+    return sure ? fileName : QString();
+}
+
+// Why a file that could be opened was not written; empty when it was. That a file cannot be opened is told by the size
+// in the report.
+QString EditPersonale::writeMapping(const QString &fileName)
+{
+    const WaitCursor wait(this);
+    QString reason;
+    const Written written = writeWhole(fileName, mappingText(), QIODevice::Text, &reason);
+    if (written == Written::NotOpened) {
+        qWarning("EditPersonale::writeMapping(): %s: %s", qPrintable(fileName), qPrintable(reason));
+    }
+    return written == Written::Incomplete ? reason : QString();
+}
+
+QByteArray EditPersonale::mappingText()
+{
+    QByteArray text;
+    QTextStream stream(&text);
     int saved = 0;
     for (const PaginaPersonale &page : m_pages) {
         MappingFile::writePage(stream, schemeOf(page));
         ui->statusBar->showMessage(tr("Pagina %1 di %2 salvata").arg(++saved).arg(m_pageCount));
     }
+    stream.flush();
+    return text;
 }
 
 void EditPersonale::showSaveReport(const QString &fileName)
@@ -99,18 +136,51 @@ void EditPersonale::on_actionOpen_triggered()
         ui->statusBar->showMessage(tr("Apertura file annullata!"));
         return;
     }
+    if (isDevice(fileName)) {
+        ui->statusBar->showMessage(tr("Apertura file annullata!"));
+        warn(tr("Non è un file di cartelle:\n%1").arg(fileName));
+        return;
+    }
     globalConfig->rememberFolder(fileName);
+    const QString failure = readMapping(fileName);
+    if (!failure.isEmpty()) {
+        warn(tr("Errore nella lettura del file:\n%1\n\n%2").arg(fileName, failure));
+    }
+}
+
+// Why a file that could be opened was not read to its end; empty when it was.
+QString EditPersonale::readMapping(const QString &fileName)
+{
     const WaitCursor wait(this);
     QFile file(fileName);
-    file.open(QIODevice::ReadOnly | QIODevice::Text);
+    const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Text);
+    if (!opened) {
+        qWarning("EditPersonale::readMapping(): %s: %s", qPrintable(fileName), qPrintable(file.errorString()));
+    }
     QTextStream stream(&file);
     const MappingFile::Lettura reading = MappingFile::read(
         stream, [this](int lines) { ui->statusBar->showMessage(tr("Sto leggendo la pagina %1").arg(lines)); });
+    const QString failure = file.error() != QFile::NoError ? file.errorString() : QString();
     replacePages(reading.pagine);
+    showPagesOrReason(!failure.isEmpty() ? failure : tr("Nessuna riga del file descrive una pagina."));
     ui->statusBar->showMessage(tr("Apertura completata!"));
     if (!reading.saltate.empty()) {
         showReport(MappingFile::describe(reading.saltate));
     }
+    return opened ? failure : QString();
+}
+
+void EditPersonale::showPagesOrReason(const QString &whyNone)
+{
+    const bool pages = !m_pages.empty();
+    ui->senzaPagineLabel->setText(tr("Non vi sono pagine.\n%1").arg(whyNone));
+    ui->senzaPagineLabel->setVisible(!pages);
+    ui->boxesScrollArea->setVisible(pages);
+}
+
+void EditPersonale::warn(const QString &text)
+{
+    QMessageBox::warning(this, Product::titleFor(tr("Mappatura manuale")), text);
 }
 
 void EditPersonale::replacePages(const std::vector<MappingFile::SchemaPagina> &schemes)

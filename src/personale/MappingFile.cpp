@@ -127,6 +127,9 @@ Lettura read(QTextStream &stream, const std::function<void(int)> &lineRead)
     int number = 0;
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
+        if (line.isNull()) {
+            break; // nothing can be read, though this is not the end
+        }
         ++number;
         SchemaPagina pagina;
         auto reason = decode(line, pagina);

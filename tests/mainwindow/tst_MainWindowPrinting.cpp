@@ -30,6 +30,9 @@ private slots:
     void aPrintedSetIsReported();
     void theSuffixIsAppendedToANameWithoutOne_data();
     void theSuffixIsAppendedToANameWithoutOne();
+    void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data();
+    void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted();
+    void aTypedSuffixIsNotAskedForAgain();
     void anUnknownSuffixIsAnError();
     void aFileThatCannotBeWrittenIsAnError();
     void printingShowsTheWaitCursor();
@@ -166,6 +169,60 @@ void tst_MainWindowPrinting::theSuffixIsAppendedToANameWithoutOne()
     QCOMPARE(page.boxes.problems(), QStringList());
 }
 
+void tst_MainWindowPrinting::aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::newRow("yes") << QMessageBox::Yes;
+    QTest::newRow("no") << QMessageBox::No;
+    QTest::newRow("closed") << QMessageBox::Escape;
+}
+
+void tst_MainWindowPrinting::aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted()
+{
+    QFETCH(QMessageBox::StandardButton, answer);
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QByteArray handedOut = "cards handed out";
+    const QDir folder(QDir::current().filePath(QStringLiteral("prints")));
+    QVERIFY(QDir().mkdir(folder.path()));
+    QFile file(folder.filePath(QStringLiteral("prova.pdf")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(handedOut) > 0);
+    file.close();
+    const QString before = page.config.defaultSaveDir;
+    page.boxes.expectFileDialog(saveCaption, folder.filePath(QStringLiteral("prova")));
+    page.boxes.expectBox(boxTitle, QStringLiteral("Il file esiste già:\nprova.pdf\n\nSostituirlo?"), answer,
+                         [&](const QMessageBox *box) {
+                             QCOMPARE(box->icon(), QMessageBox::Question);
+                             QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+                             QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
+                             QCOMPARE(page.config.defaultSaveDir, before);
+                         });
+    page.press("butt_stampa");
+    QCOMPARE(page.boxes.problems(), QStringList());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const bool wanted = answer == QMessageBox::Yes;
+    QCOMPARE(file.readAll() != handedOut, wanted);
+    QCOMPARE(page.window->findChild<MsgArea *>() != nullptr, wanted);
+    QCOMPARE(QDir(page.config.defaultSaveDir), wanted ? folder : QDir(before));
+    QCOMPARE(page.status() == QStringLiteral("Creazione file annullata!"), !wanted);
+}
+
+// The dialog itself has asked for this name.
+void tst_MainWindowPrinting::aTypedSuffixIsNotAskedForAgain()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QString file = QDir::current().filePath(QStringLiteral("prova.pdf"));
+    QVERIFY(QFile::copy(QStringLiteral("default.png"), file));
+    const qint64 before = QFileInfo(file).size();
+    page.boxes.expectFileDialog(saveCaption, file);
+    page.boxes.expectBox(saveCaption, QStringLiteral("prova.pdf already exists.\nDo you want to replace it?"),
+                         QMessageBox::Yes);
+    page.press("butt_stampa");
+    QCOMPARE(page.boxes.problems(), QStringList());
+    QVERIFY(QFileInfo(file).size() > before);
+}
+
 void tst_MainWindowPrinting::anUnknownSuffixIsAnError()
 {
     PageWindow page;
@@ -217,5 +274,6 @@ void tst_MainWindowPrinting::printingShowsTheWaitCursor()
     QCOMPARE(page.boxes.problems(), QStringList());
 }
 
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 QTEST_MAIN(tst_MainWindowPrinting)
 #include "tst_MainWindowPrinting.moc"

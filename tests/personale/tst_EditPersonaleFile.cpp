@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EditorUnderTest.h"
 #include "msgarea/MsgArea.h"
+#include "support/FileFaults.h"
 #include "support/LogCapture.h"
 
 #include <QDir>
@@ -10,7 +11,11 @@
 #include <QPushButton>
 #include <QTextEdit>
 
+#include <sys/stat.h>
+
 namespace {
+const QString editorTitle = QStringLiteral("Quintra - Mappatura manuale");
+
 // The text of the window that reports, empty without one.
 QString reportText(const EditorUnderTest &t)
 {
@@ -75,11 +80,22 @@ private slots:
     void cancellingTheSaveIsTold();
     void aFileThatCannotBeWrittenIsReportedAllTheSame();
 
+    void aFileThatCannotBeOpenedIsOnlyLogged();
+    void aLostMappingIsToldBesideTheReport();
+    void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data();
+    void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted();
+
     void openingReplacesThePages();
     void everyLineReadAndPageLoadedIsTold();
     void openingAsksFirst();
     void cancellingTheOpenIsTold();
     void aFileThatCannotBeReadLeavesNoPages();
+    void aDiskThatCannotBeReadIsTold_data();
+    void aDiskThatCannotBeReadIsTold();
+    void aDeviceIsRefusedBeforeAnythingGoes_data();
+    void aDeviceIsRefusedBeforeAnythingGoes();
+    void anEditorWithoutPagesSaysWhy_data();
+    void anEditorWithoutPagesSaysWhy();
     void pagesAreReadBackAsSaved();
     void theColumnFlagIsLostAndItsCheckBoxKeepsItsState();
     void rightClicksDoNothingOnLoadedPages();
@@ -270,6 +286,71 @@ void tst_EditPersonaleFile::aFileThatCannotBeWrittenIsReportedAllTheSame()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
+void tst_EditPersonaleFile::aFileThatCannotBeOpenedIsOnlyLogged()
+{
+    EditorUnderTest t(1, 1, 1);
+    QVERIFY(QDir(t.folder.path(QString())).mkdir(QStringLiteral("folder.QcF")));
+    const LogCapture log;
+    t.expectSave(t.folder.path(QStringLiteral("folder")));
+    t.trigger("actionSave");
+    QVERIFY(log.warnings().join(QLatin1Char('\n')).contains(QStringLiteral("EditPersonale::writeMapping(): ")));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void tst_EditPersonaleFile::aLostMappingIsToldBesideTheReport()
+{
+    EditorUnderTest t(1, 1, 1);
+    t.folder.write(QStringLiteral("out.QcF"), "what was there");
+    const QString path = t.folder.path(QStringLiteral("out.QcF"));
+    t.expectSave(t.folder.path(QStringLiteral("out")));
+    t.boxes.expectBox(editorTitle, QStringLiteral("Il file esiste già:\nout.QcF\n\nSostituirlo?"), QMessageBox::Yes);
+    t.boxes.expectBox(editorTitle,
+                      QStringLiteral("Errore nel salvataggio del file:\n%1\n\nNo space left on device").arg(path),
+                      QMessageBox::Ok, [&t](const QMessageBox *box) {
+                          QCOMPARE(box->icon(), QMessageBox::Warning);
+                          QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+                          QVERIFY(t.editor->findChild<MsgArea *>()->isVisible());
+                      });
+    {
+        const FileFaults fault(path, FileFaults::Calls::Changes, 1, FileFaults::Effect::LastingError);
+        t.trigger("actionSave");
+    }
+    reportMatches(t, QStringLiteral("out"), 1, "what was there");
+    QCOMPARE(t.folder.read(QStringLiteral("out.QcF")), QByteArray("what was there"));
+    QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void tst_EditPersonaleFile::aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::newRow("yes") << QMessageBox::Yes;
+    QTest::newRow("no") << QMessageBox::No;
+    QTest::newRow("closed") << QMessageBox::Escape;
+}
+
+void tst_EditPersonaleFile::aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted()
+{
+    QFETCH(QMessageBox::StandardButton, answer);
+    EditorUnderTest t(1, 1, 1);
+    t.folder.write(QStringLiteral("maps/prova.qcf.QcF"), "what was there");
+    const QString before = t.config.defaultSaveDir;
+    t.expectSave(t.folder.path(QStringLiteral("maps/prova.qcf")));
+    t.boxes.expectBox(editorTitle, QStringLiteral("Il file esiste già:\nprova.qcf.QcF\n\nSostituirlo?"), answer,
+                      [&](const QMessageBox *box) {
+                          QCOMPARE(box->icon(), QMessageBox::Question);
+                          QCOMPARE(box->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+                          QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
+                          QCOMPARE(t.config.defaultSaveDir, before);
+                      });
+    t.trigger("actionSave");
+    QCOMPARE(t.boxes.problems(), QStringList());
+    const bool wanted = answer == QMessageBox::Yes;
+    QCOMPARE(t.folder.read(QStringLiteral("maps/prova.qcf.QcF")), QByteArray(wanted ? "!o\n" : "what was there"));
+    QCOMPARE(t.editor->findChild<MsgArea *>() != nullptr, wanted);
+    QCOMPARE(QDir(t.config.defaultSaveDir), QDir(wanted ? t.folder.path(QStringLiteral("maps")) : before));
+    QCOMPARE(t.status() == QStringLiteral("Creazione file annullata!"), !wanted);
+}
+
 void tst_EditPersonaleFile::openingReplacesThePages()
 {
     EditorUnderTest t(3, 9, 2);
@@ -354,6 +435,103 @@ void tst_EditPersonaleFile::aFileThatCannotBeReadLeavesNoPages()
     QCOMPARE(t.grid()->count(), 0);
     QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
     QCOMPARE(t.boxes.problems(), QStringList());
+}
+
+void tst_EditPersonaleFile::aDiskThatCannotBeReadIsTold_data()
+{
+    QTest::addColumn<int>("failingRead");
+    QTest::addColumn<int>("pages");
+    QTest::newRow("from the start") << 1 << 0;
+    QTest::newRow("later") << 2 << 4096;
+}
+
+void tst_EditPersonaleFile::aDiskThatCannotBeReadIsTold()
+{
+    QFETCH(int, failingRead);
+    QFETCH(int, pages);
+    EditorUnderTest t(2, 2, 1);
+    const QString path = t.folder.path(QStringLiteral("in.QcF"));
+    t.folder.write(QStringLiteral("in.QcF"), QByteArray("!NN\n").repeated(10000)); // a read is 16 KB
+    t.expectOpen(path);
+    t.boxes.expectBox(editorTitle, QStringLiteral("Errore nella lettura del file:\n%1\n\nInput/output error").arg(path),
+                      QMessageBox::Ok, QMessageBox::Warning);
+    const FileFaults fault(path, FileFaults::Calls::Reads, failingRead, FileFaults::Effect::LastingError);
+    t.trigger("actionOpen");
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), pages);
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    const auto *reason = t.find<QLabel>("senzaPagineLabel");
+    QCOMPARE(reason->isVisible(), pages == 0);
+    QVERIFY(pages > 0 || reason->text() == QStringLiteral("Non vi sono pagine.\nInput/output error"));
+}
+
+void tst_EditPersonaleFile::aDeviceIsRefusedBeforeAnythingGoes_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::newRow("without end") << "/dev/zero";
+    QTest::newRow("that nobody writes to") << "fifo.QcF";
+}
+
+void tst_EditPersonaleFile::aDeviceIsRefusedBeforeAnythingGoes()
+{
+    QFETCH(QString, device);
+    EditorUnderTest t(1, 2, 2);
+    QCOMPARE(mkfifo("fifo.QcF", S_IRUSR | S_IWUSR), 0);
+    t.tick(0, 0, CELL_NUMERO);
+    const QString before = t.config.defaultSaveDir;
+    const QString path = QDir::current().absoluteFilePath(device);
+    t.expectOpen(path);
+    t.boxes.expectBox(editorTitle, QStringLiteral("Non è un file di cartelle:\n%1").arg(path), QMessageBox::Ok,
+                      QMessageBox::Warning);
+    t.trigger("actionOpen");
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 2);
+    QCOMPARE(t.status(), QStringLiteral("Apertura file annullata!"));
+    QCOMPARE(t.config.defaultSaveDir, before);
+}
+
+void tst_EditPersonaleFile::anEditorWithoutPagesSaysWhy_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("why");
+    QTest::newRow("gone") << QByteArray() << "Non vi sono pagine.\nNo such file or directory";
+    QTest::newRow("empty") << QByteArray("") << "Non vi sono pagine.\nNessuna riga del file descrive una pagina.";
+    QTest::newRow("no pages") << QByteArray("\n\n")
+                              << "Non vi sono pagine.\nNessuna riga del file descrive una pagina.";
+}
+
+void tst_EditPersonaleFile::anEditorWithoutPagesSaysWhy()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, why);
+    EditorUnderTest t(1, 2, 2);
+    const auto *reason = t.find<QLabel>("senzaPagineLabel");
+    const auto *grid = t.find<QScrollArea>("boxesScrollArea");
+    QVERIFY(!reason->isVisible());
+    const QString path = t.folder.path(QStringLiteral("in.QcF"));
+    t.folder.write(QStringLiteral("in.QcF"), content);
+    t.boxes.expectBox(
+        QStringLiteral("Quintra"),
+        QStringLiteral("Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?"),
+        QMessageBox::Yes);
+    t.boxes.expectFileDialog(QStringLiteral("Apre un file di cartelle"), path, [&](QWidget *dialog) {
+        connect(qobject_cast<QFileDialog *>(dialog), &QFileDialog::fileSelected, [path, content]() {
+            if (content.isNull()) {
+                QFile::remove(path);
+            }
+        });
+    });
+    const LogCapture log;
+    t.trigger("actionOpen");
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QVERIFY(reason->isVisible() && !grid->isVisible());
+    QCOMPARE(reason->text(), why);
+    QCOMPARE(log.warnings().join(QLatin1Char('\n')).contains(QStringLiteral("EditPersonale::readMapping(): ")),
+             content.isNull());
+    t.open("!N\n");
+    QVERIFY(!reason->isVisible() && grid->isVisible());
 }
 
 void tst_EditPersonaleFile::pagesAreReadBackAsSaved()
@@ -620,5 +798,6 @@ void tst_EditPersonaleFile::loadedPagesAreCreated()
     QCOMPARE(t.boxes.problems(), QStringList());
 }
 
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 QTEST_MAIN(tst_EditPersonaleFile)
 #include "tst_EditPersonaleFile.moc"

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "personale/MappingFile.h"
 
+#include <QIODevice>
 #include <QTest>
 #include <QTextStream>
+
+#include <algorithm>
 
 using namespace MappingFile;
 
@@ -11,6 +14,34 @@ SchemaPagina blank(U8 rows, U8 columns)
 {
     return {rows, columns, std::vector<CellaSchema>(static_cast<size_t>(rows * columns))};
 }
+
+// Gives its lines, then fails at every read and never tells that this is the end.
+class BrokenDevice final : public QIODevice
+{
+public:
+    explicit BrokenDevice(QByteArray lines)
+        : m_lines(std::move(lines))
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    bool atEnd() const override { return false; }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        if (m_lines.isEmpty()) {
+            return -1;
+        }
+        const qint64 count = std::min(size, qint64{m_lines.size()});
+        std::copy_n(m_lines.cbegin(), count, data);
+        m_lines.remove(0, static_cast<int>(count));
+        return count;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    QByteArray m_lines;
+};
 
 Lettura readText(QString text)
 {
@@ -71,6 +102,8 @@ private slots:
     void noMoreThan65535PagesAreRead();
     void theSkippedLinesAreDescribed();
     void aLongListOfSkippedLinesIsCut();
+    void aDeviceThatFailsEndsTheReading_data();
+    void aDeviceThatFailsEndsTheReading();
 };
 
 void tst_MappingFile::everyTypeHasItsLetter_data()
@@ -324,6 +357,28 @@ void tst_MappingFile::aLongListOfSkippedLinesIsCut()
     QCOMPARE(lines.size(), 502);
     QCOMPARE(lines.at(500), QStringLiteral("Riga 1000: nessun contenuto."));
     QCOMPARE(lines.last(), QStringLiteral("L'elenco continua fino alla riga 1200."));
+}
+
+void tst_MappingFile::aDeviceThatFailsEndsTheReading_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::addColumn<int>("pages");
+    QTest::newRow("at once") << QByteArray() << 0;
+    QTest::newRow("after two lines") << QByteArray("!N\n!o\n") << 2;
+    QTest::newRow("in a line") << QByteArray("!N\n!oo") << 2;
+}
+
+void tst_MappingFile::aDeviceThatFailsEndsTheReading()
+{
+    QFETCH(QByteArray, lines);
+    QFETCH(int, pages);
+    BrokenDevice device(lines);
+    QTextStream stream(&device);
+    int told = 0;
+    const Lettura reading = MappingFile::read(stream, [&told](int number) { told = number; });
+    QCOMPARE(static_cast<int>(reading.pagine.size()), pages);
+    QCOMPARE(told, pages);
+    QVERIFY(reading.saltate.empty());
 }
 
 QTEST_GUILESS_MAIN(tst_MappingFile)
