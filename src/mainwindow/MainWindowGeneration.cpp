@@ -127,18 +127,12 @@ void MainWindow::createEmptyPages(const CardParameters &requested)
 bool MainWindow::appendEmptyPages(const CardParameters &requested)
 {
     const WaitCursor wait(this);
-    const std::unique_ptr<Cartella> added = emptyCardSet(requested);
-    added->pagineEsterne = 1;
-    for (int i = 0; i < added->getNumPages(); ++i) {
-        if (!m_cartella->appendPage(added->pagine[i])) {
-            QMessageBox::critical(this, boxTitle(),
-                                  tr("Generazione numeri:\nErrore durante l'aggiunta della pagina %i.").arg(i));
-            added->pagine.remove(0, i); // these belong to the window's set by now
-            added->pagineEsterne = 0;
-            return false;
-        }
+    const std::optional<int> refused = handOverPages(*emptyCardSet(requested), *m_cartella);
+    if (refused) {
+        QMessageBox::critical(this, boxTitle(),
+                              tr("Generazione numeri:\nErrore durante l'aggiunta della pagina %i.").arg(*refused));
     }
-    return true;
+    return !refused;
 }
 
 // Fills the pages from `first` (0-based) to the last.

@@ -215,3 +215,16 @@ bool Cartella::deletePage(quint16 index)
     delete pagine.takeAt(index);
     return true;
 }
+
+std::optional<int> handOverPages(Cartella &temporary, Cartella &set)
+{
+    temporary.pagineEsterne = 1;
+    for (int i = 0; i < temporary.pagine.size(); ++i) {
+        if (!set.appendPage(temporary.pagine[i])) {
+            temporary.pagine.remove(0, i); // these belong to the other set by now
+            temporary.pagineEsterne = 0;
+            return i;
+        }
+    }
+    return std::nullopt;
+}

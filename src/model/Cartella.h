@@ -11,6 +11,7 @@
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 // What a cell shows. The values are fixed: mapping files and translations rely on them.
 enum CELL_VALUE : qint32 {
@@ -139,3 +140,7 @@ signals:
     // Progress of checkForEqualBlocks(), once per page.
     void checkForEqualBlocksStatus(const QString &status);
 };
+
+// Gives all pages of a temporary set to another one, at its end; pagineEsterne is then set. None when all went over,
+// else the index of the page that was refused: it and those after it stay with the temporary set.
+[[nodiscard]] std::optional<int> handOverPages(Cartella &temporary, Cartella &set);

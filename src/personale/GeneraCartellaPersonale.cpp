@@ -108,7 +108,7 @@ bool GeneraCartellaPersonale::generaPagine(U16 pageCount, std::vector<PaginaPers
     while (first < pageCount) {
         const size_t end = endOfRun(pages, first, pageCount);
         const int length = static_cast<int>(end - first);
-        if (!aggiungiPagine(length, pages[first], cartella, errore)) {
+        if (!appendPagine(length, pages[first], cartella, errore)) {
             return false;
         }
         int target = cartella->pagine.size() - length;
@@ -126,20 +126,15 @@ bool GeneraCartellaPersonale::generaPagine(U16 pageCount, std::vector<PaginaPers
 }
 
 // Appends empty pages of one block, of the size of `schema`.
-bool GeneraCartellaPersonale::aggiungiPagine(int pageCount, const PaginaPersonale &schema, Cartella *cartella,
-                                             QString &errore) const
+bool GeneraCartellaPersonale::appendPagine(int pageCount, const PaginaPersonale &schema, Cartella *cartella,
+                                           QString &errore) const
 {
     Cartella temporary(static_cast<quint16>(pageCount), 1, schema.nRighe, schema.nColonne);
-    temporary.pagineEsterne = 1;
-    for (int i = 0; i < temporary.pagine.size(); ++i) {
-        if (!cartella->appendPage(temporary.pagine[i])) {
-            errore += messaggioPagina(i);
-            temporary.pagine.remove(0, i); // these belong to the card set now
-            temporary.pagineEsterne = 0;
-            return false;
-        }
+    const std::optional<int> refused = handOverPages(temporary, *cartella);
+    if (refused) {
+        errore += messaggioPagina(*refused);
     }
-    return true;
+    return !refused;
 }
 
 bool GeneraCartellaPersonale::riempiPagina(Pagina *pagina, PaginaPersonale &schema, int nmin, int nmax, QString &errore)

@@ -36,5 +36,5 @@ signals:
     void done();
 
 private:
-    bool aggiungiPagine(int pageCount, const PaginaPersonale &schema, Cartella *cartella, QString &errore) const;
+    bool appendPagine(int pageCount, const PaginaPersonale &schema, Cartella *cartella, QString &errore) const;
 };

@@ -61,6 +61,8 @@ private slots:
     void theFirstLengthBindsLaterCalls();
     void aShorterListOfBlocksIsRefused();
     void aLongerListOfBlocksIsReadUpToTheFirstLength();
+    void pagesAreHandedOver();
+    void aRefusedPageEndsTheHandingOver();
     void sizesTakeTheWidestRow();
     void sizesOfAnEmptySetAreZero();
     void pagesBeyondTheCountAreRefusedWithAWarning();
@@ -334,6 +336,35 @@ void tst_Cartella::aLongerListOfBlocksIsReadUpToTheFirstLength()
     QCOMPARE(log.warnings(), noWarnings);
     QCOMPARE(set.getNumPages(), 4);
     QCOMPARE(set.pagine[3]->nBlocchi, U8(4));
+}
+
+void tst_Cartella::pagesAreHandedOver()
+{
+    Cartella set(1, 1, 1);
+    const Pagina *own = set.pagine.first();
+    QVector<Pagina *> given;
+    {
+        Cartella temporary(2, 3, 3, 9);
+        given = temporary.pagine;
+        QVERIFY(!handOverPages(temporary, set));
+    }
+    QCOMPARE(set.getNumPages(), 3);
+    QCOMPARE(set.pagine[0], own);
+    QCOMPARE(set.pagine.mid(1), given);
+    QCOMPARE(set.pagineEsterne, U8(0));
+    QCOMPARE(set.pagine[2]->blocchi[2].righe[2].nCelle, U8(9)); // it outlived the temporary set
+}
+
+void tst_Cartella::aRefusedPageEndsTheHandingOver()
+{
+    Cartella set;
+    Cartella temporary(3, 1, 1, 1);
+    const QVector<Pagina *> given = temporary.pagine;
+    temporary.pagine.insert(1, nullptr);
+    QCOMPARE(handOverPages(temporary, set).value_or(-1), 1);
+    QCOMPARE(set.pagine, given.mid(0, 1));
+    QCOMPARE(temporary.pagine, QVector<Pagina *>({nullptr, given[1], given[2]}));
+    QCOMPARE(temporary.pagineEsterne, U8(0)); // each set deletes its own
 }
 
 void tst_Cartella::sizesTakeTheWidestRow()
