@@ -541,6 +541,10 @@ Größe: %5 Bytes (%6 MB)
         <source>Continua con queste impostazioni</source>
         <translation>Mit diesen Einstellungen fortfahren</translation>
     </message>
+    <message>
+        <source>Quintra</source>
+        <translation>Quintra</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
@@ -1299,10 +1303,6 @@ Möchten Sie sie ansehen?</translation>
         <translation>Direkt bearbeiten</translation>
     </message>
     <message>
-        <source>Opzioni</source>
-        <translation>Optionen</translation>
-    </message>
-    <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
         <translation>Problem beim Löschen der Datei:
@@ -1319,6 +1319,10 @@ Möchten Sie sie ansehen?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Konfigurationsdatei löschen?</translation>
+    </message>
+    <message>
+        <source>Quintra - Opzioni</source>
+        <translation>Quintra - Optionen</translation>
     </message>
 </context>
 <context>

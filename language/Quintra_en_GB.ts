@@ -541,6 +541,10 @@ Size: %5 bytes (%6 MB)
         <source>Continua con queste impostazioni</source>
         <translation>Continue with these settings</translation>
     </message>
+    <message>
+        <source>Quintra</source>
+        <translation>Quintra</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
@@ -1299,10 +1303,6 @@ Do you want to see them?</translation>
         <translation>Edit directly</translation>
     </message>
     <message>
-        <source>Opzioni</source>
-        <translation>Options</translation>
-    </message>
-    <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
         <translation>Problem while deleting the file:
@@ -1319,6 +1319,10 @@ Do you want to see them?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Delete the configuration file?</translation>
+    </message>
+    <message>
+        <source>Quintra - Opzioni</source>
+        <translation>Quintra - Options</translation>
     </message>
 </context>
 <context>

@@ -541,6 +541,10 @@ Tamaño: %5 bytes (%6 MB)
         <source>Continua con queste impostazioni</source>
         <translation>Continuar con esta configuración</translation>
     </message>
+    <message>
+        <source>Quintra</source>
+        <translation>Quintra</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
@@ -1299,10 +1303,6 @@ Vuoi visualizzarli?</source>
         <translation>Edición directa</translation>
     </message>
     <message>
-        <source>Opzioni</source>
-        <translation>Opciones</translation>
-    </message>
-    <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
         <translation>Problema al eliminar el archivo:
@@ -1319,6 +1319,10 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>¿Eliminar el archivo de configuración?</translation>
+    </message>
+    <message>
+        <source>Quintra - Opzioni</source>
+        <translation>Quintra - Opciones</translation>
     </message>
 </context>
 <context>

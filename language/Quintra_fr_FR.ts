@@ -541,6 +541,10 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <source>Continua con queste impostazioni</source>
         <translation>Continuer avec ces paramètres</translation>
     </message>
+    <message>
+        <source>Quintra</source>
+        <translation>Quintra</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
@@ -1299,10 +1303,6 @@ Voulez-vous les afficher&#xa0;?</translation>
         <translation>Modification directe</translation>
     </message>
     <message>
-        <source>Opzioni</source>
-        <translation>Options</translation>
-    </message>
-    <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
         <translation>Problème lors de la suppression du fichier&#xa0;:
@@ -1319,6 +1319,10 @@ Voulez-vous les afficher&#xa0;?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Supprimer le fichier de configuration&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Quintra - Opzioni</source>
+        <translation>Quintra - Options</translation>
     </message>
 </context>
 <context>

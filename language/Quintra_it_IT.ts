@@ -541,6 +541,10 @@ Dimensione: %5 Bytes (%6 MB)
         <source>Continua con queste impostazioni</source>
         <translation>Continua con queste impostazioni</translation>
     </message>
+    <message>
+        <source>Quintra</source>
+        <translation>Quintra</translation>
+    </message>
 </context>
 <context>
     <name>GeneraCartellaPersonale</name>
@@ -1299,10 +1303,6 @@ Vuoi visualizzarli?</translation>
         <translation>Modifica diretta</translation>
     </message>
     <message>
-        <source>Opzioni</source>
-        <translation>Opzioni</translation>
-    </message>
-    <message>
         <source>Problema durante la cancellazione del file:
  %1</source>
         <translation>Problema durante la cancellazione del file:
@@ -1319,6 +1319,10 @@ Vuoi visualizzarli?</translation>
     <message>
         <source>Proseguire con la cancellazionede del file di configurazione?</source>
         <translation>Proseguire con la cancellazionede del file di configurazione?</translation>
+    </message>
+    <message>
+        <source>Quintra - Opzioni</source>
+        <translation>Quintra - Opzioni</translation>
     </message>
 </context>
 <context>

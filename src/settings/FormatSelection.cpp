@@ -59,7 +59,6 @@ void FormatSelection::fillLanguages()
 void FormatSelection::showTexts()
 {
     ui->retranslateUi(this);
-    ui->titolo->setText(Product::nameText());
     const QString about = Product::nameAndRelease() + QLatin1Char('\n') + tr("Generatore di cartelle per la Quintra.");
     for (QLabel *title : {ui->titolo, ui->label_lingua, ui->label_impostazioni}) {
         title->setToolTip(about);

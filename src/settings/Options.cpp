@@ -4,7 +4,6 @@
 #include "msgarea/MsgArea.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
-#include "settings/Product.h"
 #include "ui_Options.h"
 
 #include <QFile>
@@ -17,7 +16,7 @@ Options::Options(QWidget *parent)
 {
     initQuintraResources();
     ui->setupUi(this);
-    setWindowTitle(Product::titleFor(tr("Opzioni")));
+    setWindowTitle(tr("Quintra - Opzioni")); // of its boxes too
     show();
 }
 
@@ -27,12 +26,11 @@ void Options::deleteConfig(bool exitAfter)
 {
     QFile file(Config::filePath());
     if (!file.remove()) {
-        QMessageBox::warning(this, Product::titleFor(tr("Opzioni")),
+        QMessageBox::warning(this, windowTitle(),
                              tr("Problema durante la cancellazione del file:\n %1").arg(file.errorString()));
         return;
     }
-    QMessageBox::information(this, Product::titleFor(tr("Opzioni")),
-                             tr("File di configurazione eliminato correttamente."));
+    QMessageBox::information(this, windowTitle(), tr("File di configurazione eliminato correttamente."));
     if (exitAfter && m_window) {
         m_window->close();
     }
@@ -40,8 +38,7 @@ void Options::deleteConfig(bool exitAfter)
 
 bool Options::isRefused(const QString &question)
 {
-    return QMessageBox::question(this, Product::titleFor(tr("Opzioni")), question,
-                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::No;
+    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::No;
 }
 
 void Options::on_butt_azzeraesci_clicked()

@@ -129,7 +129,8 @@ QString textOf(const QWidget *widget)
 // All texts of the window's own, in an order that is the same in every language.
 QStringList textsOf(const QWidget &window)
 {
-    QStringList texts(window.windowTitle().section(QStringLiteral(" - "), 1));
+    QStringList texts(
+        window.windowTitle().remove(Product::nameAndRelease()).remove(QRegularExpression(QStringLiteral("^ - "))));
     for (const auto *widget : window.findChildren<QWidget *>()) {
         if (widget->isVisibleTo(&window) && !isToolkitsOwn(widget)) {
             texts << textOf(widget) << widget->toolTip() << widget->statusTip() << widget->accessibleName();

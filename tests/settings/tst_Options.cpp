@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "MadeTranslations.h"
 #include "msgarea/MsgArea.h"
 #include "settings/Config.h"
 #include "settings/Options.h"
@@ -13,6 +14,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
+#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -49,6 +51,7 @@ private slots:
     void theFormHasItsTexts();
     void theDialogShowsItself();
     void theDialogHasNoParent();
+    void itsTitleIsTranslatedWhole();
     void itsButtonsCloseAndDeleteIt_data();
     void itsButtonsCloseAndDeleteIt();
     void itOutlivesItsWindow();
@@ -143,6 +146,26 @@ void tst_Options::theDialogHasNoParent()
 {
     QVERIFY(m_options->parent() == nullptr);
     QVERIFY(m_options->isWindow());
+}
+
+void tst_Options::itsTitleIsTranslatedWhole()
+{
+    const QString translated = QStringLiteral("Tutte le opzioni");
+    const QByteArray made = madeTranslation({{QStringLiteral("Options"), title, translated}});
+    QTranslator translator;
+    QVERIFY(translator.load(reinterpret_cast<const uchar *>(made.constData()), made.size()));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    delete m_options;
+    m_options = new Options(m_window.get());
+    QCOMPARE(m_options->windowTitle(), translated);
+
+    BoxScript boxes;
+    boxes.expectBox(translated, resetQuestion, QMessageBox::Yes);
+    boxes.expectBox(translated, removedText, QMessageBox::Ok);
+    boxes.expectBox(translated, resetQuestion, QMessageBox::No);
+    click("butt_azzeracontinua");
+    click("butt_azzeracontinua");
+    QCOMPARE(boxes.problems(), QStringList());
 }
 
 void tst_Options::itsButtonsCloseAndDeleteIt_data()
