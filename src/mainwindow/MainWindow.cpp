@@ -15,10 +15,6 @@
 #include <QScrollBar>
 #include <QTableWidget>
 
-namespace {
-constexpr int startFontPoints = 30;
-} // namespace
-
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui::MainWindow>())
@@ -66,7 +62,7 @@ void MainWindow::setupPageView()
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
     ui->buttSelezionaImmagine->setEnabled(false);
     ui->pagina_corrente_spinBox->setValue(0);
-    m_currentFont = QFont(QStringLiteral("Arial"), startFontPoints);
+    m_currentFont = defaultCellFont();
 
     ui->gridLayout->addWidget(replaceTable(), 0, 0);
     resetSelectionPanels(0);
