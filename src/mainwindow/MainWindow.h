@@ -38,8 +38,6 @@ public:
     // Validates the parameters now set, shows the verdict in the status icon, and appends the text of an error or
     // warning to *message, which may be null. 1 correct, 0 warning, -1 error.
     int checkParameters(QString *message, bool append);
-    // Tells the user of an error, asks about a warning; whether to go on. A verdict that is none stops the program.
-    bool confirmVerdict(int verdict, const QString &message);
     // Creates a new card set, or appends pages to the present one; with "Mappatura manuale" opens the editor instead.
     // False when the user or the validation cancelled.
     bool generate(bool append);
@@ -124,9 +122,10 @@ private:
     void loadDefaultParameters();
     void enableParameters(bool byHand);
     CardParameters parameters() const;
-    void showSettingStatus(ParameterRules::Verdict verdict, const QString &toolTip);
+    void showSettingStatus(Verdict verdict, const QString &toolTip);
 
     // Generation.
+    bool confirmVerdict(int verdict, const QString &message);
     void replaceCardSet(std::unique_ptr<Cartella> cartella);
     void generateUndisturbed(bool append);
     void createEmptyPages(const CardParameters &requested);

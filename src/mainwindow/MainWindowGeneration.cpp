@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "generation/GeneraCartellaClassica.h"
 #include "mainwindow/MainWindow.h"
+
+#include "generation/GeneraCartellaClassica.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/EditPersonale.h"
 #include "ui_MainWindow.h"
@@ -61,8 +62,7 @@ bool MainWindow::generate(bool append)
         return true;
     }
     QString message;
-    const int verdict = checkParameters(&message, append);
-    if (!confirmVerdict(verdict, message)) {
+    if (!confirmVerdict(checkParameters(&message, append), message)) {
         updateStatusBar(tr("Creazione annullata."));
         return false;
     }
@@ -89,20 +89,20 @@ bool MainWindow::generate(bool append)
     return true;
 }
 
+// Tells the user of an error, asks about a warning; whether to go on. A verdict that is none stops the program.
 bool MainWindow::confirmVerdict(int verdict, const QString &message)
 {
-    switch (verdict) {
-    case ParameterRules::Error:
+    switch (static_cast<Verdict>(verdict)) {
+    case Verdict::Error:
         warn(tr("Problemi di impostazione parametri: non posso proseguire!"), message);
         return false;
-    case ParameterRules::Warning:
+    case Verdict::Warning:
         return QMessageBox::question(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message),
                                      QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
-    case ParameterRules::Correct:
+    case Verdict::Correct:
         return true;
-    default:
-        qFatal("MainWindow::generate: Check STATUS type not defined!");
     }
+    qFatal("MainWindow::generate: Check STATUS type not defined!");
 }
 
 void MainWindow::createEmptyPages(const CardParameters &requested)
@@ -139,7 +139,7 @@ bool MainWindow::appendEmptyPages(const CardParameters &requested)
 void MainWindow::fillPages(int first, const CardParameters &p)
 {
     if (p.drawn + p.jolly + p.scritte == 0) {
-        showSettingStatus(ParameterRules::Warning, tr("Sono state create solo pagine vuote!"));
+        showSettingStatus(Verdict::Warning, tr("Sono state create solo pagine vuote!"));
         return;
     }
     const WaitCursor wait(this);

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
+
+#include "resources/Resources.h"
 #include "settings/Config.h"
 #include "ui_MainWindow.h"
 
@@ -55,17 +57,17 @@ int MainWindow::checkParameters(QString *message, bool append)
     present.cellsInMemory = m_cellsInMemory;
 
     const ParameterRules::Result result = ParameterRules::check(parameters(), present);
-    const bool correct = result.verdict == ParameterRules::Correct;
+    const bool correct = result.verdict == Verdict::Correct;
     showSettingStatus(result.verdict, correct ? tr("Impostazioni corrette") : result.message);
     if (message != nullptr) {
         message->append(result.message);
     }
-    return result.verdict;
+    return static_cast<int>(result.verdict);
 }
 
-void MainWindow::showSettingStatus(ParameterRules::Verdict verdict, const QString &toolTip)
+void MainWindow::showSettingStatus(Verdict verdict, const QString &toolTip)
 {
-    ui->label_settingstatus->setPixmap(QPixmap(ParameterRules::iconPath(verdict)));
+    ui->label_settingstatus->setPixmap(QPixmap(verdictIcon(verdict)));
     ui->label_settingstatus->setToolTip(toolTip);
 }
 

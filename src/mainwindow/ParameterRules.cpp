@@ -40,42 +40,29 @@ ParameterRules::Result ParameterRules::check(const CardParameters &parameters, c
     if (!parameters.manual) {
         const QString problem = cardLayoutProblem(parameters);
         if (!problem.isNull()) {
-            return {Error, problem};
+            return {Verdict::Error, problem};
         }
     }
     const int pages = present.pagesToKeep + parameters.pages;
     if (pages > maxPages) {
-        return {Error,
+        return {Verdict::Error,
                 tr("Le pagine totali richieste (%1)\neccedono il massimo consentito (%2).").arg(pages).arg(maxPages)};
     }
     const quint64 requested = cellsRequested(parameters);
     if (present.cellsInMemory + requested > maxCells) {
-        return {Warning, tr("Si sconsiglia di proseguire per le seguenti ragioni:\n"
-                            "%1 -> caselle totali richieste.\n"
-                            "%2 -> caselle totali in memoria.\n"
-                            "%3 -> caselle massime gestibili.\n"
-                            "(eventuale crash del programma)")
-                             .arg(requested)
-                             .arg(present.cellsInMemory)
-                             .arg(maxCells)};
+        return {Verdict::Warning, tr("Si sconsiglia di proseguire per le seguenti ragioni:\n"
+                                     "%1 -> caselle totali richieste.\n"
+                                     "%2 -> caselle totali in memoria.\n"
+                                     "%3 -> caselle massime gestibili.\n"
+                                     "(eventuale crash del programma)")
+                                      .arg(requested)
+                                      .arg(present.cellsInMemory)
+                                      .arg(maxCells)};
     }
-    return {Correct, QString()};
+    return {Verdict::Correct, QString()};
 }
 
 quint64 ParameterRules::cellsRequested(const CardParameters &p)
 {
     return static_cast<quint64>(qint64{p.pages} * p.blocks * p.rows * p.columns);
-}
-
-QString ParameterRules::iconPath(Verdict verdict)
-{
-    switch (verdict) {
-    case Error:
-        return QStringLiteral(":/Images/resources/img/error.png");
-    case Warning:
-        return QStringLiteral(":/Images/resources/img/warning.png");
-    case Correct:
-        break;
-    }
-    return QStringLiteral(":/Images/resources/img/ok.png");
 }

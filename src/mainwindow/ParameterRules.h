@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/Types.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -32,11 +34,9 @@ class ParameterRules final
     Q_DECLARE_TR_FUNCTIONS(ParameterRules)
 
 public:
-    enum Verdict : int { Error = -1, Warning = 0, Correct = 1 };
-
     struct Result
     {
-        Verdict verdict = Correct;
+        Verdict verdict = Verdict::Correct;
         QString message; // of an error or a warning, translated
     };
 
@@ -47,8 +47,6 @@ public:
     [[nodiscard]] static Result check(const CardParameters &parameters, const CardSetSize &present);
     // pages x blocks x rows x columns; it does not fit 32 bits at the upper end of the ranges.
     [[nodiscard]] static quint64 cellsRequested(const CardParameters &parameters);
-    // Path of the icon that shows a verdict.
-    [[nodiscard]] static QString iconPath(Verdict verdict);
 
 private:
     static QString cardLayoutProblem(const CardParameters &parameters);

@@ -7,3 +7,6 @@
 using U8 = quint8;
 // Counts and indices of pages: at most 65535.
 using U16 = quint16;
+
+// What a check of settings comes to.
+enum class Verdict : int { Error = -1, Warning = 0, Correct = 1 };

@@ -216,8 +216,8 @@ void EditPersonale::recountNumbers()
 // Runs for every single tick: the icon is only loaded when the verdict changes.
 void EditPersonale::checkSettings()
 {
-    const Verdict verdict = m_tickedNumbers <= m_available ? Verdict::Correct : Verdict::TooManyNumbers;
-    if (verdict == Verdict::TooManyNumbers) {
+    const Verdict verdict = m_tickedNumbers <= m_available ? Verdict::Correct : Verdict::Warning;
+    if (verdict == Verdict::Warning) {
         ui->status_label->setToolTip(tr("I numeri da generare (%1) sono maggiori di quelli disponibili (%2).")
                                          .arg(m_tickedNumbers)
                                          .arg(m_available));
@@ -230,8 +230,7 @@ void EditPersonale::checkSettings()
     if (correct) {
         ui->status_label->setToolTip(tr("Impostazioni corrette"));
     }
-    ui->status_label->setPixmap(QPixmap(correct ? QStringLiteral(":/Images/resources/img/ok.png")
-                                                : QStringLiteral(":/Images/resources/img/warning.png")));
+    ui->status_label->setPixmap(QPixmap(verdictIcon(verdict)));
     ui->actionCreaPagine->setEnabled(correct);
     ui->creapagineButton->setEnabled(correct);
 }

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class GeneraCartellaPersonale;
@@ -66,7 +67,6 @@ protected:
 
 private:
     enum class RightClick { CyclesType, Ignored };
-    enum class Verdict { Unknown, Correct, TooManyNumbers };
 
     void fitToolsWidth();
     void buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick);
@@ -115,6 +115,6 @@ private:
     int m_nmax;
     int m_available;
     int m_tickedNumbers = 0; // not taken anew when the page is switched
-    Verdict m_shownVerdict = Verdict::Unknown;
+    std::optional<Verdict> m_shownVerdict;
     std::vector<PaginaPersonale> m_pages;
 };

@@ -120,7 +120,6 @@ private slots:
     void theMemoryWarningAsks();
     void cellsThatDoNotFit32BitsAreNeverMadeUnasked();
     void cellsInMemoryStartAgainWithANewSet();
-    void aVerdictThatIsNoneStopsTheProgram();
     void everyPageThatFailsIsReported();
     void failuresOfAppendedPagesAreCountedOverTheSet();
     void nothingDrawnMakesEmptyPages();
@@ -441,13 +440,6 @@ void tst_MainWindowGeneration::cellsInMemoryStartAgainWithANewSet()
     chooseNew(page);
     QCOMPARE(cellsInMemory(), QStringLiteral("162 -> caselle totali in memoria."));
     QCOMPARE(page.boxes.problems(), QStringList());
-}
-
-void tst_MainWindowGeneration::aVerdictThatIsNoneStopsTheProgram()
-{
-    const PageWindow page;
-    QCOMPARE(fatalMessageOf([&]() { page.window->confirmVerdict(2, QString()); }),
-             QStringLiteral("MainWindow::generate: Check STATUS type not defined!"));
 }
 
 void tst_MainWindowGeneration::everyPageThatFailsIsReported()

@@ -44,7 +44,6 @@ private slots:
     void manyCellsAreAWarning_data();
     void manyCellsAreAWarning();
     void cellsThatDoNotFit32BitsAreAWarningToo();
-    void eachVerdictHasItsIcon();
 };
 
 void tst_ParameterRules::theClassicCardIsCorrect()
@@ -241,13 +240,6 @@ void tst_ParameterRules::cellsThatDoNotFit32BitsAreAWarningToo()
     QCOMPARE(int(result.verdict), 0);
     QVERIFY2(result.message.contains(QStringLiteral("\n63588544965 -> caselle totali richieste.\n")),
              qPrintable(result.message));
-}
-
-void tst_ParameterRules::eachVerdictHasItsIcon()
-{
-    QCOMPARE(ParameterRules::iconPath(ParameterRules::Correct), QStringLiteral(":/Images/resources/img/ok.png"));
-    QCOMPARE(ParameterRules::iconPath(ParameterRules::Warning), QStringLiteral(":/Images/resources/img/warning.png"));
-    QCOMPARE(ParameterRules::iconPath(ParameterRules::Error), QStringLiteral(":/Images/resources/img/error.png"));
 }
 
 QTEST_GUILESS_MAIN(tst_ParameterRules)

@@ -26,6 +26,7 @@ class tst_Resources final : public QObject
 private slots:
     void thePicturesOfTheLibraryAreThereOnceRegistered();
     void everyPictureCanBeRead();
+    void eachVerdictHasItsIcon();
 };
 
 void tst_Resources::thePicturesOfTheLibraryAreThereOnceRegistered()
@@ -47,6 +48,13 @@ void tst_Resources::everyPictureCanBeRead()
         QImageReader reader(file);
         QVERIFY2(!reader.read().isNull(), qPrintable(file + QLatin1Char(' ') + reader.errorString()));
     }
+}
+
+void tst_Resources::eachVerdictHasItsIcon()
+{
+    QCOMPARE(verdictIcon(Verdict::Correct), pictures + QStringLiteral("/ok.png"));
+    QCOMPARE(verdictIcon(Verdict::Warning), pictures + QStringLiteral("/warning.png"));
+    QCOMPARE(verdictIcon(Verdict::Error), pictures + QStringLiteral("/error.png"));
 }
 
 QTEST_GUILESS_MAIN(tst_Resources)
