@@ -7,6 +7,7 @@
 #include "output/PagePainter.h"
 #include "settings/Config.h"
 #include "settings/Product.h"
+#include "settings/WholeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -47,8 +48,8 @@ bool isComplete(const QString &fileName)
     constexpr char endMark[] = "%%EOF";
     constexpr qint64 tail = sizeof(endMark) + 1; // line ends included
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) && file.size() >= tail && file.seek(file.size() - tail) &&
-           file.read(tail).contains(endMark);
+    return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) && file.size() >= tail &&
+           file.seek(file.size() - tail) && file.read(tail).contains(endMark);
 }
 } // namespace
 
@@ -77,15 +78,16 @@ int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QStri
 
 int CreateOutputFile::printPdf(QString &report)
 {
+    WholeFile file(fileName);
+    const bool created = file.create();
     QPrinter printer(QPrinter::ScreenResolution);
-    setUpPrinter(printer, fileName, *cartella);
+    setUpPrinter(printer, file.writtenName(), *cartella);
     QPainter painter;
-    if (!painter.begin(&printer)) {
+    if (!created || !painter.begin(&printer)) {
         report += tr("Impossibile scrivere sul file!");
         return failure;
     }
-    const PagePainter pages(&painter, documentLayout(sheetOf(printer, *cartella)));
-    if (!printPages(pages, printer) || !painter.end() || !isComplete(fileName)) {
+    if (!printInto(file, painter, printer)) {
         report += tr("Impossibile continuare a scrivere sul file!");
         return failure;
     }
@@ -93,6 +95,17 @@ int CreateOutputFile::printPdf(QString &report)
     report += successReport(bytes);
     emit status(tr("Stampa PDF completata!"));
     return static_cast<int>(bytes);
+}
+
+bool CreateOutputFile::printInto(WholeFile &file, QPainter &painter, QPrinter &printer)
+{
+    const PagePainter pages(&painter, documentLayout(sheetOf(printer, *cartella)));
+    if (!printPages(pages, printer)) {
+        painter.end();
+        file.leaveIncomplete();
+        return false;
+    }
+    return painter.end() && isComplete(file.writtenName()) && file.commit();
 }
 
 bool CreateOutputFile::printPages(const PagePainter &painter, QPrinter &printer)

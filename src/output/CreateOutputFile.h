@@ -6,7 +6,9 @@
 
 class Cartella;
 class PagePainter;
+class QPainter;
 class QPrinter;
+class WholeFile;
 
 // Prints a card set to a file, PDF being the one format. Tells progress through status() and appends its report, or
 // the reason of a failure, to the caller's text; it never shows anything.
@@ -20,7 +22,9 @@ public:
     // Chooses the writer by the suffix of fileName. The size of the file in bytes, 0 when the format is not available,
     // negative on failure. `set` is not owned.
     int create(const QString &outputFileName, Cartella *set, QString &report);
-    // Writes `fileName` from `cartella`. The size of the file in bytes, -1 on failure.
+    // Writes `fileName` from `cartella`. The size of the file in bytes, -1 on failure. The file takes its name only
+    // when it is whole, so that a failed print leaves an older one; what was written until a page failed is left as
+    // well.
     int printPdf(QString &report);
 
     QString fileName;
@@ -30,6 +34,8 @@ signals:
     void status(const QString &text);
 
 private:
+    // False when not all of it came into the file.
+    bool printInto(WholeFile &file, QPainter &painter, QPrinter &printer);
     // False when the file cannot be written on.
     bool printPages(const PagePainter &painter, QPrinter &printer);
     QString successReport(qint64 bytes) const;
