@@ -1197,6 +1197,14 @@ Möchten Sie sie ansehen?</translation>
         <source>... e altre coppie di blocchi uguali: %1.</source>
         <translation>... und weitere Paare gleicher Karten: %1.</translation>
     </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina come sarà stampata</source>
+        <translation>Die Seite so zeigen, wie sie gedruckt wird</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1336,6 +1344,57 @@ Sostituirlo?</source>
 %1
 
 Ersetzen?</translation>
+    </message>
+</context>
+<context>
+    <name>PagePreview</name>
+    <message>
+        <source>Mostra la pagina precedente</source>
+        <translation>Die vorige Seite zeigen</translation>
+    </message>
+    <message>
+        <source>Precedente</source>
+        <translation>Vorige</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina successiva</source>
+        <translation>Die nächste Seite zeigen</translation>
+    </message>
+    <message>
+        <source>Successiva</source>
+        <translation>Nächste</translation>
+    </message>
+    <message>
+        <source>Ingrandimento:</source>
+        <translation>Vergrößerung:</translation>
+    </message>
+    <message>
+        <source>Grandezza in cui la pagina è mostrata</source>
+        <translation>Größe, in der die Seite gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Pagina intera</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Larghezza</source>
+        <translation>Seitenbreite</translation>
+    </message>
+    <message>
+        <source>Pagina come sarà stampata</source>
+        <translation>Seite, wie sie gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>La cartella è vuota!</source>
+        <translation>Der Kartensatz ist leer!</translation>
+    </message>
+    <message>
+        <source>Pagina %1 di %2, %3</source>
+        <translation>Seite %1 von %2, %3</translation>
     </message>
 </context>
 <context>

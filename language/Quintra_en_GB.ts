@@ -1197,6 +1197,14 @@ Do you want to see them?</translation>
         <source>... e altre coppie di blocchi uguali: %1.</source>
         <translation>... and more pairs of identical cards: %1.</translation>
     </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina come sarà stampata</source>
+        <translation>Show the page as it will be printed</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1336,6 +1344,57 @@ Sostituirlo?</source>
 %1
 
 Replace it?</translation>
+    </message>
+</context>
+<context>
+    <name>PagePreview</name>
+    <message>
+        <source>Mostra la pagina precedente</source>
+        <translation>Show the previous page</translation>
+    </message>
+    <message>
+        <source>Precedente</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina successiva</source>
+        <translation>Show the next page</translation>
+    </message>
+    <message>
+        <source>Successiva</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Ingrandimento:</source>
+        <translation>Zoom:</translation>
+    </message>
+    <message>
+        <source>Grandezza in cui la pagina è mostrata</source>
+        <translation>Size in which the page is shown</translation>
+    </message>
+    <message>
+        <source>Pagina intera</source>
+        <translation>Whole page</translation>
+    </message>
+    <message>
+        <source>Larghezza</source>
+        <translation>Page width</translation>
+    </message>
+    <message>
+        <source>Pagina come sarà stampata</source>
+        <translation>Page as it will be printed</translation>
+    </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>La cartella è vuota!</source>
+        <translation>The card set is empty!</translation>
+    </message>
+    <message>
+        <source>Pagina %1 di %2, %3</source>
+        <translation>Page %1 of %2, %3</translation>
     </message>
 </context>
 <context>

@@ -1197,6 +1197,14 @@ Vuoi visualizzarli?</source>
         <source>... e altre coppie di blocchi uguali: %1.</source>
         <translation>... y más parejas de cartones iguales: %1.</translation>
     </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Vista previa de impresión</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina come sarà stampata</source>
+        <translation>Mostrar la página tal como se imprimirá</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1336,6 +1344,57 @@ Sostituirlo?</source>
 %1
 
 ¿Reemplazarlo?</translation>
+    </message>
+</context>
+<context>
+    <name>PagePreview</name>
+    <message>
+        <source>Mostra la pagina precedente</source>
+        <translation>Mostrar la página anterior</translation>
+    </message>
+    <message>
+        <source>Precedente</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina successiva</source>
+        <translation>Mostrar la página siguiente</translation>
+    </message>
+    <message>
+        <source>Successiva</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Ingrandimento:</source>
+        <translation>Aumento:</translation>
+    </message>
+    <message>
+        <source>Grandezza in cui la pagina è mostrata</source>
+        <translation>Tamaño en que se muestra la página</translation>
+    </message>
+    <message>
+        <source>Pagina intera</source>
+        <translation>Página completa</translation>
+    </message>
+    <message>
+        <source>Larghezza</source>
+        <translation>Ancho de página</translation>
+    </message>
+    <message>
+        <source>Pagina come sarà stampata</source>
+        <translation>Página tal como se imprimirá</translation>
+    </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Vista previa de impresión</translation>
+    </message>
+    <message>
+        <source>La cartella è vuota!</source>
+        <translation>¡La serie de cartones está vacía!</translation>
+    </message>
+    <message>
+        <source>Pagina %1 di %2, %3</source>
+        <translation>Página %1 de %2, %3</translation>
     </message>
 </context>
 <context>

@@ -1197,6 +1197,14 @@ Voulez-vous les afficher&#xa0;?</translation>
         <source>... e altre coppie di blocchi uguali: %1.</source>
         <translation>... et d&apos;autres paires de cartons identiques&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Aperçu avant impression</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina come sarà stampata</source>
+        <translation>Montrer la page telle qu'elle sera imprimée</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1336,6 +1344,57 @@ Sostituirlo?</source>
 %1
 
 Le remplacer&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>PagePreview</name>
+    <message>
+        <source>Mostra la pagina precedente</source>
+        <translation>Montrer la page précédente</translation>
+    </message>
+    <message>
+        <source>Precedente</source>
+        <translation>Précédente</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina successiva</source>
+        <translation>Montrer la page suivante</translation>
+    </message>
+    <message>
+        <source>Successiva</source>
+        <translation>Suivante</translation>
+    </message>
+    <message>
+        <source>Ingrandimento:</source>
+        <translation>Zoom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Grandezza in cui la pagina è mostrata</source>
+        <translation>Taille à laquelle la page est montrée</translation>
+    </message>
+    <message>
+        <source>Pagina intera</source>
+        <translation>Page entière</translation>
+    </message>
+    <message>
+        <source>Larghezza</source>
+        <translation>Largeur de la page</translation>
+    </message>
+    <message>
+        <source>Pagina come sarà stampata</source>
+        <translation>Page telle qu'elle sera imprimée</translation>
+    </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Aperçu avant impression</translation>
+    </message>
+    <message>
+        <source>La cartella è vuota!</source>
+        <translation>La série de cartons est vide&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Pagina %1 di %2, %3</source>
+        <translation>Page %1 sur %2, %3</translation>
     </message>
 </context>
 <context>

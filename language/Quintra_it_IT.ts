@@ -1197,6 +1197,14 @@ Vuoi visualizzarli?</translation>
         <source>... e altre coppie di blocchi uguali: %1.</source>
         <translation>... e altre coppie di blocchi uguali: %1.</translation>
     </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Anteprima di stampa</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina come sarà stampata</source>
+        <translation>Mostra la pagina come sarà stampata</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1336,6 +1344,57 @@ Sostituirlo?</source>
 %1
 
 Sostituirlo?</translation>
+    </message>
+</context>
+<context>
+    <name>PagePreview</name>
+    <message>
+        <source>Mostra la pagina precedente</source>
+        <translation>Mostra la pagina precedente</translation>
+    </message>
+    <message>
+        <source>Precedente</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Mostra la pagina successiva</source>
+        <translation>Mostra la pagina successiva</translation>
+    </message>
+    <message>
+        <source>Successiva</source>
+        <translation>Successiva</translation>
+    </message>
+    <message>
+        <source>Ingrandimento:</source>
+        <translation>Ingrandimento:</translation>
+    </message>
+    <message>
+        <source>Grandezza in cui la pagina è mostrata</source>
+        <translation>Grandezza in cui la pagina è mostrata</translation>
+    </message>
+    <message>
+        <source>Pagina intera</source>
+        <translation>Pagina intera</translation>
+    </message>
+    <message>
+        <source>Larghezza</source>
+        <translation>Larghezza</translation>
+    </message>
+    <message>
+        <source>Pagina come sarà stampata</source>
+        <translation>Pagina come sarà stampata</translation>
+    </message>
+    <message>
+        <source>Anteprima di stampa</source>
+        <translation>Anteprima di stampa</translation>
+    </message>
+    <message>
+        <source>La cartella è vuota!</source>
+        <translation>La cartella è vuota!</translation>
+    </message>
+    <message>
+        <source>Pagina %1 di %2, %3</source>
+        <translation>Pagina %1 di %2, %3</translation>
     </message>
 </context>
 <context>

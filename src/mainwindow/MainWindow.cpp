@@ -22,6 +22,7 @@ MainWindow::MainWindow(QWidget *parent)
     initQuintraResources();
     ui->setupUi(this);
     setupShortcuts();
+    connectCommands();
     setWindowTitle(Product::nameAndRelease());
     welcome();
     setupParameters();
@@ -43,6 +44,12 @@ void MainWindow::setupShortcuts()
 {
     ui->butt_aggiungi_pagine->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_N));
     ui->butt_stampa->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_P));
+}
+
+// Commands that are no slots of the window.
+void MainWindow::connectCommands()
+{
+    connect(ui->actionAnteprima, &QAction::triggered, this, &MainWindow::openPreview);
 }
 
 void MainWindow::welcome()
@@ -96,6 +103,7 @@ void MainWindow::replaceCardSet(std::unique_ptr<Cartella> cartella)
 {
     m_cartella = std::move(cartella);
     connect(m_cartella.get(), &Cartella::checkForEqualBlocksStatus, this, &MainWindow::updateStatusBar);
+    updatePreview();
 }
 
 void MainWindow::updateStatusBar(const QString &msg)

@@ -16,6 +16,7 @@ class EditPersonale;
 class GeneraCartellaClassica;
 class MsgArea;
 class Options;
+class PagePreview;
 class QColorDialog;
 class QTableWidget;
 class QTableWidgetItem;
@@ -111,6 +112,7 @@ protected:
 private:
     // Construction.
     void setupShortcuts();
+    void connectCommands();
     void welcome();
     void setupParameters();
     void setupPageView();
@@ -141,6 +143,8 @@ private:
     // Printing.
     QString askPrintFileName();
     bool writeOutputFile(const QString &fileName, QString &report);
+    void openPreview();
+    void updatePreview();
 
     // The page table.
     QTableWidget *replaceTable();
@@ -183,6 +187,7 @@ private:
     QColorDialog *m_colorDialog = nullptr; // child, shared by all colour commands
     QFont m_currentFont;
     QPointer<MsgArea> m_about;
+    QPointer<PagePreview> m_preview; // deletes itself when closed
     QPointer<EditPersonale> m_editor; // deletes itself when closed
     int m_pageShown = 0;              // 1-based, 0 for none
     int m_pagesBeforeEditor = 0;      // page count when the editor was opened

@@ -82,6 +82,7 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
         const QScopedValueRollback<QTableWidget *> asking(m_tableAsking, table);
         setTypedText(cell, item->text());
     }
+    updatePreview();
     if (m_table != table) { // the page was loaded anew meanwhile: the item's table is not shown any more
         table->deleteLater();
         return;
@@ -141,6 +142,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
     const QImage image = loadCellImage(path);
     if (confirmImage(tr("L'immagine per la cella selezionata è quella visisbile. Proseguire?"), image)) {
         cell->immagine = image;
+        updatePreview();
         updateStatusBar(tr("Immagine impostata correttamente."));
     }
 }

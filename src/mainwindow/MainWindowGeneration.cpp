@@ -83,6 +83,7 @@ bool MainWindow::generate(bool append)
     fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
     m_generated = true;
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
+    updatePreview();
     if (!append || m_pageShown == 0) { // all pages may have been deleted before
         showFirstPage();
     }
@@ -185,5 +186,6 @@ void MainWindow::generatePersDone()
     }
     m_generated = true;
     ui->pagine_lcdNumber->display(pages);
+    updatePreview();
     ui->pagina_corrente_spinBox->setValue(m_pageShown + 1);
 }

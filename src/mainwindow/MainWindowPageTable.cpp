@@ -83,6 +83,7 @@ void MainWindow::loadPagina(U16 page)
     ui->gridLayout->addWidget(table, 0, 0);
     table->show();
     resetSelectionPanels(shown.nBlocchi);
+    updatePreview();
 }
 
 void MainWindow::on_pagina_corrente_spinBox_valueChanged(int value)
@@ -125,6 +126,7 @@ void MainWindow::on_pagina_elimina_clicked()
         resetSelectionPanels(0);
     }
     ui->pagine_lcdNumber->display(pages);
+    updatePreview();
     updateStatusBar(tr("Pagina eliminata correttamente."));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
+#include "mainwindow/PagePreview.h"
 #include "msgarea/MsgArea.h"
 #include "msgarea/Overwriting.h"
 #include "msgarea/WaitCursor.h"
@@ -15,6 +16,7 @@
 void MainWindow::on_pagina_formato_currentIndexChanged(int index)
 {
     m_cartella->formato = index;
+    updatePreview();
 }
 
 void MainWindow::on_butt_stampa_clicked()
@@ -59,4 +61,25 @@ bool MainWindow::writeOutputFile(const QString &fileName, QString &report)
     CreateOutputFile output(this);
     connect(&output, &CreateOutputFile::status, this, &MainWindow::updateStatusBar);
     return output.create(fileName, m_cartella.get(), report) >= 0;
+}
+
+void MainWindow::openPreview()
+{
+    if (m_preview.isNull()) {
+        m_preview = new PagePreview(this);
+        m_preview->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_preview, &PagePreview::pageWanted, this,
+                [this](int page) { ui->pagina_corrente_spinBox->setValue(page + 1); });
+    }
+    updatePreview();
+    m_preview->show();
+    m_preview->activateWindow();
+}
+
+// To be called after every change of what is shown.
+void MainWindow::updatePreview()
+{
+    if (!m_preview.isNull()) {
+        m_preview->showPage(m_cartella.get(), ui->pagina_corrente_spinBox->value() - 1);
+    }
 }

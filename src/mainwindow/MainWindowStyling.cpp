@@ -220,6 +220,7 @@ void MainWindow::on_pagina_applica_clicked()
     for (Pagina *page : pagesInRange()) {
         page->spazioBlocchi = static_cast<float>(ui->spazio_blocchi_spin->value());
     }
+    updatePreview();
     updateStatusBar(tr("Modifica applicata."));
 }
 
@@ -261,6 +262,7 @@ void MainWindow::on_seleziona_font_button_clicked()
     m_currentFont = font;
     const bool complete = changeSelectedCells([&font](Cella &cell) { cell.font = font; });
     showFont(font);
+    updatePreview();
     warnOfSkippedCells(complete);
     updateStatusBar(tr("Font impostato correttamente."));
 }

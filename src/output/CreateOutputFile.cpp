@@ -5,6 +5,7 @@
 #include "model/Cartella.h"
 #include "output/Megabytes.h"
 #include "output/PagePainter.h"
+#include "output/PaperSheet.h"
 #include "settings/Config.h"
 #include "settings/Product.h"
 #include "settings/WholeFile.h"
@@ -28,18 +29,6 @@ void setUpPrinter(QPrinter &printer, const QString &fileName, const Cartella &se
     printer.setPageMargins(
         QMarginsF(set.margineSinistro, set.margineSuperiore, set.margineDestro, set.margineInferiore),
         QPageLayout::Millimeter);
-}
-
-Sheet sheetOf(const QPrinter &printer, const Cartella &set)
-{
-    const QSizeF millimetres = printer.pageLayout().pageSize().size(QPageSize::Millimeter);
-    return {printer.pageLayout().fullRectPixels(printer.resolution()),
-            millimetres.width(),
-            millimetres.height(),
-            set.margineSinistro,
-            set.margineSuperiore,
-            set.margineDestro,
-            set.margineInferiore};
 }
 
 // The printer does not tell that its last bytes did not reach the file: a PDF file is whole when it has its end mark.
@@ -99,7 +88,7 @@ int CreateOutputFile::printPdf(QString &report)
 
 bool CreateOutputFile::printInto(WholeFile &file, QPainter &painter, QPrinter &printer)
 {
-    const PagePainter pages(&painter, documentLayout(sheetOf(printer, *cartella)));
+    const PagePainter pages(&painter, documentLayout(sheetOf(printer.pageLayout(), printer.resolution(), *cartella)));
     if (!printPages(pages, printer)) {
         painter.end();
         file.leaveIncomplete();
@@ -129,4 +118,11 @@ QString CreateOutputFile::successReport(qint64 bytes) const
               "----------------------------------------\n\nDimensioni pagina: %6")
         .arg(file.completeBaseName(), file.absolutePath(), QString::number(cartella->getNumPages()),
              QString::number(bytes), megabytesText<double>(bytes), GUtils::paperFormatName(cartella->formato));
+}
+
+int printingResolution()
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    return printer.resolution();
 }

@@ -40,3 +40,6 @@ private:
     bool printPages(const PagePainter &painter, QPrinter &printer);
     QString successReport(qint64 bytes) const;
 };
+
+// Dots an inch in which printing lays out its pages.
+[[nodiscard]] int printingResolution();

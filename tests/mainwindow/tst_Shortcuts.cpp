@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every shortcut of every window, pressed; those of a message window are pressed in its own test.
+#include "mainwindow/PagePreview.h"
 #include "mainwindow/PageWindow.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
@@ -88,6 +89,7 @@ private slots:
     void ctrlPPrints();
     void ctrlBComparesBlocks();
     void ctrlCommaOpensTheOptions();
+    void ctrlShiftPOpensThePreview();
     void f1InformsAboutTheProgram();
     void ctrlQAsksToLeave();
 
@@ -106,9 +108,10 @@ void tst_Shortcuts::noWindowHasOthers()
     QStringList ofTheMainWindow = shortcutsOf(*editor.page.window);
     ofTheMainWindow.removeOne(QStringLiteral("Ctrl+O")); // commands that do nothing
     ofTheMainWindow.removeOne(QStringLiteral("Ctrl+S"));
-    QCOMPARE(ofTheMainWindow, (QStringList{QStringLiteral("Ctrl+,"), QStringLiteral("Ctrl+B"), QStringLiteral("Ctrl+N"),
-                                           QStringLiteral("Ctrl+P"), QStringLiteral("Ctrl+Q"),
-                                           QStringLiteral("Ctrl+Shift+N"), QStringLiteral("F1")}));
+    QCOMPARE(ofTheMainWindow,
+             (QStringList{QStringLiteral("Ctrl+,"), QStringLiteral("Ctrl+B"), QStringLiteral("Ctrl+N"),
+                          QStringLiteral("Ctrl+P"), QStringLiteral("Ctrl+Q"), QStringLiteral("Ctrl+Shift+N"),
+                          QStringLiteral("Ctrl+Shift+P"), QStringLiteral("F1")}));
     for (const bool fileMode : {false, true}) {
         QCOMPARE(shortcutsOf(MsgArea(nullptr, fileMode)),
                  (QStringList{QStringLiteral("Ctrl+Q"), QStringLiteral("Ctrl+S")}));
@@ -158,6 +161,15 @@ void tst_Shortcuts::ctrlCommaOpensTheOptions()
     const PageWindow page;
     pressCtrl(page.window.get(), Qt::Key_Comma);
     QVERIFY(qobject_cast<Options *>(QApplication::activeModalWidget()) != nullptr);
+    QCOMPARE(page.boxes.problems(), QStringList());
+}
+
+void tst_Shortcuts::ctrlShiftPOpensThePreview()
+{
+    const PageWindow page;
+    press(page.window.get(), Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    const auto *preview = page.window->findChild<PagePreview *>();
+    QVERIFY(preview != nullptr && preview->isVisible());
     QCOMPARE(page.boxes.problems(), QStringList());
 }
 

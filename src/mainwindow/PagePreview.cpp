@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/PagePreview.h"
+
+#include "generation/GUtils.h"
+#include "model/Cartella.h"
+#include "output/CreateOutputFile.h"
+#include "output/PageImage.h"
+#include "settings/Product.h"
+#include "ui_PagePreview.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+// The sheet itself. Its picture is made when it is first looked at, and kept until the page or the size changes.
+class Foglio final : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    // Null for no page.
+    void showPage(const Cartella *set, int page)
+    {
+        m_set = set;
+        m_page = page;
+        m_image = QImage();
+        update();
+    }
+
+    // Of the sheet of the set shown, in dots.
+    QSize naturalSize() const { return sheetSize(*m_set, m_resolution); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        if (m_set.isNull()) {
+            return;
+        }
+        const QSize pixels = size() * devicePixelRatioF();
+        if (m_image.size() != pixels) {
+            m_image = pageImage(*m_set, m_page, pixels, m_resolution);
+        }
+        QPainter(this).drawImage(rect(), m_image);
+    }
+
+private:
+    const int m_resolution = printingResolution();
+    QPointer<const Cartella> m_set;
+    int m_page = -1;
+    QImage m_image;
+};
+
+PagePreview::PagePreview(QWidget *parent)
+    : QDialog(parent)
+    , ui(std::make_unique<Ui::PagePreview>())
+{
+    ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    setWindowTitle(Product::titleFor(tr("Anteprima di stampa")));
+    m_sheet = new Foglio;
+    ui->foglio_scrollArea->setWidget(m_sheet);
+    connect(ui->precedente_button, &QPushButton::clicked, this, [this]() { wantPage(m_page - 1); });
+    connect(ui->successiva_button, &QPushButton::clicked, this, [this]() { wantPage(m_page + 1); });
+    connect(ui->zoom_comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PagePreview::fitSheet);
+}
+
+PagePreview::~PagePreview() = default;
+
+void PagePreview::showPage(const Cartella *set, int page)
+{
+    const bool exists = set != nullptr && page >= 0 && page < set->getNumPages();
+    m_set = exists ? set : nullptr;
+    m_page = exists ? page : -1;
+    m_sheet->showPage(m_set, m_page);
+    showTexts();
+    fitSheet();
+}
+
+void PagePreview::showTexts()
+{
+    const int pages = m_set.isNull() ? 0 : m_set->getNumPages();
+    ui->precedente_button->setEnabled(m_page > 0);
+    ui->successiva_button->setEnabled(m_page + 1 < pages);
+    ui->pagina_label->setText(
+        m_set.isNull()
+            ? tr("La cartella è vuota!")
+            : tr("Pagina %1 di %2, %3").arg(m_page + 1).arg(pages).arg(GUtils::paperFormatName(m_set->formato)));
+}
+
+// A page that the set does not have is not asked for.
+void PagePreview::wantPage(int page)
+{
+    if (!m_set.isNull() && page >= 0 && page < m_set->getNumPages()) {
+        emit pageWanted(page);
+    }
+}
+
+void PagePreview::fitSheet()
+{
+    m_sheet->setVisible(!m_set.isNull());
+    if (!m_set.isNull()) {
+        m_sheet->resize(sheetSizeNow());
+    }
+}
+
+QSize PagePreview::sheetSizeNow() const
+{
+    const QSize sheet = m_sheet->naturalSize();
+    const QScrollArea *area = ui->foglio_scrollArea;
+    const QSize room = area->maximumViewportSize();
+    switch (ui->zoom_comboBox->currentIndex()) {
+    case FitPage:
+        return sheet.scaled(room, Qt::KeepAspectRatio);
+    case FitWidth: {
+        const int width = room.width() - area->verticalScrollBar()->sizeHint().width();
+        return sheet.scaled(width, QWIDGETSIZE_MAX, Qt::KeepAspectRatio);
+    }
+    default:
+        return sheet;
+    }
+}
+
+void PagePreview::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        wantPage(m_page - 1);
+        break;
+    case Qt::Key_PageDown:
+        wantPage(m_page + 1);
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+    }
+}
+
+void PagePreview::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    fitSheet();
+}
+
+void PagePreview::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    fitSheet();
+}
