@@ -7,19 +7,6 @@
 #include <numeric>
 
 namespace {
-// 1-9, 10-19, ... and the last column one number longer.
-std::vector<ColumnRange> rangesByTens(int columns)
-{
-    constexpr int ten = 10;
-    std::vector<ColumnRange> ranges;
-    for (int c = 0; c < columns; ++c) {
-        ranges.push_back({ten * c, ten * c + ten - 1});
-    }
-    ranges.front().first = 1;
-    ranges.back().last = ten * columns;
-    return ranges;
-}
-
 // One drawing of all rows under repair.
 class LayoutAttempt final
 {
@@ -121,9 +108,26 @@ std::vector<int> shuffledIndices(int count)
 }
 } // namespace
 
+bool isClassic(int columns, int nMin, int nMax)
+{
+    return columns == 9 && nMin == 1 && nMax == 90;
+}
+
+std::vector<ColumnRange> rangesByTens(int columns)
+{
+    constexpr int ten = 10;
+    std::vector<ColumnRange> ranges;
+    for (int c = 0; c < columns; ++c) {
+        ranges.push_back({ten * c, ten * c + ten - 1});
+    }
+    ranges.front().first = 1;
+    ranges.back().last = ten * columns;
+    return ranges;
+}
+
 std::vector<ColumnRange> columnRanges(int columns, int nMin, int nMax)
 {
-    if (nMin == 1 && ((columns == 9 && nMax == 90) || (columns == 10 && nMax == 100))) {
+    if (isClassic(columns, nMin, nMax) || (columns == 10 && nMin == 1 && nMax == 100)) {
         return rangesByTens(columns);
     }
     const qint64 count = qint64(nMax) - nMin + 1;

@@ -15,8 +15,14 @@ struct ColumnRange
     qint64 capacity() const { return qint64(last) - first + 1; }
 };
 
-// Consecutive ranges of the columns of a classic page, at least one column. 1 to 90 over 9 columns and 1 to 100 over 10
-// go by tens; every other range is shared out evenly, and columns may then be empty.
+// Whether these are the nine columns of 1 to 90, which go by tens wherever columns have ranges.
+bool isClassic(int columns, int nMin, int nMax);
+
+// 1-9, 10-19, ... and the last column one number longer.
+std::vector<ColumnRange> rangesByTens(int columns);
+
+// Consecutive ranges of the columns of a classic page, at least one column. Classic columns and 1 to 100 over 10 go by
+// tens; every other range is shared out evenly, and columns may then be empty.
 std::vector<ColumnRange> columnRanges(int columns, int nMin, int nMax);
 
 // What a layout must keep to.

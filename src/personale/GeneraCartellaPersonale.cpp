@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "personale/GeneraCartellaPersonale.h"
 
+#include "generation/ColumnLayout.h"
 #include "generation/GUtils.h"
 #include "model/Positions.h"
 
@@ -43,17 +44,15 @@ void fillCell(Cella &cell, PersonaleChkBox &box, const QVector<unsigned> &number
     }
 }
 
-// 1-9, 10-19, ... 70-79, 80-90.
 std::optional<ImpossibleColumn> setClassicRanges(const QVector<int> &wanted, QVector<Range> &ranges)
 {
-    for (int column = 0; column < ranges.size(); ++column) {
-        const int first = column == 0 ? 1 : 10 * column;
-        const int last = column == ranges.size() - 1 ? 90 : 10 * column + 9;
-        ranges[column] = Range(first, last);
-        const int size = last - first + 1;
-        if (wanted[column] > size) {
-            return ImpossibleColumn{column, size};
+    int column = 0;
+    for (const ColumnRange &range : rangesByTens(ranges.size())) {
+        ranges[column] = Range(range.first, range.last);
+        if (wanted[column] > range.capacity()) {
+            return ImpossibleColumn{column, static_cast<int>(range.capacity())};
         }
+        ++column;
     }
     return std::nullopt;
 }
@@ -81,8 +80,8 @@ std::optional<ImpossibleColumn> setEqualRanges(const QVector<int> &wanted, int n
 
 std::optional<ImpossibleColumn> setRanges(const QVector<int> &wanted, int nmin, int nmax, QVector<Range> &ranges)
 {
-    const bool classic = ranges.size() == 9 && nmin == 1 && nmax == 90;
-    return classic ? setClassicRanges(wanted, ranges) : setEqualRanges(wanted, nmin, nmax, ranges);
+    return isClassic(ranges.size(), nmin, nmax) ? setClassicRanges(wanted, ranges)
+                                                : setEqualRanges(wanted, nmin, nmax, ranges);
 }
 
 // Past the last page of the run that starts at `first`: pages of the same size.

@@ -120,6 +120,7 @@ class tst_ColumnLayout final : public QObject
 private slots:
     void rangesOfTheColumns_data();
     void rangesOfTheColumns();
+    void onlyNineColumnsOfOneToNinetyAreClassic();
     void rangesCoverAllNumbersInOrder_data();
     void rangesCoverAllNumbersInOrder();
     void capacityCountsBothBounds();
@@ -165,6 +166,15 @@ void tst_ColumnLayout::rangesOfTheColumns()
     QFETCH(int, nMin);
     QFETCH(int, nMax);
     QTEST(boundsOf(columns, nMin, nMax), "bounds");
+}
+
+void tst_ColumnLayout::onlyNineColumnsOfOneToNinetyAreClassic()
+{
+    QVERIFY(isClassic(9, 1, 90));
+    QVERIFY(!isClassic(8, 1, 90));
+    QVERIFY(!isClassic(10, 1, 100));
+    QVERIFY(!isClassic(9, 0, 90));
+    QVERIFY(!isClassic(9, 1, 89));
 }
 
 void tst_ColumnLayout::rangesCoverAllNumbersInOrder_data()

@@ -418,6 +418,9 @@ void tst_GeneraCartellaPersonale::otherRangesAreSplitEvenly_data()
         << 1 << 89 << Ranges{{1, 10}, {11, 20}, {21, 30}, {31, 40}, {41, 50}, {51, 60}, {61, 70}, {71, 80}, {81, 89}};
     QTest::newRow("0 to 90 on 9, not classic")
         << 0 << 90 << Ranges{{0, 9}, {10, 19}, {20, 29}, {30, 39}, {40, 49}, {50, 59}, {60, 69}, {70, 79}, {80, 90}};
+    QTest::newRow("1 to 100 on 10, classic for the classic generator alone")
+        << 1 << 100
+        << Ranges{{1, 10}, {11, 20}, {21, 30}, {31, 40}, {41, 50}, {51, 60}, {61, 70}, {71, 80}, {81, 90}, {91, 100}};
     QTest::newRow("1 to 90 on 5") << 1 << 90 << Ranges{{1, 18}, {19, 36}, {37, 54}, {55, 72}, {73, 90}};
     QTest::newRow("half rounds up: 10 numbers on 4") << 1 << 10 << Ranges{{1, 3}, {4, 6}, {7, 9}, {10, 10}};
     QTest::newRow("one column") << 5 << 8 << Ranges{{5, 8}};
