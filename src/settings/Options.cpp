@@ -36,21 +36,21 @@ void Options::deleteConfig(bool exitAfter)
     }
 }
 
-bool Options::isRefused(const QString &question)
+bool Options::confirm(const QString &question)
 {
-    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::No;
+    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 void Options::on_butt_azzeraesci_clicked()
 {
-    if (!isRefused(tr("Proseguire con la cancellazionede del file di configurazione e l'uscita dal programma?"))) {
+    if (confirm(tr("Proseguire con la cancellazionede del file di configurazione e l'uscita dal programma?"))) {
         deleteConfig(true);
     }
 }
 
 void Options::on_butt_azzeracontinua_clicked()
 {
-    if (!isRefused(tr("Proseguire con la cancellazionede del file di configurazione?"))) {
+    if (confirm(tr("Proseguire con la cancellazionede del file di configurazione?"))) {
         deleteConfig(false);
     }
 }

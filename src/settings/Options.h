@@ -32,8 +32,8 @@ private slots:
     void on_butt_formatselection_clicked();
 
 private:
-    // Asks with Yes and No; whether the answer was No.
-    bool isRefused(const QString &question);
+    // Asks with Yes and No; whether the answer was Yes.
+    bool confirm(const QString &question);
 
     std::unique_ptr<Ui::Options> ui;
     QPointer<QWidget> m_window;
