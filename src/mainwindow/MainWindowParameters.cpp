@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
+#include "model/Types.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
 #include "ui_MainWindow.h"
 
 namespace {
-constexpr int highestNumber = 999999;
 constexpr int advisedDrawn = 5;
 } // namespace
 

@@ -3,6 +3,7 @@
 
 #include "generation/GUtils.h"
 #include "model/Positions.h"
+#include "model/Types.h"
 
 #include <QBrush>
 #include <QSignalBlocker>
@@ -12,9 +13,6 @@
 #include <algorithm>
 
 namespace {
-// The longest entry that is still a number is as long as this one.
-constexpr unsigned longestNumber = 999999;
-
 QTableWidgetItem fillerItem()
 {
     QTableWidgetItem filler(QStringLiteral("X"));
@@ -84,7 +82,7 @@ QString cellText(const Cella &cell, const QString &emptyText)
 std::optional<quint32> typedNumber(const QString &text)
 {
     const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
-    if (text.isEmpty() || text.size() > GUtils::numCifre(longestNumber) ||
+    if (text.isEmpty() || text.size() > GUtils::numCifre(highestNumber) ||
         !std::all_of(text.cbegin(), text.cend(), isDigit)) {
         return std::nullopt;
     }

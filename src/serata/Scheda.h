@@ -11,7 +11,7 @@
 // What an evening knows of the cards: their numbers, texts and where a picture is, not how they look.
 
 // The highest number that a card can hold.
-constexpr quint32 numeroPiuAlto = 999999;
+constexpr quint32 numeroPiuAlto = highestNumber;
 
 struct Casella
 {
