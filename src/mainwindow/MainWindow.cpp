@@ -67,7 +67,6 @@ void MainWindow::setupParameters()
 void MainWindow::setupPageView()
 {
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
-    ui->buttSelezionaImmagine->setEnabled(false);
     ui->pagina_corrente_spinBox->setValue(0);
     m_currentFont = defaultCellFont();
 

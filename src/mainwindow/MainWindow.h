@@ -3,6 +3,7 @@
 
 #include "mainwindow/CellStyling.h"
 #include "mainwindow/ParameterRules.h"
+#include "mainwindow/Selezione.h"
 #include "model/Cartella.h"
 
 #include <QElapsedTimer>
@@ -149,11 +150,12 @@ private:
     // The page table.
     QTableWidget *replaceTable();
     Pagina *shownPage() const;
+    QVector<TablePosition> selectedPositions() const;
+    Selezione selection() const;
+    void showSelection(const Selezione &selection);
     void resetSelectionPanels(int blocks);
-    void describeNoSelection();
-    void describeItem(const QTableWidgetItem *item);
-    void describeItems(const QList<QTableWidgetItem *> &items);
-    void enableBlockColours(bool enabled);
+    void disableLineWidths();
+    void showFontOf(const Selezione &selection);
     void showFont(const QFont &font);
     void showFontText(const QString &text);
 
@@ -164,7 +166,6 @@ private:
 
     // Styling.
     QVector<Pagina *> pagesInRange() const;
-    QVector<TablePosition> selectedPositions() const;
     bool require(bool condition, const QString &refusal);
     bool requirePages();
     bool requireSelection();

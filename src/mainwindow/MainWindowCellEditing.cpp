@@ -150,18 +150,16 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
 // The one selected cell, an image cell; null, and a warning logged, when the selection is anything else.
 Cella *MainWindow::selectedImageCell() const
 {
-    const QVector<TablePosition> selected = selectedPositions();
-    if (selected.size() != 1) {
+    const Selezione selected = selection();
+    if (selected.places != 1) {
         qWarning("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE ONLY ONE ITEM SELECTED!!!");
         return nullptr;
     }
-    Pagina *page = shownPage();
-    Cella *cell = page != nullptr ? cellAt(*page, selected.first().row, selected.first().column) : nullptr;
-    if (cell == nullptr || cell->tipo != CELL_IMMAGINE) {
+    if (selected.cell == nullptr || selected.cell->tipo != CELL_IMMAGINE) {
         qWarning("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE A CELL-IMAGE TYPE!!!");
         return nullptr;
     }
-    return cell;
+    return selected.cell;
 }
 
 // An unreadable picture is asked about without one.

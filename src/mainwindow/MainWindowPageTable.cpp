@@ -11,8 +11,6 @@
 #include <QMessageBox>
 #include <QTableWidget>
 
-#include <algorithm>
-
 namespace {
 void setUpHeaders(QTableWidget *table)
 {
@@ -35,6 +33,38 @@ void setPageColour(QTableWidget *table, const QColor &background)
     palette.setColor(QPalette::Base, background);
     palette.setColor(QPalette::Text, readableOn(background));
     table->setPalette(palette);
+}
+
+QString cellLabel(const Selezione &selection)
+{
+    switch (selection.kind) {
+    case Selezione::Nothing:
+        return MainWindow::tr("Nessuna selezione");
+    case Selezione::OneCell:
+        return MainWindow::tr("Cella selezionata");
+    case Selezione::Filler:
+        return MainWindow::tr("Cella mancante");
+    case Selezione::Several:
+        break;
+    }
+    return MainWindow::tr("Selezione multipla");
+}
+
+QString blockLabel(const Selezione &selection)
+{
+    if (selection.kind == Selezione::Nothing) {
+        return MainWindow::tr("Nessuna selezione");
+    }
+    return selection.block >= 0 ? MainWindow::tr("Blocco selezionato") : MainWindow::tr("Selezione multipla");
+}
+
+// The type of a single cell, the number of several.
+QString typeText(const Selezione &selection, const Cartella &cartella)
+{
+    if (selection.cell != nullptr) {
+        return QStringLiteral("(%1)").arg(cartella.cellType2String(selection.cell->tipo));
+    }
+    return selection.kind == Selezione::Several ? QStringLiteral("(%1)").arg(selection.places) : QString();
 }
 } // namespace
 
@@ -130,110 +160,74 @@ void MainWindow::on_pagina_elimina_clicked()
     updateStatusBar(tr("Pagina eliminata correttamente."));
 }
 
+QVector<TablePosition> MainWindow::selectedPositions() const
+{
+    const QList<QTableWidgetItem *> items = m_table->selectedItems();
+    QVector<TablePosition> positions;
+    positions.reserve(items.size());
+    for (const QTableWidgetItem *item : items) {
+        positions.append({item->row(), item->column()});
+    }
+    return positions;
+}
+
+Selezione MainWindow::selection() const
+{
+    Pagina *page = shownPage();
+    return page != nullptr ? selectionOf(*page, selectedPositions()) : Selezione();
+}
+
 void MainWindow::tableItemSelectionChanged()
 {
-    ui->buttSelezionaImmagine->setEnabled(false);
-    const QList<QTableWidgetItem *> items = m_table->selectedItems();
-    if (items.isEmpty()) {
-        describeNoSelection();
-        return;
-    }
-    ui->dimlineaext_spin->setEnabled(false);
-    ui->dimlineaint_spin->setEnabled(false);
-    ui->seleziona_font_button->setEnabled(true);
-    if (items.size() == 1) {
-        describeItem(items.first());
-    } else {
-        describeItems(items);
-    }
+    showSelection(selection());
 }
 
 // For a table just loaded, of a page with this many blocks.
 void MainWindow::resetSelectionPanels(int blocks)
 {
     ui->blocco_totn->display(blocks);
-    ui->buttSelezionaImmagine->setEnabled(false);
-    describeNoSelection();
+    showSelection(Selezione());
     ui->seleziona_font_button->setEnabled(false);
     showFontText(QString());
+    disableLineWidths();
+}
+
+// Without a selection, the switches that reach all cells or blocks keep what they enabled.
+void MainWindow::showSelection(const Selezione &selection)
+{
+    const bool nothing = selection.kind == Selezione::Nothing;
+    ui->cella_riga->display(selection.row + 1);
+    ui->cella_colonna->display(selection.column + 1);
+    ui->cella_label->setText(cellLabel(selection));
+    ui->cella_type->setText(typeText(selection, *m_cartella));
+    ui->buttSelezionaImmagine->setEnabled(selection.cell != nullptr && selection.cell->tipo == CELL_IMMAGINE);
+    ui->blocco_n->display(selection.block + 1);
+    ui->blocco_label->setText(blockLabel(selection));
+    for (QWidget *button : {ui->colorabloccolineaesterna, ui->colorabloccolineainterna, ui->colorabloccosfondo}) {
+        button->setEnabled(nothing || selection.block >= 0);
+    }
+    if (!nothing || !ui->applica_tutte_celle->isChecked()) {
+        ui->seleziona_font_button->setEnabled(!nothing);
+        showFontOf(selection);
+    }
+    if (!nothing || !ui->applica_tutti_blocchi_checkBox->isChecked()) {
+        disableLineWidths();
+    }
+}
+
+void MainWindow::disableLineWidths()
+{
     ui->dimlineaext_spin->setEnabled(false);
     ui->dimlineaint_spin->setEnabled(false);
 }
 
-void MainWindow::describeNoSelection()
+void MainWindow::showFontOf(const Selezione &selection)
 {
-    ui->cella_riga->display(0);
-    ui->cella_colonna->display(0);
-    ui->cella_label->setText(tr("Nessuna selezione"));
-    ui->cella_type->clear();
-    ui->blocco_label->setText(tr("Nessuna selezione"));
-    ui->blocco_n->display(0);
-    enableBlockColours(true);
-    if (!ui->applica_tutte_celle->isChecked()) {
-        ui->seleziona_font_button->setEnabled(false);
-        showFontText(QString());
+    if (selection.cell != nullptr) {
+        showFont(selection.cell->font);
+    } else {
+        showFontText(selection.kind == Selezione::Several ? tr("Selezione multipla") : QString());
     }
-    if (!ui->applica_tutti_blocchi_checkBox->isChecked()) {
-        ui->dimlineaext_spin->setEnabled(false);
-        ui->dimlineaint_spin->setEnabled(false);
-    }
-}
-
-void MainWindow::describeItem(const QTableWidgetItem *item)
-{
-    const int page = ui->pagina_corrente_spinBox->value() - 1;
-    U8 block = 0;
-    U8 row = 0;
-    if (shownPage() == nullptr ||
-        m_cartella->fromPage_Abs2Rel_BlockNum(static_cast<U16>(page), item->row(), block, row) < 0) {
-        return;
-    }
-    ui->cella_riga->display(row + 1);
-    ui->cella_colonna->display(item->column() + 1);
-    ui->blocco_n->display(block + 1);
-    ui->blocco_label->setText(tr("Blocco selezionato"));
-    enableBlockColours(true);
-
-    const Cella *cell = cellAt(*shownPage(), item->row(), item->column());
-    if (cell == nullptr) { // a filler
-        ui->cella_label->setText(tr("Cella mancante"));
-        ui->cella_type->clear();
-        showFontText(QString());
-        return;
-    }
-    ui->cella_label->setText(tr("Cella selezionata"));
-    ui->cella_type->setText(QStringLiteral("(%1)").arg(m_cartella->cellType2String(cell->tipo)));
-    showFont(cell->font);
-    ui->buttSelezionaImmagine->setEnabled(cell->tipo == CELL_IMMAGINE);
-}
-
-void MainWindow::describeItems(const QList<QTableWidgetItem *> &items)
-{
-    ui->cella_riga->display(0);
-    ui->cella_colonna->display(0);
-    ui->cella_label->setText(tr("Selezione multipla"));
-    showFontText(tr("Selezione multipla"));
-    ui->cella_type->setText(QStringLiteral("(%1)").arg(items.size()));
-
-    const Pagina *page = shownPage();
-    const auto first = page != nullptr ? rowPosition(*page, items.first()->row()) : std::nullopt;
-    if (!first) {
-        return;
-    }
-    const int end = first->firstRow + page->blocchi[static_cast<size_t>(first->block)].nRighe;
-    const bool oneBlock = std::all_of(items.cbegin(), items.cend(), [&](const QTableWidgetItem *item) {
-        return item->row() >= first->firstRow && item->row() < end;
-    });
-    ui->blocco_n->display(oneBlock ? first->block + 1 : 0);
-    ui->blocco_label->setText(oneBlock ? tr("Blocco selezionato") : tr("Selezione multipla"));
-    enableBlockColours(oneBlock);
-}
-
-void MainWindow::enableBlockColours(bool enabled)
-{
-    ui->colorabloccolineaesterna->setEnabled(enabled);
-    ui->colorabloccolineainterna->setEnabled(enabled);
-    ui->colorabloccosfondo->setEnabled(enabled);
 }
 
 // Names a font, drawn in itself. The label's height is limited: its tool tip tells what a very large font hides.

@@ -33,17 +33,6 @@ QVector<Pagina *> MainWindow::pagesInRange() const
                         ui->applica_tutte_pagine_checkBox->isChecked());
 }
 
-QVector<TablePosition> MainWindow::selectedPositions() const
-{
-    const QList<QTableWidgetItem *> items = m_table->selectedItems();
-    QVector<TablePosition> positions;
-    positions.reserve(items.size());
-    for (const QTableWidgetItem *item : items) {
-        positions.append({item->row(), item->column()});
-    }
-    return positions;
-}
-
 // Whether a command has what it needs; the user is told when it has not.
 bool MainWindow::require(bool condition, const QString &refusal)
 {
@@ -60,13 +49,13 @@ bool MainWindow::requirePages()
 
 bool MainWindow::requireSelection()
 {
-    return requirePages() && require(!m_table->selectedItems().isEmpty(), tr("Nessun elemento selezionato!"));
+    return requirePages() && require(selection().kind != Selezione::Nothing, tr("Nessun elemento selezionato!"));
 }
 
 bool MainWindow::requireBlock()
 {
     const bool allBlocks = ui->applica_tutti_blocchi_checkBox->isChecked();
-    return requirePages() && require(allBlocks || ui->blocco_n->intValue() > 0, tr("Nessun elemento selezionato!"));
+    return requirePages() && require(allBlocks || selection().block >= 0, tr("Nessun elemento selezionato!"));
 }
 
 // The next choice of colour reaches this slot and no other, whichever command opened the picker before.
@@ -128,8 +117,7 @@ void MainWindow::coloraBloccoSfondo(QColor color)
         return;
     }
     recolour([this, color]() {
-        colourBlocks(pagesInRange(), ui->blocco_n->intValue() - 1, ui->applica_tutti_blocchi_checkBox->isChecked(),
-                     color);
+        colourBlocks(pagesInRange(), selection().block, ui->applica_tutti_blocchi_checkBox->isChecked(), color);
     });
     updateStatusBar(tr("Modifica colore sfondo blocchi applicata."));
 }
@@ -246,9 +234,8 @@ void MainWindow::on_applica_tutte_celle_clicked(bool checked)
 
 void MainWindow::on_applica_tutti_blocchi_checkBox_clicked(bool checked)
 {
-    if (checked || ui->blocco_n->intValue() == 0) {
-        ui->dimlineaext_spin->setEnabled(false);
-        ui->dimlineaint_spin->setEnabled(false);
+    if (checked || selection().block < 0) {
+        disableLineWidths();
     }
 }
 
