@@ -100,6 +100,7 @@ void MainWindow::setupSidePanes()
 
 void MainWindow::replaceCardSet(std::unique_ptr<Cartella> cartella)
 {
+    m_watchedPages.forgetAll();
     m_cartella = std::move(cartella);
     connect(m_cartella.get(), &Cartella::checkForEqualBlocksStatus, this, &MainWindow::updateStatusBar);
     updatePreview();

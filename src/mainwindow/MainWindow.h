@@ -4,6 +4,7 @@
 #include "mainwindow/CellStyling.h"
 #include "mainwindow/ParameterRules.h"
 #include "mainwindow/Selezione.h"
+#include "mainwindow/WatchedPages.h"
 #include "model/Cartella.h"
 
 #include <QElapsedTimer>
@@ -160,8 +161,9 @@ private:
     void showFontText(const QString &text);
 
     // Cell editing.
-    void setTypedText(Cella *cell, const QString &text);
-    Cella *selectedImageCell() const;
+    Cella askWhatIsTyped(const QString &text);
+    void showContent(const TablePosition &place, bool asTyped);
+    const Cella *selectedImageCell() const;
     bool confirmImage(const QString &question, const QImage &image);
 
     // Styling.
@@ -183,12 +185,13 @@ private:
     std::unique_ptr<GeneraCartellaClassica> m_generatore;
     quint64 m_cellsInMemory = 0; // deleting pages does not lower it
     std::unique_ptr<Cartella> m_cartella;
+    WatchedPages m_watchedPages;
     QTableWidget *m_table = nullptr;       // child of the central widget, rebuilt for every page
     QTableWidget *m_tableAsking = nullptr; // the one whose item the user is being asked about
     QColorDialog *m_colorDialog = nullptr; // child, shared by all colour commands
     QFont m_currentFont;
     QPointer<MsgArea> m_about;
-    QPointer<PagePreview> m_preview; // deletes itself when closed
+    QPointer<PagePreview> m_preview;  // deletes itself when closed
     QPointer<EditPersonale> m_editor; // deletes itself when closed
     int m_pageShown = 0;              // 1-based, 0 for none
     int m_pagesBeforeEditor = 0;      // page count when the editor was opened

@@ -53,6 +53,25 @@ private:
     QPointer<QWidget> m_pressed; // took the focus by the press
     QPoint m_position;           // on the screen
 };
+
+// What a cell shows; its look stays.
+void setContent(Cella &cell, const Cella &content)
+{
+    cell.tipo = content.tipo;
+    switch (content.tipo) {
+    case CELL_NUMERO:
+        cell.numero = content.numero;
+        break;
+    case CELL_TESTO:
+        cell.testo = content.testo;
+        break;
+    case CELL_IMMAGINE:
+        cell.immagine = content.immagine;
+        break;
+    case CELL_VUOTA:
+        break;
+    }
+}
 } // namespace
 
 void MainWindow::tableItemChanged(QTableWidgetItem *item)
@@ -70,66 +89,87 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
         QMessageBox::warning(this, title, tr("Problema durante la modifica del valore nella tabella."));
         return;
     }
-    Cella *cell = cellAt(*page, item->row(), item->column());
-    if (cell == nullptr) { // a filler
+    const TablePosition place{item->row(), item->column()};
+    const Cella *edited = cellAt(*page, place.row, place.column);
+    if (edited == nullptr) { // a filler
         return;
     }
 
+    // The questions run loops of their own: afterwards the page may be gone, or be shown by another table.
+    const CELL_VALUE before = edited->tipo;
+    const QString text = item->text();
+    const WatchedPages::Hold asked(m_watchedPages, page);
     QTableWidget *const table = m_table;
-    const CELL_VALUE before = cell->tipo;
+    Cella typed;
     {
         const LostMouseRelease release;
         const QScopedValueRollback<QTableWidget *> asking(m_tableAsking, table);
-        setTypedText(cell, item->text());
+        typed = askWhatIsTyped(text);
     }
-    updatePreview();
-    if (m_table != table) { // the page was loaded anew meanwhile: the item's table is not shown any more
+    if (m_table != table) {
         table->deleteLater();
+    }
+    Cella *cell = asked.page() != nullptr ? cellAt(*asked.page(), place.row, place.column) : nullptr;
+    if (cell == nullptr) {
         return;
     }
-    if (cell->tipo != before || item->text().isEmpty()) {
+    setContent(*cell, typed);
+    if (asked.page() == shownPage()) {
+        showContent(place, m_table == table && cell->tipo == before && !text.isEmpty());
+    }
+    updatePreview();
+}
+
+// Of the page shown. An item that is right as it was typed keeps that.
+void MainWindow::showContent(const TablePosition &place, bool asTyped)
+{
+    QTableWidgetItem *item = m_table->item(place.row, place.column);
+    if (!asTyped) {
         const QScopedValueRollback<bool> guard(m_editGuard, true);
-        item->setText(cellText(*cell, DefaultCell::text()));
+        item->setText(cellText(*cellAt(*shownPage(), place.row, place.column), DefaultCell::text()));
     }
     if (item->isSelected()) {
         tableItemSelectionChanged();
     }
 }
 
-// A number is taken at once; of anything else the user says what it is to be.
-void MainWindow::setTypedText(Cella *cell, const QString &text)
+// A number is taken at once; of anything else the user says what it is to be. Only the content of the result counts.
+Cella MainWindow::askWhatIsTyped(const QString &text)
 {
+    Cella typed;
     if (const std::optional<quint32> number = typedNumber(text)) {
-        cell->tipo = CELL_NUMERO;
-        cell->numero = *number;
-        return;
+        typed.tipo = CELL_NUMERO;
+        typed.numero = *number;
+        return typed;
     }
     const QString title = Product::titleFor(tr("Modifica valori"));
     if (QMessageBox::question(this, title, tr("Vuoi impostare il valore come STRINGA?")) == QMessageBox::Yes) {
-        cell->tipo = CELL_TESTO;
-        cell->testo = text;
-        return;
+        typed.tipo = CELL_TESTO;
+        typed.testo = text;
+        return typed;
     }
     if (QMessageBox::question(this, title, tr("Vuoi impostare il valore come CELLA VUOTA?")) == QMessageBox::Yes) {
-        cell->tipo = CELL_VUOTA;
-        return;
+        return typed;
     }
     QMessageBox::information(this, title,
                              tr("Cella impostata come IMMAGINE.\nIl percorso dell'immagine deve essere scelto tramite "
                                 "il pannello a lato."));
-    cell->tipo = CELL_IMMAGINE;
-    cell->immagine = DefaultCell::image();
+    typed.tipo = CELL_IMMAGINE;
+    typed.immagine = DefaultCell::image();
+    return typed;
 }
 
 void MainWindow::on_buttSelezionaImmagine_clicked()
 {
-    Cella *cell = selectedImageCell();
-    if (cell == nullptr) {
+    const Cella *selected = selectedImageCell();
+    if (selected == nullptr) {
         return;
     }
-    if (!cell->immagine.isNull() &&
-        !confirmImage(tr("L'immagine per la cella selezionata è quella visibile. La si vuole Cambiare?"),
-                      cell->immagine)) {
+    const WatchedPages::Hold asked(m_watchedPages, shownPage());
+    const TablePosition place = selectedPositions().first();
+    const QImage present = selected->immagine;
+    if (!present.isNull() &&
+        !confirmImage(tr("L'immagine per la cella selezionata è quella visibile. La si vuole Cambiare?"), present)) {
         return;
     }
     const QString path = QFileDialog::getOpenFileName(
@@ -140,7 +180,12 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
         return;
     }
     const QImage image = loadCellImage(path);
-    if (confirmImage(tr("L'immagine per la cella selezionata è quella visisbile. Proseguire?"), image)) {
+    if (!confirmImage(tr("L'immagine per la cella selezionata è quella visisbile. Proseguire?"), image)) {
+        return;
+    }
+    // The boxes ran loops of their own: the page may be gone, the cell hold something else.
+    Cella *cell = asked.page() != nullptr ? cellAt(*asked.page(), place.row, place.column) : nullptr;
+    if (cell != nullptr && cell->tipo == CELL_IMMAGINE) {
         cell->immagine = image;
         updatePreview();
         updateStatusBar(tr("Immagine impostata correttamente."));
@@ -148,7 +193,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
 }
 
 // The one selected cell, an image cell; null, and a warning logged, when the selection is anything else.
-Cella *MainWindow::selectedImageCell() const
+const Cella *MainWindow::selectedImageCell() const
 {
     const Selezione selected = selection();
     if (selected.places != 1) {

@@ -140,6 +140,7 @@ void MainWindow::on_pagina_elimina_clicked()
         return;
     }
     const int value = ui->pagina_corrente_spinBox->value();
+    m_watchedPages.forget(shownPage());
     if (value < 1 || !m_cartella->deletePage(static_cast<U16>(value - 1))) {
         QMessageBox::warning(this, boxTitle(), tr("Problema nell'eliminazione della pagina!\nPagina non eliminata."));
         return;

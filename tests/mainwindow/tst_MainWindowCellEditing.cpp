@@ -99,6 +99,14 @@ private slots:
     void aFillerIsNoCell();
     void theGuardIsDownAfterEveryEdit();
     void aPageLoadedDuringAQuestionIsSafe();
+    void aPageLoadedDuringAQuestionShowsTheEdit();
+    void aPageDeletedDuringAQuestionIsNotWritten_data();
+    void aPageDeletedDuringAQuestionIsNotWritten();
+    void aSetReplacedDuringAQuestionIsNotWritten();
+    void anotherPageDeletedDuringAQuestionKeepsTheEdit();
+    void coloursGivenDuringAQuestionStay();
+    void aPageDeletedDuringTheChoiceOfAPictureIsNotWritten();
+    void aCellThatIsNoPictureAnyMoreGetsNone();
     void aClickThatEndsTheEditingStepsOnePage();
     void aClickThatEndsTheEditingPressesAButton();
 
@@ -330,6 +338,105 @@ void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionIsSafe()
     w.type(0, 0, QStringLiteral("5"));
     QCOMPARE(w.cell(0, 0, 0).numero, 5U);
     QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionShowsTheEdit()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [&w](QMessageBox *) { w.window->loadPagina(0); });
+    w.type(0, 0, QStringLiteral("ciao"));
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("ciao"));
+}
+
+void tst_MainWindowCellEditing::aPageDeletedDuringAQuestionIsNotWritten_data()
+{
+    QTest::addColumn<bool>("text");
+    QTest::addColumn<bool>("empty");
+    QTest::newRow("text") << true << false;
+    QTest::newRow("empty") << false << true;
+    QTest::newRow("picture") << false << false;
+}
+
+void tst_MainWindowCellEditing::aPageDeletedDuringAQuestionIsNotWritten()
+{
+    QFETCH(const bool, text);
+    QFETCH(const bool, empty);
+    PageWindow w;
+    w.showPages(2, {1, 1, 2});
+    w.boxes.expectBox(title, asText, text ? QMessageBox::Yes : QMessageBox::No,
+                      [&w](QMessageBox *) { w.find<QPushButton>("pagina_elimina")->click(); });
+    if (!text) {
+        w.boxes.expectBox(title, asEmpty, empty ? QMessageBox::Yes : QMessageBox::No);
+        if (!empty) {
+            w.boxes.expectBox(title, asImage, QMessageBox::Ok);
+        }
+    }
+    w.type(0, 0, QStringLiteral("abc"));
+    QCOMPARE(w.set()->getNumPages(), 1);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.item(0, 0)->text(), QString());
+}
+
+void tst_MainWindowCellEditing::aSetReplacedDuringAQuestionIsNotWritten()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [&w](QMessageBox *) { QVERIFY(w.window->generate(false)); });
+    w.type(0, 0, QStringLiteral("abc"));
+    QCOMPARE(w.set()->getNumPages(), 1);
+    QVERIFY(w.cell(0, 0, 0).tipo != CELL_TESTO);
+    QCOMPARE(w.cell(0, 0, 0).testo, QString());
+}
+
+void tst_MainWindowCellEditing::anotherPageDeletedDuringAQuestionKeepsTheEdit()
+{
+    PageWindow w;
+    w.showPages(3, {1, 1, 2});
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [&w](QMessageBox *) {
+        w.pageNumber()->setValue(3);
+        w.find<QPushButton>("pagina_elimina")->click();
+    });
+    w.type(0, 0, QStringLiteral("abc"));
+    QCOMPARE(w.set()->getNumPages(), 2);
+    QCOMPARE(w.cell(0, 0, 0).testo, QStringLiteral("abc"));
+    QCOMPARE(w.cell(1, 0, 0).testo, QString());
+}
+
+void tst_MainWindowCellEditing::coloursGivenDuringAQuestionStay()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [&w](QMessageBox *) { w.cell(0, 0, 0).coloreSfondo = Qt::red; });
+    w.type(0, 0, QStringLiteral("abc"));
+    QCOMPARE(w.cell(0, 0, 0).testo, QStringLiteral("abc"));
+    QCOMPARE(w.cell(0, 0, 0).coloreSfondo, QColor(Qt::red));
+}
+
+void tst_MainWindowCellEditing::aPageDeletedDuringTheChoiceOfAPictureIsNotWritten()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 2});
+    w.cell(0, 0, 0).tipo = CELL_IMMAGINE;
+    w.window->loadPagina(0);
+    w.select(0, 0);
+    w.boxes.expectFileDialog(openCaption, QDir::currentPath() + QStringLiteral("/default.png"),
+                             [&w](QWidget *) { w.find<QPushButton>("pagina_elimina")->click(); });
+    w.boxes.expectBox(title, imageBox, QMessageBox::Yes);
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.set()->getNumPages(), 1);
+    QVERIFY(w.cell(0, 0, 0).immagine.isNull());
+}
+
+void tst_MainWindowCellEditing::aCellThatIsNoPictureAnyMoreGetsNone()
+{
+    PageWindow w;
+    showImageCell(w);
+    w.boxes.expectFileDialog(openCaption, QDir::currentPath() + QStringLiteral("/default.png"),
+                             [&w](QWidget *) { w.cell(0, 0, 0).tipo = CELL_NUMERO; });
+    w.boxes.expectBox(title, imageBox, QMessageBox::Yes);
+    w.press("buttSelezionaImmagine");
+    QVERIFY(w.cell(0, 0, 0).immagine.isNull());
 }
 
 void tst_MainWindowCellEditing::aClickThatEndsTheEditingStepsOnePage()
