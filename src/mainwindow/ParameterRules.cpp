@@ -1,41 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/ParameterRules.h"
 
+#include <QCoreApplication>
+
+namespace ParameterRules {
+namespace {
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ParameterRules)
+};
+
 // The problem of one page's layout; null when there is none.
-QString ParameterRules::cardLayoutProblem(const CardParameters &p)
+QString cardLayoutProblem(const CardParameters &p)
 {
     const qint64 filled = qint64{p.blocks} * p.rows * p.drawn;
     const qint64 numbers = qint64{p.maximum} - p.minimum + 1;
     const int special = p.jolly + p.scritte;
 
     if (filled > numbers) {
-        return tr("Non posso creare %1 celle piene con solo %2 numeri.").arg(filled).arg(numbers);
+        return Text::tr("Non posso creare %1 celle piene con solo %2 numeri.").arg(filled).arg(numbers);
     }
     if (p.jolly > p.columns) {
-        return tr("Non posso inserire %1 jolly in sole %2 colonne.").arg(p.jolly).arg(p.columns);
+        return Text::tr("Non posso inserire %1 jolly in sole %2 colonne.").arg(p.jolly).arg(p.columns);
     }
     if (p.scritte > p.columns) {
-        return tr("Non posso inserire %1 scritte in sole %2 colonne.").arg(p.scritte).arg(p.columns);
+        return Text::tr("Non posso inserire %1 scritte in sole %2 colonne.").arg(p.scritte).arg(p.columns);
     }
     if (special > p.columns) {
-        return tr("Non posso inserire %1 scritte e immagini in sole %2 colonne.").arg(special).arg(p.columns);
+        return Text::tr("Non posso inserire %1 scritte e immagini in sole %2 colonne.").arg(special).arg(p.columns);
     }
     if (p.jolly > p.drawn) {
-        return tr("Non posso inserire %1 jolly con sole %2 estrazioni.").arg(p.jolly).arg(p.drawn);
+        return Text::tr("Non posso inserire %1 jolly con sole %2 estrazioni.").arg(p.jolly).arg(p.drawn);
     }
     if (p.scritte > p.drawn) {
-        return tr("Non posso inserire %1 scritte con sole %2 estrazioni.").arg(p.scritte).arg(p.drawn);
+        return Text::tr("Non posso inserire %1 scritte con sole %2 estrazioni.").arg(p.scritte).arg(p.drawn);
     }
     if (special > p.drawn) {
-        return tr("Non posso inserire %1 scritte e immagini con sole %2 estrazioni.").arg(special).arg(p.drawn);
+        return Text::tr("Non posso inserire %1 scritte e immagini con sole %2 estrazioni.").arg(special).arg(p.drawn);
     }
     if (p.drawn > p.columns) {
-        return tr("Non posso inserire %1 numeri in sole %2 colonne.").arg(p.drawn).arg(p.columns);
+        return Text::tr("Non posso inserire %1 numeri in sole %2 colonne.").arg(p.drawn).arg(p.columns);
     }
     return QString();
 }
+} // namespace
 
-ParameterRules::Result ParameterRules::check(const CardParameters &parameters, const CardSetSize &present)
+Result check(const CardParameters &parameters, const CardSetSize &present)
 {
     if (!parameters.manual) {
         const QString problem = cardLayoutProblem(parameters);
@@ -45,16 +55,17 @@ ParameterRules::Result ParameterRules::check(const CardParameters &parameters, c
     }
     const int pages = present.pagesToKeep + parameters.pages;
     if (pages > maxPages) {
-        return {Verdict::Error,
-                tr("Le pagine totali richieste (%1)\neccedono il massimo consentito (%2).").arg(pages).arg(maxPages)};
+        return {
+            Verdict::Error,
+            Text::tr("Le pagine totali richieste (%1)\neccedono il massimo consentito (%2).").arg(pages).arg(maxPages)};
     }
     const quint64 requested = cellsRequested(parameters);
     if (present.cellsInMemory + requested > maxCells) {
-        return {Verdict::Warning, tr("Si sconsiglia di proseguire per le seguenti ragioni:\n"
-                                     "%1 -> caselle totali richieste.\n"
-                                     "%2 -> caselle totali in memoria.\n"
-                                     "%3 -> caselle massime gestibili.\n"
-                                     "(eventuale crash del programma)")
+        return {Verdict::Warning, Text::tr("Si sconsiglia di proseguire per le seguenti ragioni:\n"
+                                           "%1 -> caselle totali richieste.\n"
+                                           "%2 -> caselle totali in memoria.\n"
+                                           "%3 -> caselle massime gestibili.\n"
+                                           "(eventuale crash del programma)")
                                       .arg(requested)
                                       .arg(present.cellsInMemory)
                                       .arg(maxCells)};
@@ -62,7 +73,9 @@ ParameterRules::Result ParameterRules::check(const CardParameters &parameters, c
     return {Verdict::Correct, QString()};
 }
 
-quint64 ParameterRules::cellsRequested(const CardParameters &p)
+quint64 cellsRequested(const CardParameters &p)
 {
     return static_cast<quint64>(qint64{p.pages} * p.blocks * p.rows * p.columns);
 }
+
+} // namespace ParameterRules

@@ -3,7 +3,6 @@
 
 #include "model/Types.h"
 
-#include <QCoreApplication>
 #include <QString>
 
 // The parameters of a classic card set, as the user set them.
@@ -29,25 +28,20 @@ struct CardSetSize
 };
 
 // The rules that parameters must keep before pages are made of them.
-class ParameterRules final
+namespace ParameterRules {
+
+struct Result
 {
-    Q_DECLARE_TR_FUNCTIONS(ParameterRules)
-
-public:
-    struct Result
-    {
-        Verdict verdict = Verdict::Correct;
-        QString message; // of an error or a warning, translated
-    };
-
-    static constexpr int maxPages = 65535;        // of a card set
-    static constexpr quint64 maxCells = 10000000; // above it the user is warned
-
-    // The first rule that is broken decides.
-    [[nodiscard]] static Result check(const CardParameters &parameters, const CardSetSize &present);
-    // pages x blocks x rows x columns; it does not fit 32 bits at the upper end of the ranges.
-    [[nodiscard]] static quint64 cellsRequested(const CardParameters &parameters);
-
-private:
-    static QString cardLayoutProblem(const CardParameters &parameters);
+    Verdict verdict = Verdict::Correct;
+    QString message; // of an error or a warning, translated
 };
+
+constexpr int maxPages = 65535;        // of a card set
+constexpr quint64 maxCells = 10000000; // above it the user is warned
+
+// The first rule that is broken decides.
+[[nodiscard]] Result check(const CardParameters &parameters, const CardSetSize &present);
+// pages x blocks x rows x columns; it does not fit 32 bits at the upper end of the ranges.
+[[nodiscard]] quint64 cellsRequested(const CardParameters &parameters);
+
+} // namespace ParameterRules
