@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "generation/BlockSignature.h"
 #include "model/Cartella.h"
+
+#include "generation/BlockSignature.h"
 
 #include <algorithm>
 #include <vector>

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 namespace {
 // Arrays of up to so many entries stand on the stack of the call: room for the ranges of ordinary cards.

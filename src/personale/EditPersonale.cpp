@@ -8,6 +8,7 @@
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QScrollBar>

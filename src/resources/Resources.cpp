@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "resources/Resources.h"
 
-#include <QDir>
 #include <QtGlobal>
 
 void initQuintraResources()
