@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Config.h"
 
+#include "settings/WholeFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,6 +27,8 @@ const QString keyCellText = QStringLiteral("DEFAULT_CELL_TEXT");
 const QString keyCellImage = QStringLiteral("DEFAULT_CELL_IMAGE");
 const QString keySaveDir = QStringLiteral("DEFAULT_SAVE_DIR");
 const QString keyLanguage = QStringLiteral("LANGUAGE");
+
+constexpr int lineCount = 12; // the section line and a line for each key
 
 constexpr int defaultNMin = 1;
 constexpr int defaultNMax = 90;
@@ -76,22 +80,37 @@ QByteArray mended(const QByteArray &line)
     return line.left(equals) + '=' + text;
 }
 
+// To the end of the file, or as far as it can be read.
+template<class Use>
+void forEachLine(QFile &file, Use use)
+{
+    for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
+        use(line);
+    }
+    if (file.error() != QFile::NoError) {
+        qWarning("Config: %s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
+    }
+}
+
 // The values of the file. They are read from a copy: QSettings keeps what it has read of a file for as long as size and
 // time stamp look the same, and so would miss a change made at once after a reading.
 class Values final
 {
 public:
+    // What is no regular file could be read without end, and gives no values.
     explicit Values(const QString &path)
     {
-        // Where there is no room for a copy, the file itself is better than the defaults.
-        const bool copied = copy(path);
-        m_settings = std::make_unique<QSettings>(copied ? m_copy.fileName() : path, QSettings::IniFormat);
+        if (QFileInfo(path).isFile()) {
+            // Where there is no room for a copy, the file itself is better than the defaults.
+            const bool copied = copy(path);
+            m_settings = std::make_unique<QSettings>(copied ? m_copy.fileName() : path, QSettings::IniFormat);
+        }
     }
     // 0 for a text that is no integer of 32 bits, which the conversion of the variant itself would cut.
-    int number(const QString &key, int fallback) const { return m_settings->value(key, fallback).toString().toInt(); }
+    int number(const QString &key, int fallback) const { return text(key, QString::number(fallback)).toInt(); }
     QString text(const QString &key, const QString &fallback) const
     {
-        return m_settings->value(key, fallback).toString();
+        return m_settings ? m_settings->value(key, fallback).toString() : fallback;
     }
 
 private:
@@ -101,9 +120,7 @@ private:
         if (!m_copy.open() || !file.open(QIODevice::ReadOnly)) {
             return false;
         }
-        while (!file.atEnd()) {
-            m_copy.write(mended(file.readLine().trimmed()) + '\n');
-        }
+        forEachLine(file, [this](const QByteArray &line) { m_copy.write(mended(line.trimmed()) + '\n'); });
         return m_copy.flush();
     }
 
@@ -116,19 +133,26 @@ QList<QByteArray> linesWithoutComments(const QString &path)
 {
     QList<QByteArray> kept;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         return kept;
     }
-    while (!file.atEnd()) {
-        QByteArray line = file.readLine();
+    forEachLine(file, [&kept](QByteArray line) {
         if (line.endsWith('\n')) {
             line.chop(1);
         }
         if (!line.startsWith(';')) {
             kept.append(line);
         }
-    }
+    });
     return kept;
+}
+
+// QSettings does not tell that its last bytes did not reach the file.
+bool holdsEveryKey(const QString &path)
+{
+    QFile file(path);
+    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return content.count('\n') == lineCount && content.endsWith('\n');
 }
 } // namespace
 
@@ -173,7 +197,17 @@ bool Config::load()
 void Config::resetDefaults()
 {
     QFile::remove(filePath());
-    QSettings file(filePath(), QSettings::IniFormat);
+    WholeFile whole(filePath());
+    const bool created = whole.create();
+    writeDefaults(whole.writtenName());
+    if (!created || !holdsEveryKey(whole.writtenName()) || !whole.commit()) {
+        qWarning("Config::resetDefaults(): %s cannot be written", qPrintable(filePath()));
+    }
+}
+
+void Config::writeDefaults(const QString &path)
+{
+    QSettings file(path, QSettings::IniFormat);
     file.clear(); // forget what an earlier reading of the removed file has cached
     file.setValue(keyNMin, nMin = defaultNMin);
     file.setValue(keyNMax, nMax = defaultNMax);
@@ -197,19 +231,19 @@ bool Config::writeComments(const QString &cNmin, const QString &cNmax, const QSt
     const QStringList comments = {cNBlocks,  cNCols,   cNDrawnxRow, cNJollyxRow, cNRowxBlock, cCellImage,
                                   cCellText, cSaveDir, cLanguage,   cNmax,       cNmin};
     const QList<QByteArray> kept = linesWithoutComments(filePath());
-    if (kept.size() != comments.size() + 1) {
+    if (kept.size() != lineCount) {
         resetDefaults();
         return false;
     }
-    QFile file(filePath());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        return true; // write failures are ignored
-    }
+    QByteArray content;
     for (int i = 0; i < comments.size(); ++i) {
-        file.write(kept.at(i) + "\n;" + comments.at(i).toLatin1() + '\n');
+        content += kept.at(i) + "\n;" + comments.at(i).toLatin1() + '\n';
     }
-    file.write(kept.last());
-    return true;
+    QString reason;
+    if (writeWhole(filePath(), content + kept.last(), QIODevice::NotOpen, &reason) != Written::Whole) {
+        qWarning("Config::writeComments(): %s: %s", qPrintable(filePath()), qPrintable(reason));
+    }
+    return true; // a comment is worth no more
 }
 
 bool Config::isFirstStart() const

@@ -16,7 +16,8 @@ public:
     // Reads the file into the fields. False, and nothing changed, when there is none. On a first start `language` stays
     // as the user chose it.
     bool load();
-    // Replaces the file, and the fields, by the defaults.
+    // Replaces the file, and the fields, by the defaults. Where it cannot be written there is none: the next start is a
+    // first start then.
     void resetDefaults();
     // Puts one comment line above each key, replacing older ones. False when the file does not have exactly its twelve
     // lines; it is then reset to the defaults.
@@ -51,6 +52,9 @@ public:
     qint32 classicNDrawnxRow = 0;
     qint32 classicNCols = 0;
     qint32 classicNJollyxRow = 0;
+
+private:
+    void writeDefaults(const QString &path);
 };
 
 // Set by the start-up routine, which owns the object.

@@ -5,6 +5,7 @@
 #include "settings/FormatSelection.h"
 #include "settings/MadeTranslations.h"
 #include "support/BoxScript.h"
+#include "support/OrdinaryUser.h"
 #include "support/ScratchFolder.h"
 
 #include <QAction>
@@ -280,19 +281,16 @@ void tst_FormatSelection::withoutLanguagesNothingChanges()
 
 void tst_FormatSelection::anUnreadableFolderListsNothing()
 {
+    const OrdinaryUser user(*m_folder);
     offer({QStringLiteral("en_GB")});
     const QString path = m_folder->path(QStringLiteral("language"));
     QVERIFY(QFile::setPermissions(path, {}));
-    const bool readable = QFileInfo(path).isReadable();
     QStringList names;
     {
         const FormatSelection dialog;
         names = listed(dialog);
     }
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    if (readable) {
-        QSKIP("this user reads every folder");
-    }
     QCOMPARE(names, QStringList());
 }
 
