@@ -15,6 +15,12 @@ std::unique_ptr<Cartella> emptyCardSet(const CardParameters &p)
     return std::make_unique<Cartella>(static_cast<quint16>(p.pages), static_cast<U8>(p.blocks), static_cast<U8>(p.rows),
                                       static_cast<U8>(p.columns));
 }
+
+// Fills in pages, blocks, rows and columns.
+QString withShape(const QString &text, const CardParameters &p)
+{
+    return text.arg(p.pages).arg(p.blocks).arg(p.rows).arg(p.columns);
+}
 } // namespace
 
 void MainWindow::on_butt_aggiungi_pagine_clicked()
@@ -74,11 +80,7 @@ bool MainWindow::generate(bool append)
     } else {
         createEmptyPages(requested);
     }
-    updateStatusBar(tr("Cartella di %1 pagine, %2 blocchi %3X%4 generata")
-                        .arg(requested.pages)
-                        .arg(requested.blocks)
-                        .arg(requested.rows)
-                        .arg(requested.columns));
+    updateStatusBar(withShape(tr("Cartella di %1 pagine, %2 blocchi %3X%4 generata"), requested));
     m_cellsInMemory += ParameterRules::cellsRequested(requested);
     fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
     m_generated = true;
@@ -115,11 +117,7 @@ void MainWindow::createEmptyPages(const CardParameters &requested)
         replaceCardSet(std::make_unique<Cartella>());
     }
     m_cellsInMemory = 0;
-    updateStatusBar(tr("Sto creando una cartella di %1 pagine, %2 blocchi %3X%4...")
-                        .arg(requested.pages)
-                        .arg(requested.blocks)
-                        .arg(requested.rows)
-                        .arg(requested.columns));
+    updateStatusBar(withShape(tr("Sto creando una cartella di %1 pagine, %2 blocchi %3X%4..."), requested));
     const WaitCursor wait(this);
     replaceCardSet(emptyCardSet(requested));
     m_cartella->formato = ui->pagina_formato->currentIndex(); // what the user sees chosen
