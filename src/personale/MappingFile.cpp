@@ -23,20 +23,9 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(MappingFile)
 };
 
-QChar lowerLetterOf(CELL_VALUE tipo)
-{
-    switch (tipo) {
-    case CELL_NUMERO:
-        return QLatin1Char('n');
-    case CELL_TESTO:
-        return QLatin1Char('s');
-    case CELL_IMMAGINE:
-        return QLatin1Char('i');
-    case CELL_VUOTA:
-        return QLatin1Char('o');
-    }
-    return QLatin1Char('?');
-}
+// By type.
+const QString untickedLetters = QStringLiteral("nsio");
+const QString tickedLetters = QStringLiteral("NSIO");
 
 // Fills `pagina` from a line; the reason when the line gives none.
 std::optional<Motivo> decode(const QString &line, SchemaPagina &pagina)
@@ -87,30 +76,15 @@ QString reasonText(Motivo motivo)
 
 QChar letterOf(const CellaSchema &cella)
 {
-    const QChar letter = lowerLetterOf(cella.tipo);
-    return cella.spuntata ? letter.toUpper() : letter;
+    const QString &letters = cella.spuntata ? tickedLetters : untickedLetters;
+    return cella.tipo >= 0 && cella.tipo < letters.size() ? letters.at(cella.tipo) : QChar(u'?');
 }
 
 CellaSchema cellOf(QChar letter)
 {
-    switch (letter.unicode()) {
-    case u'N':
-        return {CELL_NUMERO, true};
-    case u'S':
-        return {CELL_TESTO, true};
-    case u'I':
-        return {CELL_IMMAGINE, true};
-    case u'O':
-        return {CELL_VUOTA, true};
-    case u'n':
-        return {CELL_NUMERO, false};
-    case u's':
-        return {CELL_TESTO, false};
-    case u'i':
-        return {CELL_IMMAGINE, false};
-    default:
-        return {CELL_VUOTA, false};
-    }
+    const bool spuntata = tickedLetters.contains(letter);
+    const int tipo = (spuntata ? tickedLetters : untickedLetters).indexOf(letter);
+    return {tipo < 0 ? CELL_VUOTA : static_cast<CELL_VALUE>(tipo), spuntata};
 }
 
 void writePage(QTextStream &stream, const SchemaPagina &pagina)
