@@ -144,21 +144,9 @@ void EditPersonale::showFocusedCell(QWidget *focused)
     }
 }
 
-PaginaPersonale *EditPersonale::displayedPage()
+PaginaPersonale &EditPersonale::displayedPage()
 {
-    return m_currentPage < m_pages.size() ? &m_pages[m_currentPage] : nullptr;
-}
-
-U8 EditPersonale::displayedRows()
-{
-    const PaginaPersonale *page = displayedPage();
-    return page != nullptr ? page->nRighe : U8(0);
-}
-
-U8 EditPersonale::displayedColumns()
-{
-    const PaginaPersonale *page = displayedPage();
-    return page != nullptr ? page->nColonne : U8(0);
+    return m_currentPage < m_pages.size() ? m_pages[m_currentPage] : m_noPage;
 }
 
 int EditPersonale::clampedPage(int page) const
@@ -180,16 +168,14 @@ void EditPersonale::on_pageNumSpinBox_valueChanged(int v)
 
 void EditPersonale::on_checkBox_ordinaNumxColonne_clicked()
 {
-    if (PaginaPersonale *page = displayedPage()) {
-        page->ordinaPerColonne = ui->checkBox_ordinaNumxColonne->isChecked() ? 1 : 0;
-    }
+    displayedPage().ordinaPerColonne = ui->checkBox_ordinaNumxColonne->isChecked() ? 1 : 0;
 }
 
 // Also told of boxes of other pages, whose positions the page on display may not have.
 void EditPersonale::on_checkboxChecked(U8 r, U8 c, bool b)
 {
-    const PaginaPersonale *page = displayedPage();
-    if (page != nullptr && page->hasCell(r, c) && page->cell(r, c).tipo == CELL_NUMERO) {
+    const PaginaPersonale &page = displayedPage();
+    if (page.hasCell(r, c) && page.cell(r, c).tipo == CELL_NUMERO) {
         m_tickedNumbers += b ? 1 : -1;
     }
     checkSettings();
@@ -197,11 +183,11 @@ void EditPersonale::on_checkboxChecked(U8 r, U8 c, bool b)
 
 void EditPersonale::on_checkboxRClicked(U8 r, U8 c)
 {
-    const PaginaPersonale *page = displayedPage();
-    if (page == nullptr || !page->hasCell(r, c)) {
+    const PaginaPersonale &page = displayedPage();
+    if (!page.hasCell(r, c)) {
         return;
     }
-    PersonaleChkBox &box = page->cell(r, c);
+    PersonaleChkBox &box = page.cell(r, c);
     box.setTipo(nextType(box.tipo));
     recountNumbers();
     checkSettings();
@@ -210,8 +196,7 @@ void EditPersonale::on_checkboxRClicked(U8 r, U8 c)
 
 void EditPersonale::recountNumbers()
 {
-    const PaginaPersonale *page = displayedPage();
-    m_tickedNumbers = page != nullptr ? page->tickedNumbers() : 0;
+    m_tickedNumbers = displayedPage().tickedNumbers();
 }
 
 // Runs for every single tick: the icon is only loaded when the verdict changes.

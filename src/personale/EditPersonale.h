@@ -75,10 +75,8 @@ private:
     void switchToPage(U16 page);
     void showPageCount();
     void showFocusedCell(QWidget *focused);
-    // The page on display; null in an editor without pages.
-    PaginaPersonale *displayedPage();
-    U8 displayedRows();
-    U8 displayedColumns();
+    // The page on display; m_noPage in an editor without pages.
+    PaginaPersonale &displayedPage();
     void forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action);
     void copyScheme(const PaginaPersonale &from, PaginaPersonale &to);
     CELL_VALUE chosenType() const;
@@ -117,4 +115,5 @@ private:
     int m_tickedNumbers = 0; // not taken anew when the page is switched
     std::optional<Verdict> m_shownVerdict;
     std::vector<PaginaPersonale> m_pages;
+    PaginaPersonale m_noPage; // without cells
 };

@@ -6,61 +6,44 @@
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 
+// The bounds of the selection stay on the page, and each pushes the other one along.
+
 void EditPersonale::on_row_from_spinBox_valueChanged(int v)
 {
-    if (v > displayedRows()) {
-        ui->row_from_spinBox->setValue(displayedRows());
-    }
-    if (v > ui->row_to_spinBox->value()) {
-        ui->row_to_spinBox->setValue(v);
-    }
+    ui->row_from_spinBox->setValue(qMin<int>(v, displayedPage().nRighe));
+    ui->row_to_spinBox->setValue(qMax(v, ui->row_to_spinBox->value()));
 }
 
 void EditPersonale::on_row_to_spinBox_valueChanged(int v)
 {
-    if (v > displayedRows()) {
-        ui->row_to_spinBox->setValue(displayedRows());
-    }
-    if (v < ui->row_from_spinBox->value()) {
-        ui->row_from_spinBox->setValue(v);
-    }
+    ui->row_to_spinBox->setValue(qMin<int>(v, displayedPage().nRighe));
+    ui->row_from_spinBox->setValue(qMin(v, ui->row_from_spinBox->value()));
 }
 
 void EditPersonale::on_col_from_spinBox_valueChanged(int v)
 {
-    if (v > displayedColumns()) {
-        ui->col_from_spinBox->setValue(displayedColumns());
-    }
-    if (v > ui->col_to_spinBox->value()) {
-        ui->col_to_spinBox->setValue(v);
-    }
+    ui->col_from_spinBox->setValue(qMin<int>(v, displayedPage().nColonne));
+    ui->col_to_spinBox->setValue(qMax(v, ui->col_to_spinBox->value()));
 }
 
 void EditPersonale::on_col_to_spinBox_valueChanged(int v)
 {
-    if (v > displayedColumns()) {
-        ui->col_to_spinBox->setValue(displayedColumns());
-    }
-    if (v < ui->col_from_spinBox->value()) {
-        ui->col_from_spinBox->setValue(v);
-    }
+    ui->col_to_spinBox->setValue(qMin<int>(v, displayedPage().nColonne));
+    ui->col_from_spinBox->setValue(qMin(v, ui->col_from_spinBox->value()));
 }
 
 // The whole page, or the rectangle of the spin boxes as far as the page reaches.
 void EditPersonale::forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action)
 {
-    const PaginaPersonale *page = displayedPage();
-    if (page == nullptr) {
-        return;
-    }
+    const PaginaPersonale &page = displayedPage();
     const bool all = ui->selezione_tutte_ckbox->isChecked();
     const int firstRow = all ? 0 : ui->row_from_spinBox->value() - 1;
-    const int endRow = all ? page->nRighe : qMin<int>(ui->row_to_spinBox->value(), page->nRighe);
+    const int endRow = all ? page.nRighe : qMin<int>(ui->row_to_spinBox->value(), page.nRighe);
     const int firstColumn = all ? 0 : ui->col_from_spinBox->value() - 1;
-    const int endColumn = all ? page->nColonne : qMin<int>(ui->col_to_spinBox->value(), page->nColonne);
+    const int endColumn = all ? page.nColonne : qMin<int>(ui->col_to_spinBox->value(), page.nColonne);
     for (int row = firstRow; row < endRow; ++row) {
         for (int column = firstColumn; column < endColumn; ++column) {
-            action(page->cell(row, column));
+            action(page.cell(row, column));
         }
     }
 }
@@ -105,12 +88,12 @@ void EditPersonale::on_impostaschemacorrenteButton_clicked()
              tr("Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?"))) {
         return;
     }
-    if (const PaginaPersonale *scheme = displayedPage()) {
+    {
         const WaitCursor wait(this);
         const int end = qMin<int>(ui->impostaAspinBox->value(), m_pageCount);
         for (int page = ui->impostaDAspinBox->value() - 1; page < end; ++page) {
             if (page != m_currentPage) {
-                copyScheme(*scheme, m_pages[static_cast<size_t>(page)]);
+                copyScheme(displayedPage(), m_pages[static_cast<size_t>(page)]);
             }
         }
     }
