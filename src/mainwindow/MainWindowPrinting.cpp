@@ -51,7 +51,7 @@ QString MainWindow::askPrintFileName()
         QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, filter);
     const bool hasSuffix = QFileInfo(chosen).fileName().contains(QLatin1Char('.'));
     const QString fileName = hasSuffix ? chosen : chosen + QLatin1Char('.') + suffix;
-    const bool sure = chosen.isEmpty() || hasSuffix || mayOverwrite(this, boxTitle(), fileName);
+    const bool sure = chosen.isEmpty() || hasSuffix || confirmOverwriting(this, boxTitle(), fileName);
     return !chosen.isEmpty() && sure && globalConfig->rememberFolder(chosen) ? fileName : QString();
 }
 

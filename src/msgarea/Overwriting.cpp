@@ -12,7 +12,7 @@ class Text
 };
 } // namespace
 
-bool mayOverwrite(QWidget *parent, const QString &title, const QString &fileName)
+bool confirmOverwriting(QWidget *parent, const QString &title, const QString &fileName)
 {
     const QFileInfo file(fileName);
     if (!file.exists() || file.isDir()) {

@@ -5,5 +5,5 @@
 
 class QWidget;
 
-// Whether a file may be written under a name that the user did not give in full: he is asked when there is one already.
-[[nodiscard]] bool mayOverwrite(QWidget *parent, const QString &title, const QString &fileName);
+// Asks, when there is a file already of a name that the user did not give in full; whether it may be written.
+[[nodiscard]] bool confirmOverwriting(QWidget *parent, const QString &title, const QString &fileName);

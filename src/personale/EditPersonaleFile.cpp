@@ -78,7 +78,8 @@ QString EditPersonale::askSaveFileName()
         return QString();
     }
     const QString fileName = withSuffix(chosen);
-    const bool sure = fileName == chosen || mayOverwrite(this, Product::titleFor(tr("Mappatura manuale")), fileName);
+    const bool sure =
+        fileName == chosen || confirmOverwriting(this, Product::titleFor(tr("Mappatura manuale")), fileName);
     return sure ? fileName : QString();
 }
 
