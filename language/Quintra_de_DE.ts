@@ -788,16 +788,8 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Farbe der Außenlinie der Karte (noch ohne Wirkung)</translation>
     </message>
     <message>
-        <source>Colora linea esterna</source>
-        <translation>Farbe der Außenlinie</translation>
-    </message>
-    <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
         <translation>Farbe der Innenlinien der Karte (noch ohne Wirkung)</translation>
-    </message>
-    <message>
-        <source>Colora linea interna</source>
-        <translation>Farbe der Innenlinie</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -862,18 +854,6 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
         <translation>Hintergrundfarbe der ausgewählten Felder</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Strumenti</source>
-        <translation>Extras</translation>
-    </message>
-    <message>
-        <source>Aiuto</source>
-        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Pulisci</source>
@@ -1205,6 +1185,42 @@ Möchten Sie sie ansehen?</translation>
         <source>Mostra la pagina come sarà stampata</source>
         <translation>Die Seite so zeigen, wie sie gedruckt wird</translation>
     </message>
+    <message>
+        <source>Parametri</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Stile</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Strumenti</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
+        <translation>Um neu zu beginnen, wählen Sie &quot;Neu&quot;</translation>
+    </message>
+    <message>
+        <source>Linea esterna</source>
+        <translation>Außenlinie</translation>
+    </message>
+    <message>
+        <source>Linea interna</source>
+        <translation>Innenlinie</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1448,6 +1464,14 @@ eccedono il massimo consentito (%2).</source>
 %2 -&gt; Felder im Speicher.
 %3 -&gt; höchstens verarbeitbare Felder.
 (das Programm könnte abstürzen)</translation>
+    </message>
+    <message>
+        <source>Nuova: si apre l&apos;editor della mappatura manuale</source>
+        <translation>Neu: öffnet das Fenster der manuellen Belegung</translation>
+    </message>
+    <message>
+        <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
+        <translation>Neu - Seiten: %1 × Karten: %2 = Karten insgesamt: %3</translation>
     </message>
 </context>
 <context>

@@ -788,16 +788,8 @@ Error while adding page %i.</translation>
         <translation>Colour of the card&apos;s outer line (no effect yet)</translation>
     </message>
     <message>
-        <source>Colora linea esterna</source>
-        <translation>Outer line colour</translation>
-    </message>
-    <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
         <translation>Colour of the card&apos;s inner lines (no effect yet)</translation>
-    </message>
-    <message>
-        <source>Colora linea interna</source>
-        <translation>Inner line colour</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -862,18 +854,6 @@ Error while adding page %i.</translation>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
         <translation>Background colour of the selected cells</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Strumenti</source>
-        <translation>Tools</translation>
-    </message>
-    <message>
-        <source>Aiuto</source>
-        <translation>Help</translation>
     </message>
     <message>
         <source>Pulisci</source>
@@ -1205,6 +1185,42 @@ Do you want to see them?</translation>
         <source>Mostra la pagina come sarà stampata</source>
         <translation>Show the page as it will be printed</translation>
     </message>
+    <message>
+        <source>Parametri</source>
+        <translation>Parameters</translation>
+    </message>
+    <message>
+        <source>Stile</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Strumenti</source>
+        <translation>&amp;Tools</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
+        <translation>To start afresh choose &quot;New&quot;</translation>
+    </message>
+    <message>
+        <source>Linea esterna</source>
+        <translation>Outer line</translation>
+    </message>
+    <message>
+        <source>Linea interna</source>
+        <translation>Inner line</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1448,6 +1464,14 @@ exceeds the maximum allowed (%2).</translation>
 %2 -&gt; total cells in memory.
 %3 -&gt; maximum number of cells that can be handled.
 (the program may crash)</translation>
+    </message>
+    <message>
+        <source>Nuova: si apre l&apos;editor della mappatura manuale</source>
+        <translation>New: opens the manual layout editor</translation>
+    </message>
+    <message>
+        <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
+        <translation>New - pages: %1 × cards: %2 = cards in all: %3</translation>
     </message>
 </context>
 <context>

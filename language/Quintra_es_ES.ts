@@ -788,16 +788,8 @@ Error al añadir la página %i.</translation>
         <translation>Color del contorno del cartón (aún sin efecto)</translation>
     </message>
     <message>
-        <source>Colora linea esterna</source>
-        <translation>Color del contorno</translation>
-    </message>
-    <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
         <translation>Color de la cuadrícula del cartón (aún sin efecto)</translation>
-    </message>
-    <message>
-        <source>Colora linea interna</source>
-        <translation>Color de la cuadrícula</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -862,18 +854,6 @@ Error al añadir la página %i.</translation>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
         <translation>Color de fondo de las casillas seleccionadas</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Archivo</translation>
-    </message>
-    <message>
-        <source>Strumenti</source>
-        <translation>Herramientas</translation>
-    </message>
-    <message>
-        <source>Aiuto</source>
-        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Pulisci</source>
@@ -1205,6 +1185,42 @@ Vuoi visualizzarli?</source>
         <source>Mostra la pagina come sarà stampata</source>
         <translation>Mostrar la página tal como se imprimirá</translation>
     </message>
+    <message>
+        <source>Parametri</source>
+        <translation>Parámetros</translation>
+    </message>
+    <message>
+        <source>Stile</source>
+        <translation>Estilo</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Strumenti</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
+        <translation>Para empezar de nuevo, elija «Nueva»</translation>
+    </message>
+    <message>
+        <source>Linea esterna</source>
+        <translation>Línea exterior</translation>
+    </message>
+    <message>
+        <source>Linea interna</source>
+        <translation>Línea interior</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1448,6 +1464,14 @@ supera el máximo permitido (%2).</translation>
 %2 -&gt; casillas totales en memoria.
 %3 -&gt; número máximo de casillas que se pueden gestionar.
 (el programa podría cerrarse inesperadamente)</translation>
+    </message>
+    <message>
+        <source>Nuova: si apre l&apos;editor della mappatura manuale</source>
+        <translation>Nueva: se abre el editor de diseño manual</translation>
+    </message>
+    <message>
+        <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
+        <translation>Nueva - páginas: %1 × cartones: %2 = cartones en total: %3</translation>
     </message>
 </context>
 <context>

@@ -788,16 +788,8 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Couleur du contour du carton (sans effet pour l&apos;instant)</translation>
     </message>
     <message>
-        <source>Colora linea esterna</source>
-        <translation>Couleur du contour</translation>
-    </message>
-    <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
         <translation>Couleur de la grille du carton (sans effet pour l&apos;instant)</translation>
-    </message>
-    <message>
-        <source>Colora linea interna</source>
-        <translation>Couleur de la grille</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -862,18 +854,6 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
         <translation>Couleur de fond des cases sélectionnées</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
-        <source>Strumenti</source>
-        <translation>Outils</translation>
-    </message>
-    <message>
-        <source>Aiuto</source>
-        <translation>Aide</translation>
     </message>
     <message>
         <source>Pulisci</source>
@@ -1203,7 +1183,43 @@ Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
         <source>Mostra la pagina come sarà stampata</source>
-        <translation>Montrer la page telle qu'elle sera imprimée</translation>
+        <translation>Montrer la page telle qu&apos;elle sera imprimée</translation>
+    </message>
+    <message>
+        <source>Parametri</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Stile</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>Affic&amp;hage</translation>
+    </message>
+    <message>
+        <source>&amp;Strumenti</source>
+        <translation>&amp;Outils</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
+        <translation>Pour recommencer, choisissez «&#xa0;Nouvelle&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Linea esterna</source>
+        <translation>Ligne extérieure</translation>
+    </message>
+    <message>
+        <source>Linea interna</source>
+        <translation>Ligne intérieure</translation>
     </message>
 </context>
 <context>
@@ -1382,7 +1398,7 @@ Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Pagina come sarà stampata</source>
-        <translation>Page telle qu'elle sera imprimée</translation>
+        <translation>Page telle qu&apos;elle sera imprimée</translation>
     </message>
     <message>
         <source>Anteprima di stampa</source>
@@ -1448,6 +1464,14 @@ dépasse le maximum autorisé (%2).</translation>
 %2 -&gt; total des cases en mémoire.
 %3 -&gt; nombre maximal de cases gérables.
 (le programme pourrait s&apos;arrêter brutalement)</translation>
+    </message>
+    <message>
+        <source>Nuova: si apre l&apos;editor della mappatura manuale</source>
+        <translation>Nouvelle&#xa0;: ouvre l&apos;éditeur de disposition manuelle</translation>
+    </message>
+    <message>
+        <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
+        <translation>Nouvelle - pages&#xa0;: %1 × cartons&#xa0;: %2 = cartons au total&#xa0;: %3</translation>
     </message>
 </context>
 <context>

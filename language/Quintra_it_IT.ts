@@ -788,16 +788,8 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Colore della linea esterna del blocco (non ha ancora effetto)</translation>
     </message>
     <message>
-        <source>Colora linea esterna</source>
-        <translation>Colora linea esterna</translation>
-    </message>
-    <message>
         <source>Colore delle linee interne del blocco (non ha ancora effetto)</source>
         <translation>Colore delle linee interne del blocco (non ha ancora effetto)</translation>
-    </message>
-    <message>
-        <source>Colora linea interna</source>
-        <translation>Colora linea interna</translation>
     </message>
     <message>
         <source>Cella</source>
@@ -862,18 +854,6 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
     <message>
         <source>Colore di sfondo delle celle selezionate</source>
         <translation>Colore di sfondo delle celle selezionate</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>File</translation>
-    </message>
-    <message>
-        <source>Strumenti</source>
-        <translation>Strumenti</translation>
-    </message>
-    <message>
-        <source>Aiuto</source>
-        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Pulisci</source>
@@ -1205,6 +1185,42 @@ Vuoi visualizzarli?</translation>
         <source>Mostra la pagina come sarà stampata</source>
         <translation>Mostra la pagina come sarà stampata</translation>
     </message>
+    <message>
+        <source>Parametri</source>
+        <translation>Parametri</translation>
+    </message>
+    <message>
+        <source>Stile</source>
+        <translation>Stile</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Strumenti</source>
+        <translation>&amp;Strumenti</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message>
+        <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
+        <translation>Per ricominciare da capo scegliere &quot;Nuova&quot;</translation>
+    </message>
+    <message>
+        <source>Linea esterna</source>
+        <translation>Linea esterna</translation>
+    </message>
+    <message>
+        <source>Linea interna</source>
+        <translation>Linea interna</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1448,6 +1464,14 @@ eccedono il massimo consentito (%2).</translation>
 %2 -&gt; caselle totali in memoria.
 %3 -&gt; caselle massime gestibili.
 (eventuale crash del programma)</translation>
+    </message>
+    <message>
+        <source>Nuova: si apre l&apos;editor della mappatura manuale</source>
+        <translation>Nuova: si apre l&apos;editor della mappatura manuale</translation>
+    </message>
+    <message>
+        <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
+        <translation>Nuova: %1 pagine × %2 blocchi = %3 blocchi</translation>
     </message>
 </context>
 <context>

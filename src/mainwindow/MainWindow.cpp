@@ -12,7 +12,6 @@
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QMessageBox>
-#include <QScrollBar>
 #include <QTableWidget>
 
 MainWindow::MainWindow(QWidget *parent)
@@ -62,6 +61,8 @@ void MainWindow::setupParameters()
     loadDefaultParameters();
     enableParameters(false);
     checkParameters(nullptr, false);
+    ui->box_classica_numeropagine->setFocus(); // the first thing to say, to be typed over
+    ui->box_classica_numeropagine->selectAll();
 }
 
 void MainWindow::setupPageView()
@@ -89,13 +90,12 @@ void MainWindow::setupPaperFormats()
     }
 }
 
-// A side pane keeps the width of its content and of its scroll bar: only the table gives way.
+// A pane that was closed comes back by the menu.
 void MainWindow::setupSidePanes()
 {
-    for (QScrollArea *pane : {ui->parametriScrollArea, ui->stileScrollArea}) {
-        pane->setMinimumWidth(pane->widget()->minimumSizeHint().width() +
-                              pane->verticalScrollBar()->sizeHint().width());
-    }
+    // Inputs that have got their texts tell their panes by posted events: at once, before the widths are shared out.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    ui->menuVisualizza->addActions({ui->parametriDock->toggleViewAction(), ui->stileDock->toggleViewAction()});
 }
 
 void MainWindow::replaceCardSet(std::unique_ptr<Cartella> cartella)

@@ -4,8 +4,11 @@
 #include "personale/EditPersonale.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QProcess>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 // Nobody presses two buttons within the time that a window manager needs to carry out a request.
@@ -15,18 +18,52 @@ void settle()
     QTest::qWait(milliseconds);
 }
 
-// The mouse of the screen, not an event of the toolkit: it reaches whatever window lies there.
-void clickOnScreen(const QPoint &place)
+// The mouse and the keyboard of the screen, not events of the toolkit: they reach whatever window lies there.
+void onScreen(const QStringList &words)
 {
-    const QStringList words = {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
-                               QStringLiteral("click"), QString::number(Qt::LeftButton)};
     QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), words), 0);
     settle();
+}
+
+void pressButtonOnScreen(const QPoint &place, int button)
+{
+    onScreen({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+              QStringLiteral("click"), QString::number(button)});
+}
+
+void clickOnScreen(const QPoint &place)
+{
+    constexpr int left = 1;
+    pressButtonOnScreen(place, left);
+}
+
+// One notch of the wheel towards the user.
+void turnWheelOnScreen(const QPoint &place)
+{
+    constexpr int wheelDown = 5;
+    pressButtonOnScreen(place, wheelDown);
 }
 
 QPoint middleOnScreen(const QWidget *widget)
 {
     return widget->mapToGlobal(widget->rect().center());
+}
+
+// So low that its side panes scroll.
+void showLow(QWidget *window)
+{
+    const QSize low(1024, 400);
+    window->showNormal();
+    window->move(0, 0);
+    window->resize(low);
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    settle();
+}
+
+int valueOf(const QWidget *input)
+{
+    const auto *box = qobject_cast<const QSpinBox *>(input);
+    return box != nullptr ? box->value() : qobject_cast<const QComboBox *>(input)->currentIndex();
 }
 } // namespace
 
@@ -37,6 +74,11 @@ class tst_Desktop final : public QObject
 private slots:
     void theMainWindowFillsTheScreen();
     void theWelcomeIsRedWhenTheWindowIsSeen();
+    void theNumberOfPagesIsTypedAtOnce();
+    void theWheelScrollsThePaneUnderItsInputs_data();
+    void theWheelScrollsThePaneUnderItsInputs();
+    void theWheelChangesTheInputThatHasTheFocus();
+    void theWheelScrollsThePaneOfTheEditor();
     void theMainWindowTakesNoInputWhileTheEditorIsOpen();
     void theMainWindowStepsAsideWithTheEditor();
 
@@ -88,6 +130,63 @@ void tst_Desktop::theWelcomeIsRedWhenTheWindowIsSeen()
         }
     }
     QVERIFY(red > 50);
+}
+
+void tst_Desktop::theNumberOfPagesIsTypedAtOnce()
+{
+    const PageWindow page;
+    QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    onScreen({QStringLiteral("type"), QStringLiteral("50")});
+    QCOMPARE(page.find<QSpinBox>("box_classica_numeropagine")->value(), 50);
+}
+
+void tst_Desktop::theWheelScrollsThePaneUnderItsInputs_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("pane");
+    QTest::newRow("spin box") << QStringLiteral("box_classica_numerorighexblocco")
+                              << QStringLiteral("parametriScrollArea");
+    QTest::newRow("combo box") << QStringLiteral("pagina_formato") << QStringLiteral("stileScrollArea");
+}
+
+void tst_Desktop::theWheelScrollsThePaneUnderItsInputs()
+{
+    QFETCH(QString, input);
+    QFETCH(QString, pane);
+    const PageWindow page;
+    showLow(page.window.get());
+    const auto *widget = page.find<QWidget>(qPrintable(input));
+    const int before = valueOf(widget);
+    turnWheelOnScreen(middleOnScreen(widget));
+    QTRY_VERIFY(page.find<QScrollArea>(qPrintable(pane))->verticalScrollBar()->value() > 0);
+    QCOMPARE(valueOf(widget), before);
+    QVERIFY(!widget->hasFocus());
+}
+
+void tst_Desktop::theWheelChangesTheInputThatHasTheFocus()
+{
+    const PageWindow page;
+    showLow(page.window.get());
+    auto *pages = page.find<QSpinBox>("box_classica_numeropagine");
+    pages->setValue(50);
+    QVERIFY(pages->hasFocus());
+    turnWheelOnScreen(middleOnScreen(pages));
+    QTRY_COMPARE(pages->value(), 49);
+    QCOMPARE(page.find<QScrollArea>("parametriScrollArea")->verticalScrollBar()->value(), 0);
+}
+
+void tst_Desktop::theWheelScrollsThePaneOfTheEditor()
+{
+    PageWindow page;
+    EditPersonale *editor = openEditor(page);
+    QVERIFY(editor != nullptr);
+    showLow(editor);
+    auto *rows = editor->findChild<QSpinBox *>(QStringLiteral("row_from_spinBox"));
+    rows->setValue(2);
+    turnWheelOnScreen(middleOnScreen(rows));
+    QTRY_VERIFY(editor->findChild<QScrollArea *>(QStringLiteral("toolsScrollArea"))->verticalScrollBar()->value() > 0);
+    QCOMPARE(rows->value(), 2);
+    closeEditor(page, editor);
 }
 
 void tst_Desktop::theMainWindowTakesNoInputWhileTheEditorIsOpen()

@@ -14,6 +14,7 @@
 #include <QMetaMethod>
 #include <QStatusTipEvent>
 #include <QTextEdit>
+#include <QToolTip>
 
 namespace {
 const QString leaveQuestion = QStringLiteral("Sei sicuro di voler uscire?");
@@ -61,6 +62,9 @@ private slots:
     void theCurrentFontTheTableAndThePickerAreReady();
     void theMenusHoldTheirCommands_data();
     void theMenusHoldTheirCommands();
+    void commandsWithoutEffectAreGreyed();
+    void aGreyedCommandTellsWhyInTheMenu();
+    void theNumberOfPagesHasTheFocusAtFirst();
     void everyInputHasALabelOrTextAndAToolTip();
     void theLastCharacterColoursTheStatus_data();
     void theLastCharacterColoursTheStatus();
@@ -203,12 +207,53 @@ void tst_MainWindow::theMenusHoldTheirCommands()
     const PageWindow page;
     const QAction *command = action(page, QTest::currentDataTag());
     QCOMPARE(command->text(), text);
-    QVERIFY(command->isEnabled());
+    QVERIFY(!command->toolTip().isEmpty() && command->toolTip() != text);
     int menus = 0;
     for (const QAction *top : page.window->menuBar()->actions()) {
+        QVERIFY(top->menu()->toolTipsVisible());
         menus += top->menu()->actions().contains(const_cast<QAction *>(command)) ? 1 : 0;
     }
     QCOMPARE(menus, 1);
+}
+
+// Mappings are opened and saved by the editor, and there is nothing to clear.
+void tst_MainWindow::commandsWithoutEffectAreGreyed()
+{
+    const PageWindow page;
+    for (const QAction *command : page.window->findChildren<QAction *>()) {
+        const bool dead =
+            QStringList({QStringLiteral("actionOpen"), QStringLiteral("actionSave"), QStringLiteral("actionClear")})
+                .contains(command->objectName());
+        if (command->objectName().startsWith(QLatin1String("action"))) {
+            QCOMPARE(command->isEnabled(), !dead);
+        }
+    }
+    QVERIFY(action(page, "actionOpen")->toolTip().contains(QStringLiteral("editor della mappatura manuale")));
+    QVERIFY(action(page, "actionSave")->toolTip().contains(QStringLiteral("editor della mappatura manuale")));
+}
+
+void tst_MainWindow::aGreyedCommandTellsWhyInTheMenu()
+{
+    const PageWindow page;
+    auto *menu = page.find<QMenu>("menuFile");
+    menu->popup(page.window->mapToGlobal(QPoint(0, 0)));
+    QVERIFY(QTest::qWaitForWindowExposed(menu));
+    const QPoint place = menu->actionGeometry(const_cast<QAction *>(action(page, "actionOpen"))).center();
+    QHelpEvent asked(QEvent::ToolTip, place, menu->mapToGlobal(place));
+    QApplication::sendEvent(menu, &asked);
+    QCOMPARE(QToolTip::text(), action(page, "actionOpen")->toolTip());
+    QToolTip::hideText();
+    menu->close();
+}
+
+void tst_MainWindow::theNumberOfPagesHasTheFocusAtFirst()
+{
+    const PageWindow page;
+    QApplication::setActiveWindow(page.window.get());
+    auto *pages = page.find<QSpinBox>("box_classica_numeropagine");
+    QTRY_COMPARE(QApplication::focusWidget(), pages);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("50"));
+    QCOMPARE(pages->value(), 50);
 }
 
 void tst_MainWindow::everyInputHasALabelOrTextAndAToolTip()
@@ -218,14 +263,13 @@ void tst_MainWindow::everyInputHasALabelOrTextAndAToolTip()
     for (const QLabel *label : page.window->findChildren<QLabel *>()) {
         labelled.append(label->buddy());
     }
-    const QWidget *form = page.window->centralWidget();
     int inputs = 0;
-    for (QWidget *input : form->findChildren<QWidget *>()) {
+    for (QWidget *input : page.window->findChildren<QWidget *>()) {
         const auto *button = qobject_cast<QAbstractButton *>(input);
         const bool box =
             qobject_cast<QAbstractSpinBox *>(input) != nullptr || qobject_cast<QComboBox *>(input) != nullptr;
-        if (input->focusPolicy() == Qt::NoFocus || input->objectName().startsWith(QLatin1String("qt_")) ||
-            (button == nullptr && !box)) {
+        if (input->window() != page.window.get() || input->focusPolicy() == Qt::NoFocus ||
+            input->objectName().startsWith(QLatin1String("qt_")) || (button == nullptr && !box)) {
             continue;
         }
         ++inputs;

@@ -17,6 +17,7 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QDockWidget>
 #include <QFile>
 #include <QGroupBox>
 #include <QKeySequence>
@@ -30,6 +31,7 @@
 #include <QSet>
 #include <QStatusBar>
 #include <QStyleOptionGroupBox>
+#include <QTableWidget>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QtTest>
@@ -111,7 +113,14 @@ std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
 // Texts of the toolkit come from translations of its own.
 bool isToolkitsOwn(const QWidget *widget)
 {
-    return qobject_cast<QDialogButtonBox *>(widget->parentWidget()) != nullptr;
+    return qobject_cast<QDialogButtonBox *>(widget->parentWidget()) != nullptr ||
+           widget->objectName().startsWith(QLatin1String("qt_"));
+}
+
+// The text is none of the translation file: it is put together from one and numbers.
+bool holdsNumbers(const QWidget *widget)
+{
+    return widget->objectName() == QLatin1String("label_nuova");
 }
 
 QString textOf(const QWidget *widget)
@@ -132,7 +141,7 @@ QStringList textsOf(const QWidget &window)
     QStringList texts(
         window.windowTitle().remove(Product::nameAndRelease()).remove(QRegularExpression(QStringLiteral("^ - "))));
     for (const auto *widget : window.findChildren<QWidget *>()) {
-        if (widget->isVisibleTo(&window) && !isToolkitsOwn(widget)) {
+        if (widget->isVisibleTo(&window) && !isToolkitsOwn(widget) && !holdsNumbers(widget)) {
             texts << textOf(widget) << widget->toolTip() << widget->statusTip() << widget->accessibleName();
         }
     }
@@ -290,6 +299,18 @@ void showOnSmallestScreen(QWidget *window)
     QVERIFY(QTest::qWaitForWindowExposed(window));
     QCoreApplication::processEvents(); // the layouts settle
 }
+
+// The columns of a table that are seen whole.
+int columnsSeen(const MainWindow &window)
+{
+    const auto *table = window.findChild<QTableWidget *>(QStringLiteral("tableWidget"));
+    int seen = 0;
+    for (int column = 0; column < table->columnCount(); ++column) {
+        const int end = table->columnViewportPosition(column) + table->columnWidth(column);
+        seen += end <= table->viewport()->width() ? 1 : 0;
+    }
+    return seen;
+}
 } // namespace
 
 class tst_LanguageOfWindows final : public QObject
@@ -302,6 +323,10 @@ private slots:
     void everyTextIsTranslated();
     void noTextIsCut_data();
     void noTextIsCut();
+    void mostOfAPageIsSeenOnTheSmallestScreen_data();
+    void mostOfAPageIsSeenOnTheSmallestScreen();
+    void theMainWindowFitsAScreenAtDoubleScale_data();
+    void theMainWindowFitsAScreenAtDoubleScale();
     void aTextTooLongForItsPlaceIsFound();
     void aTipTooLongForTheScreenIsFound();
     void noMnemonicIsTwiceInAMenu_data();
@@ -312,6 +337,7 @@ private slots:
 
 private:
     static void addWindows();
+    static void addLanguages();
 };
 
 // The platform of the tests has larger letters than desktops have.
@@ -405,6 +431,58 @@ void tst_LanguageOfWindows::noTextIsCut()
     QCOMPARE(program.boxes.problems(), QStringList());
 }
 
+void tst_LanguageOfWindows::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : languages) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void tst_LanguageOfWindows::mostOfAPageIsSeenOnTheSmallestScreen_data()
+{
+    addLanguages();
+}
+
+void tst_LanguageOfWindows::mostOfAPageIsSeenOnTheSmallestScreen()
+{
+    QFETCH(QString, language);
+    Program program;
+    QVERIFY(program.speak(language));
+    MainWindow window;
+    QVERIFY(window.generate(false));
+    showOnSmallestScreen(&window);
+    const auto *table = window.findChild<QTableWidget *>(QStringLiteral("tableWidget"));
+    QCOMPARE(table->columnCount(), 9);
+    QCOMPARE(table->columnWidth(8), 70);
+    QVERIFY2(columnsSeen(window) >= 8, qPrintable(QString::number(table->viewport()->width())));
+
+    auto *pane = window.findChild<QDockWidget *>(QStringLiteral("stileDock"));
+    window.resizeDocks({pane}, {pane->minimumSizeHint().width()}, Qt::Horizontal);
+    QCoreApplication::processEvents();
+    QVERIFY2(columnsSeen(window) == 9, qPrintable(QString::number(table->viewport()->width())));
+}
+
+void tst_LanguageOfWindows::theMainWindowFitsAScreenAtDoubleScale_data()
+{
+    addLanguages();
+}
+
+// 1600 pixels of a screen are 800 of the window's.
+void tst_LanguageOfWindows::theMainWindowFitsAScreenAtDoubleScale()
+{
+    constexpr int widest = 800;
+    QFETCH(QString, language);
+    Program program;
+    QVERIFY(program.speak(language));
+    MainWindow window;
+    window.showNormal();
+    window.resize(widest, smallestScreen.height());
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.width(), widest);
+    QVERIFY2(window.minimumSizeHint().width() <= widest, qPrintable(QString::number(window.minimumSizeHint().width())));
+}
+
 void tst_LanguageOfWindows::aTextTooLongForItsPlaceIsFound()
 {
     Program program;
@@ -470,8 +548,8 @@ void tst_LanguageOfWindows::aMnemonicTwiceInAMenuIsFound()
     Program program;
     const QString context = QStringLiteral("MainWindow");
     program.folder.write(QStringLiteral("language/Quintra_ma_DE.qm"),
-                         madeTranslation({{context, QStringLiteral("File"), QStringLiteral("&One")},
-                                          {context, QStringLiteral("Aiuto"), QStringLiteral("Tw&o")},
+                         madeTranslation({{context, QStringLiteral("&File"), QStringLiteral("&One")},
+                                          {context, QStringLiteral("&Aiuto"), QStringLiteral("Tw&o")},
                                           {context, QStringLiteral("Apri"), QStringLiteral("&Three")},
                                           {context, QStringLiteral("Salva"), QStringLiteral("Eigh&t")},
                                           {context, QStringLiteral("Opzioni"), QStringLiteral("&Twenty")}}));
@@ -482,10 +560,7 @@ void tst_LanguageOfWindows::aMnemonicTwiceInAMenuIsFound()
 
 void tst_LanguageOfWindows::theKindsOfCellsHaveDifferentInitials_data()
 {
-    QTest::addColumn<QString>("language");
-    for (const QString &language : languages) {
-        QTest::newRow(qPrintable(language)) << language;
-    }
+    addLanguages();
 }
 
 // The editor of the manual mapping marks each cell with the first letter of its kind.
