@@ -56,7 +56,9 @@ int MainWindow::checkParameters(QString *message, bool append)
     present.pagesToKeep = append ? m_cartella->getNumPages() : 0;
     present.cellsInMemory = m_cellsInMemory;
 
-    const ParameterRules::Result result = ParameterRules::check(parameters(), present);
+    const CardParameters wanted = parameters();
+    ui->label_nuova->setText(ParameterRules::outcome(wanted));
+    const ParameterRules::Result result = ParameterRules::check(wanted, present);
     const bool correct = result.verdict == Verdict::Correct;
     showSettingStatus(result.verdict, correct ? tr("Impostazioni corrette") : result.message);
     if (message != nullptr) {
@@ -69,6 +71,7 @@ void MainWindow::showSettingStatus(Verdict verdict, const QString &toolTip)
 {
     ui->label_settingstatus->setPixmap(QPixmap(verdictIcon(verdict)));
     ui->label_settingstatus->setToolTip(toolTip);
+    ui->label_settingmessage->setText(toolTip);
 }
 
 void MainWindow::on_box_classica_numeropagine_valueChanged(int)

@@ -73,6 +73,17 @@ Result check(const CardParameters &parameters, const CardSetSize &present)
     return {Verdict::Correct, QString()};
 }
 
+QString outcome(const CardParameters &p)
+{
+    if (p.manual) {
+        return Text::tr("Nuova: si apre l'editor della mappatura manuale");
+    }
+    return Text::tr("Nuova: %1 pagine × %2 blocchi = %3 blocchi")
+        .arg(p.pages)
+        .arg(p.blocks)
+        .arg(qint64{p.pages} * p.blocks);
+}
+
 quint64 cellsRequested(const CardParameters &p)
 {
     return static_cast<quint64>(qint64{p.pages} * p.blocks * p.rows * p.columns);

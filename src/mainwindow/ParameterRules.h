@@ -41,6 +41,8 @@ constexpr quint64 maxCells = 10000000; // above it the user is warned
 
 // The first rule that is broken decides.
 [[nodiscard]] Result check(const CardParameters &parameters, const CardSetSize &present);
+// Tells what a new card set will be.
+[[nodiscard]] QString outcome(const CardParameters &parameters);
 // pages x blocks x rows x columns; it does not fit 32 bits at the upper end of the ranges.
 [[nodiscard]] quint64 cellsRequested(const CardParameters &parameters);
 

@@ -204,9 +204,9 @@ void EditPersonale::checkSettings()
 {
     const Verdict verdict = m_tickedNumbers <= m_available ? Verdict::Correct : Verdict::Warning;
     if (verdict == Verdict::Warning) {
-        ui->status_label->setToolTip(tr("I numeri da generare (%1) sono maggiori di quelli disponibili (%2).")
-                                         .arg(m_tickedNumbers)
-                                         .arg(m_available));
+        showReason(tr("I numeri da generare (%1) sono maggiori di quelli disponibili (%2).")
+                       .arg(m_tickedNumbers)
+                       .arg(m_available));
     }
     if (verdict == m_shownVerdict) {
         return;
@@ -214,11 +214,17 @@ void EditPersonale::checkSettings()
     m_shownVerdict = verdict;
     const bool correct = verdict == Verdict::Correct;
     if (correct) {
-        ui->status_label->setToolTip(tr("Impostazioni corrette"));
+        showReason(tr("Impostazioni corrette"));
     }
     ui->status_label->setPixmap(QPixmap(verdictIcon(verdict)));
     ui->actionCreaPagine->setEnabled(correct);
     ui->creapagineButton->setEnabled(correct);
+}
+
+void EditPersonale::showReason(const QString &reason)
+{
+    ui->status_label->setToolTip(reason);
+    ui->status_text->setText(reason);
 }
 
 void EditPersonale::on_creapagineButton_clicked()

@@ -82,6 +82,7 @@ private:
     CELL_VALUE chosenType() const;
     void recountNumbers();
     void checkSettings();
+    void showReason(const QString &reason);
     int clampedPage(int page) const;
     void updatePageRange();
     void createPages();

@@ -619,13 +619,13 @@ void tst_MainWindowGeneration::theMainWindowTakesNoInputWhileTheEditorIsOpen()
     PageWindow page;
     auto *mapping = page.find<QCheckBox>("MappaManuale");
     const auto click = [&]() {
+        page.find<QScrollArea>("parametriScrollArea")->ensureWidgetVisible(mapping);
         // Through the window system, as the mouse does: modality is kept there.
         const QPoint inside(mapping->height() / 2, mapping->height() / 2);
         QTest::mouseClick(page.window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           mapping->mapTo(page.window.get(), inside));
     };
     QVERIFY(QTest::qWaitForWindowExposed(page.window.get()));
-    page.find<QScrollArea>("parametriScrollArea")->ensureWidgetVisible(mapping);
     click();
     QVERIFY(mapping->isChecked());
     EditPersonale *editor = openEditor(page);

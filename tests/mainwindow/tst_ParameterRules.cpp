@@ -44,6 +44,7 @@ private slots:
     void manyCellsAreAWarning_data();
     void manyCellsAreAWarning();
     void cellsThatDoNotFit32BitsAreAWarningToo();
+    void whatNewMakesIsCountedWithoutOverflow();
 };
 
 void tst_ParameterRules::theClassicCardIsCorrect()
@@ -240,6 +241,16 @@ void tst_ParameterRules::cellsThatDoNotFit32BitsAreAWarningToo()
     QCOMPARE(int(result.verdict), 0);
     QVERIFY2(result.message.contains(QStringLiteral("\n63588544965 -> caselle totali richieste.\n")),
              qPrintable(result.message));
+}
+
+void tst_ParameterRules::whatNewMakesIsCountedWithoutOverflow()
+{
+    CardParameters p;
+    p.pages = 65535;
+    p.blocks = 99;
+    QCOMPARE(ParameterRules::outcome(p), QStringLiteral("Nuova: 65535 pagine × 99 blocchi = 6487965 blocchi"));
+    p.manual = true;
+    QCOMPARE(ParameterRules::outcome(p), QStringLiteral("Nuova: si apre l'editor della mappatura manuale"));
 }
 
 QTEST_GUILESS_MAIN(tst_ParameterRules)
