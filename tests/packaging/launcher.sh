@@ -1,25 +1,20 @@
 #!/bin/sh
-# launcher.sh <build folder>: an installation, wherever it is put, starts by its launcher and finds its files.
+# launcher.sh <build folder> [case...]: installs the program, moves it elsewhere and starts it there by its launcher, as an
+# ordinary user. The cases are those of launcher_cases.sh; without names all that need no full disk.
 set -eu
+here=$(dirname "$0")
 scratch=$(mktemp -d)
-program=
-trap '[ -z "$program" ] || kill "$program" 2>/dev/null || true; rm -rf "$scratch"' EXIT
+trap 'chmod -R u+w "$scratch"; rm -rf "$scratch"' EXIT
 
 cmake --install "$1" --prefix "$scratch/installed" >/dev/null
+shift
 mv "$scratch/installed" "$scratch/moved here"
-XDG_DATA_HOME=$scratch/home "$scratch/moved here/bin/quintra" &
-program=$!
+cp "$here/launcher_cases.sh" "$scratch"
 
-# The first-start dialog comments config.ini as soon as it has found a translation.
-folder=$scratch/home/quintra
-for _ in $(seq 200); do
-    if grep -qs '^;' "$folder/config.ini"; then
-        kill -0 "$program"
-        [ -s "$folder/default.png" ]
-        exit 0
-    fi
-    sleep 0.1
-done
-echo "The program did not start with its translations; in its folder:" >&2
-ls -l "$folder" >&2
-exit 1
+user=
+if [ "$(id -u)" -eq 0 ] && [ -z "${QUINTRA_FULL_DISK:-}" ]; then
+    user="setpriv --reuid=65534 --regid=65534 --clear-groups"
+    chown -R 65534:65534 "$scratch"
+fi
+cd "$scratch"
+$user sh launcher_cases.sh "$@"
