@@ -3,11 +3,14 @@
 
 #include "generation/GUtils.h"
 #include "mainwindow/MainWindow.h"
+#include "resources/Resources.h"
 #include "settings/Config.h"
 #include "settings/FormatSelection.h"
+#include "settings/Product.h"
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QIcon>
 #include <QScopeGuard>
 
 #include <memory>
@@ -23,6 +26,17 @@ void runUntilDone(const Window &window)
     globalEventLoop->exec();
 }
 
+// What a desktop shows in its lists and groups windows by. Without a display name: the toolkit would append it to every
+// title.
+void tellTheDesktopWhoWeAre()
+{
+    initQuintraResources();
+    QCoreApplication::setApplicationName(Product::nameText());
+    QCoreApplication::setApplicationVersion(Product::releaseText());
+    QGuiApplication::setDesktopFileName(QStringLiteral("quintra"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/Images/resources/img/Quintra.ico")));
+}
+
 void runFirstStartDialog()
 {
     FormatSelection dialog;
@@ -36,6 +50,7 @@ int startQuintra(int &argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
+    tellTheDesktopWhoWeAre();
 
     const auto forgetAll = qScopeGuard([]() {
         globalUtils = nullptr;

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/MainWindow.h"
+#include "mainwindow/WholeProgram.h"
+#include "msgarea/MsgArea.h"
+#include "personale/EditPersonale.h"
+#include "settings/Config.h"
+#include "settings/FormatSelection.h"
+#include "settings/Options.h"
+#include "support/ScratchFolder.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QProcess>
+#include <QtTest>
+
+using namespace WholeProgram;
+
+namespace {
+// What the X server knows of a window.
+QString property(const QWidget *window, const char *name)
+{
+    QProcess xprop;
+    xprop.start(QStringLiteral("xprop"), {QStringLiteral("-notype"), QStringLiteral("-id"),
+                                          QString::number(window->winId()), QString::fromLatin1(name)});
+    xprop.waitForFinished();
+    return QString::fromUtf8(xprop.readAllStandardOutput()).section(QStringLiteral(" = "), 1).trimmed();
+}
+
+// Title and class of a window as the window manager sees them, and whether there is an icon.
+QString seen(QWidget *window)
+{
+    if (window == nullptr || !QTest::qWaitForWindowExposed(window)) {
+        return QStringLiteral("nothing");
+    }
+    const QString icon =
+        property(window, "_NET_WM_ICON").isEmpty() ? QStringLiteral("no icon") : QStringLiteral("icon");
+    return property(window, "_NET_WM_NAME") + QLatin1Char(' ') + property(window, "WM_CLASS") + QLatin1Char(' ') + icon;
+}
+
+QString expected(const char *title)
+{
+    return QStringLiteral("\"%1\" \"quintra\", \"Quintra\" icon").arg(QString::fromUtf8(title));
+}
+
+template<class Window>
+QString seenAfter(MainWindow *window, const char *actionName)
+{
+    window->findChild<QAction *>(QString::fromLatin1(actionName))->trigger();
+    return seen(shown<Window>());
+}
+} // namespace
+
+// The desktop shows the described titles and nothing more, and knows whose windows these are.
+class tst_DesktopIdentity final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theApplicationHasItsNames();
+    void windowsOfTheFirstStart();
+    void windowsOfLaterStarts();
+    void boxes();
+};
+
+void tst_DesktopIdentity::theApplicationHasItsNames()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    QStringList names;
+    run([&]() {
+        names = QStringList{QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+                            QGuiApplication::desktopFileName()};
+        leave(shown<MainWindow>());
+    });
+    QCOMPARE(names, QStringList({QStringLiteral("Quintra"), QStringLiteral("0.704"), QStringLiteral("quintra")}));
+}
+
+void tst_DesktopIdentity::windowsOfTheFirstStart()
+{
+    const ScratchFolder folder;
+    QStringList titles;
+    run([&]() {
+        titles.append(seen(shown<FormatSelection>()));
+        pressOk(shown<FormatSelection>());
+        whenShown<MainWindow>([&](MainWindow *window) {
+            titles.append(seen(window));
+            leave(window);
+        });
+    });
+    QCOMPARE(titles, QStringList({expected("Quintra v0.704"), expected("Quintra v0.704")}));
+}
+
+void tst_DesktopIdentity::windowsOfLaterStarts()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    QStringList titles;
+    run([&]() {
+        auto *window = shown<MainWindow>();
+        titles.append(seenAfter<MsgArea>(window, "actionInformazioni"));
+        shown<MsgArea>()->close();
+        titles.append(seenAfter<Options>(window, "actionOpzioni"));
+        shown<Options>()->close();
+        window->findChild<QCheckBox *>(QStringLiteral("MappaManuale"))->setChecked(true);
+        titles.append(seenAfter<EditPersonale>(window, "actionCrea"));
+        leave(window);
+    });
+    QCOMPARE(titles, QStringList({expected("Quintra - Informazioni"), expected("Quintra - Opzioni"),
+                                  expected("Quintra v0.704 - MAPPATURA MANUALE")}));
+}
+
+void tst_DesktopIdentity::boxes()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    QStringList titles;
+    const auto look = [&](QMessageBox *box) { titles.append(seen(box)); };
+    run([&]() {
+        WholeProgram::boxes->expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"),
+                                       QMessageBox::Yes, look);
+        shown<MainWindow>()->close();
+    });
+    QCOMPARE(titles, QStringList(expected("Quintra")));
+    // A box without a parent or a title.
+    run([&]() {
+        WholeProgram::boxes->expectBox(QString(), QStringLiteral("text"), QMessageBox::Ok, look);
+        QMessageBox(QMessageBox::Information, QString(), QStringLiteral("text"), QMessageBox::Ok).exec();
+        leave(shown<MainWindow>());
+    });
+    QCOMPARE(titles.last(), expected("Quintra"));
+    QCOMPARE(boxProblems, QStringList());
+}
+
+QTEST_APPLESS_MAIN(tst_DesktopIdentity)
+#include "tst_DesktopIdentity.moc"
