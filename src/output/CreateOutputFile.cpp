@@ -23,6 +23,7 @@ constexpr int failure = -1;
 void setUpPrinter(QPrinter &printer, const QString &fileName, const Cartella &set)
 {
     printer.setDocName(Product::nameAndRelease());
+    printer.setCreator(Product::nameAndRelease());
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(fileName);
     printer.setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(set.formato)));

@@ -51,6 +51,11 @@ QString PdfTools::title(const QString &file)
     return infoLine(file, QStringLiteral("^Title: +(.*)$")).captured(1);
 }
 
+QString PdfTools::creator(const QString &file)
+{
+    return infoLine(file, QStringLiteral("^Creator: +(.*)$")).captured(1);
+}
+
 bool PdfTools::isSound(const QString &file)
 {
     return outputOf("qpdf", {QStringLiteral("--check"), file}).has_value();

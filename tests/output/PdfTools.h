@@ -12,6 +12,7 @@ int pageCount(const QString &file);
 // Of the first page, in points (1/72 inch).
 QSizeF pageSize(const QString &file);
 QString title(const QString &file);
+QString creator(const QString &file);
 // Structure and streams can be read without an error or a warning.
 bool isSound(const QString &file);
 // Everything that is written on the pages, in reading order.

@@ -105,6 +105,7 @@ private slots:
         QVERIFY(printClassic(QStringLiteral("a.pdf"), 4) > 0);
         QVERIFY(PdfTools::isSound(QStringLiteral("a.pdf")));
         QCOMPARE(PdfTools::title(QStringLiteral("a.pdf")), QStringLiteral("Quintra v0.704"));
+        QCOMPARE(PdfTools::creator(QStringLiteral("a.pdf")), QStringLiteral("Quintra v0.704"));
         QCOMPARE(PdfTools::pageCount(QStringLiteral("a.pdf")), 4);
         const QSizeF points = PdfTools::pageSize(QStringLiteral("a.pdf"));
         QVERIFY(std::abs(points.width() - 595.0) <= 1.0 && std::abs(points.height() - 842.0) <= 1.0);
