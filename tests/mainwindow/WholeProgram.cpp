@@ -15,7 +15,6 @@ std::function<void()> user;
 
 void endOfApplication()
 {
-    WholeProgram::boxProblems = WholeProgram::boxes->problems();
     WholeProgram::boxes.reset();
 }
 
@@ -33,7 +32,6 @@ Q_COREAPP_STARTUP_FUNCTION(startOfApplication)
 
 namespace WholeProgram {
 std::unique_ptr<BoxScript> boxes;
-QStringList boxProblems;
 
 int run(const std::function<void()> &actions)
 {

@@ -17,8 +17,6 @@ class MainWindow;
 namespace WholeProgram {
 // While the application lives.
 extern std::unique_ptr<BoxScript> boxes;
-// Those of the last run.
-extern QStringList boxProblems;
 
 // The result of the program.
 int run(const std::function<void()> &actions);

@@ -405,7 +405,6 @@ void tst_LanguageOfWindows::everyTextIsTranslated()
         }
     }
     QVERIFY(translated > 0);
-    QCOMPARE(program.boxes.problems(), QStringList());
 }
 
 void tst_LanguageOfWindows::noTextIsCut_data()
@@ -428,7 +427,6 @@ void tst_LanguageOfWindows::noTextIsCut()
     const QSize needed = shown->size().expandedTo(shown->minimumSizeHint());
     QVERIFY2(needed.width() <= smallestScreen.width(), qPrintable(QString::number(needed.width())));
     QVERIFY2(needed.height() <= smallestScreen.height(), qPrintable(QString::number(needed.height())));
-    QCOMPARE(program.boxes.problems(), QStringList());
 }
 
 void tst_LanguageOfWindows::addLanguages()

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QPointer>
+#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -49,6 +50,9 @@ BoxScript::BoxScript(QObject *parent)
 BoxScript::~BoxScript()
 {
     qApp->removeEventFilter(this);
+    const QStringList wrong = problems();
+    QTest::qVerify(wrong.isEmpty(), "boxes came as scripted", qPrintable(wrong.join(QLatin1Char('\n'))), __FILE__,
+                   __LINE__);
 }
 
 void BoxScript::expectBox(const QString &title, const QString &text, QMessageBox::StandardButton answer,

@@ -10,13 +10,12 @@
 #include <vector>
 
 // Answers the modal boxes and dialogs of a test, in the order given. A box that nobody expected, one that differs from
-// what was expected, and one that never came are problems: end every test with QCOMPARE(script.problems(),
-// QStringList()).
+// what was expected, and one that never came fail the test when the script is destroyed. A test with a window has a
+// script, even an empty one.
 //
 //     BoxScript boxes;
 //     boxes.expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"), QMessageBox::No);
 //     window.close();
-//     QCOMPARE(boxes.problems(), QStringList());
 class BoxScript final : public QObject
 {
     Q_OBJECT
@@ -40,10 +39,10 @@ public:
     void expectFontDialog(const QFont &font);
     void expectFontDialogCancelled();
 
-    // What went wrong until now, and what is still waited for.
-    QStringList problems() const;
     // Boxes answered until now.
     int answered() const { return m_answered; }
+    // What the destructor will complain of: what went wrong until now, and what is still waited for.
+    QStringList problems() const;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
