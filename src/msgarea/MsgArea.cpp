@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QShortcut>
 
 namespace {
 // Content of a Latin-1 file, empty when it cannot be read. A device may give bytes without end.
@@ -35,6 +36,9 @@ MsgArea::MsgArea(QWidget *parent, bool fileMode)
     // The shortcuts of a hidden menu bar would be dead.
     addActions({ui->actionSalva, ui->actionEsci});
     ui->menubar->setVisible(fileMode);
+    if (!fileMode) {
+        connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &MsgArea::close);
+    }
     connect(ui->textEdit, &QTextEdit::textChanged, this, &MsgArea::fileModified);
 }
 

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QMessageBox>
+#include <QWindow>
 
 Options::Options(QWidget *parent)
     : QDialog(nullptr)
@@ -18,9 +19,21 @@ Options::Options(QWidget *parent)
     ui->setupUi(this);
     setWindowTitle(tr("Quintra - Opzioni")); // of its boxes too
     show();
+    if (parent != nullptr && parent->windowHandle() != nullptr) {
+        parent->windowHandle()->installEventFilter(this);
+    }
 }
 
 Options::~Options() = default;
+
+// A click brings the other window, which takes input all the time, to the front. The dialog stays before it.
+bool Options::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::FocusIn) {
+        raise();
+    }
+    return QDialog::eventFilter(watched, event);
+}
 
 void Options::deleteConfig(bool exitAfter)
 {

@@ -26,6 +26,9 @@ public:
     // Removes config.ini, tells the outcome and, after a success, closes the kept window when exitAfter is set.
     void deleteConfig(bool exitAfter);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void on_butt_azzeraesci_clicked();
     void on_butt_azzeracontinua_clicked();

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What only a window manager and the mouse of a real screen can show.
 #include "mainwindow/PageWindow.h"
+#include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
+#include "settings/Options.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QProcess>
 #include <QScreen>
 #include <QScrollArea>
@@ -60,6 +64,16 @@ void showLow(QWidget *window)
     settle();
 }
 
+Options *openOptions()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (auto *options = qobject_cast<Options *>(window)) {
+            return options;
+        }
+    }
+    return nullptr;
+}
+
 int valueOf(const QWidget *input)
 {
     const auto *box = qobject_cast<const QSpinBox *>(input);
@@ -75,6 +89,8 @@ private slots:
     void theMainWindowFillsTheScreen();
     void theWelcomeIsRedWhenTheWindowIsSeen();
     void theNumberOfPagesIsTypedAtOnce();
+    void escapeClosesTheInformation();
+    void theOptionsStayInFrontOfTheMainWindow();
     void theWheelScrollsThePaneUnderItsInputs_data();
     void theWheelScrollsThePaneUnderItsInputs();
     void theWheelChangesTheInputThatHasTheFocus();
@@ -137,6 +153,37 @@ void tst_Desktop::theNumberOfPagesIsTypedAtOnce()
     QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
     onScreen({QStringLiteral("type"), QStringLiteral("50")});
     QCOMPARE(page.find<QSpinBox>("box_classica_numeropagine")->value(), 50);
+}
+
+void tst_Desktop::escapeClosesTheInformation()
+{
+    const PageWindow page;
+    QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    page.find<QAction>("actionInformazioni")->trigger();
+    const QPointer<MsgArea> information = page.window->findChild<MsgArea *>();
+    QVERIFY(QTest::qWaitForWindowActive(information));
+    onScreen({QStringLiteral("key"), QStringLiteral("Escape")});
+    QTRY_VERIFY(information.isNull());
+    QVERIFY(page.window->isVisible());
+}
+
+void tst_Desktop::theOptionsStayInFrontOfTheMainWindow()
+{
+    const PageWindow page;
+    QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    page.find<QAction>("actionOpzioni")->trigger();
+    const QPointer<Options> options = openOptions();
+    QVERIFY(QTest::qWaitForWindowActive(options));
+    options->move(0, 0);
+    auto *all = page.find<QCheckBox>("applica_tutte_pagine_checkBox");
+    QTRY_VERIFY(!options->frameGeometry().contains(middleOnScreen(all)));
+    for (const bool checked : {true, false}) {
+        clickOnScreen(middleOnScreen(all)); // the main window takes input
+        QCOMPARE(all->isChecked(), checked);
+    }
+    auto *button = options->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
+    clickOnScreen(middleOnScreen(button)); // and hides nothing of the dialog
+    QTRY_VERIFY(options.isNull());
 }
 
 void tst_Desktop::theWheelScrollsThePaneUnderItsInputs_data()

@@ -63,6 +63,8 @@ private slots:
     void theMenuBarIsHiddenForMessages();
     void aClosedWindowIsDeleted();
     void escisClosesTheWindow();
+    void escapeClosesAMessage();
+    void escapeLeavesAFileOpen();
     void editingCanBeSwitchedOff();
     void onlyAFileIsMadeForEditing_data();
     void onlyAFileIsMadeForEditing();
@@ -155,6 +157,25 @@ void tst_MsgArea::escisClosesTheWindow()
     const Shown area(true);
     area.action("actionEsci")->trigger();
     QVERIFY(area.isClosed());
+}
+
+void tst_MsgArea::escapeClosesAMessage()
+{
+    const Shown message(false);
+    message.window->setEditable(false);
+    message.window->setText(QStringLiteral("Fatto."), true);
+    message.edit()->setFocus();
+    QTest::keyClick(message.edit(), Qt::Key_Escape);
+    QVERIFY(message.isClosed());
+}
+
+void tst_MsgArea::escapeLeavesAFileOpen()
+{
+    const Shown file(true);
+    file.edit()->setFocus();
+    QTest::keyClick(file.edit(), Qt::Key_Escape);
+    QVERIFY(!file.isClosed());
+    QVERIFY(file.window->isVisible());
 }
 
 void tst_MsgArea::editingCanBeSwitchedOff()
