@@ -6,6 +6,7 @@
 #include "model/Positions.h"
 #include "msgarea/WaitCursor.h"
 #include "ui_MainWindow.h"
+#include "widgets/ElidedTextTips.h"
 
 #include <QHeaderView>
 #include <QMessageBox>
@@ -86,6 +87,7 @@ QTableWidget *MainWindow::replaceTable()
     m_table->setObjectName(QStringLiteral("tableWidget"));
     m_table->setAccessibleName(tr("Celle della pagina"));
     m_table->setTabKeyNavigation(false); // else the keyboard cannot leave it
+    m_table->setItemDelegate(new ElidedTextTips(m_table));
     setTabOrder(ui->pagina_elimina, m_table);
     return m_table;
 }

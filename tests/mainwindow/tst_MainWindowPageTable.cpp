@@ -4,6 +4,9 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 namespace {
 const QString windowTitle = QStringLiteral("Quintra - Cartella classica");
@@ -32,6 +35,7 @@ private slots:
     void theHeadersAreSetUp();
     void shorterRowsEndInGreyItemsThatCannotBeEdited();
     void anEmptyTextShowsTheConfiguredText();
+    void aTextTooLongForItsCellIsReadInItsToolTip();
     void loadingEmptiesTheSelectionPanels();
     void aPageBeyondTheSetIsRefused();
     void theTableTakesTheRoomOfTheOldOne();
@@ -144,6 +148,30 @@ void tst_MainWindowPageTable::anEmptyTextShowsTheConfiguredText()
     w.window->loadPagina(0);
     QCOMPARE(w.item(0, 0)->text(), QStringLiteral("Jolly!"));
     QCOMPARE(w.item(0, 1)->text(), QStringLiteral("ciao"));
+}
+
+void tst_MainWindowPageTable::aTextTooLongForItsCellIsReadInItsToolTip()
+{
+    PageWindow w;
+    w.showPages(1, {1, 1, 2});
+    const QString tooLong = QStringLiteral("Tombola & <tombolini> della sagra");
+    const auto tipOf = [&w](int column) {
+        const QPoint place = w.table()->visualItemRect(w.item(0, column)).center();
+        QHelpEvent asked(QEvent::ToolTip, place, w.table()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(w.table()->viewport(), &asked);
+        return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+    };
+    w.cell(0, 0, 0).tipo = CELL_TESTO;
+    w.cell(0, 0, 0).testo = tooLong;
+    w.cell(0, 0, 1).tipo = CELL_NUMERO;
+    w.cell(0, 0, 1).numero = 90;
+    w.window->loadPagina(0);
+    QCOMPARE(tipOf(1), QString());
+    QCOMPARE(tipOf(0), tooLong);
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible()); // it takes its time
+    w.table()->setColumnWidth(0, 600);
+    QCOMPARE(tipOf(0), QString());
 }
 
 void tst_MainWindowPageTable::loadingEmptiesTheSelectionPanels()
