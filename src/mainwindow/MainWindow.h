@@ -173,7 +173,7 @@ private:
     bool requirePages();
     bool requireSelection();
     bool requireBlock();
-    void openColourPicker(void (MainWindow::*colouringSlot)(QColor));
+    void openColourPicker(const QWidget *button, void (MainWindow::*colouringSlot)(QColor));
     void disconnectColourPicker();
     void recolour(const std::function<void()> &change);
     void recolourCells(QColor Cella::*part, const QColor &colour, const QString &done);
@@ -191,6 +191,7 @@ private:
     QTableWidget *m_tableAsking = nullptr; // the one whose item the user is being asked about
     QColorDialog *m_colorDialog = nullptr; // child, shared by all colour commands
     QFont m_currentFont;
+    QString m_imageFilter; // of file names, the last one chosen for pictures
     QPointer<MsgArea> m_about;
     QPointer<PagePreview> m_preview;  // deletes itself when closed
     QPointer<EditPersonale> m_editor; // deletes itself when closed

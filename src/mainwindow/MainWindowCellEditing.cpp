@@ -174,7 +174,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
     }
     const QString path = QFileDialog::getOpenFileName(
         this, tr("Apre un'immagine da inserire nella cella"), QFileInfo(DefaultCell::imagePath()).absolutePath(),
-        tr("JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)"));
+        tr("JPEG (*.jpg *.jpeg);; TIFF (*.tif);; PNG (*.png);; GIF (*.gif);; BITMAP (*.bmp)"), &m_imageFilter);
     if (path.isEmpty()) {
         qWarning("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");
         return;

@@ -13,16 +13,31 @@
 #include <QScopedValueRollback>
 #include <QTableWidget>
 
+#include <algorithm>
+
 namespace {
 // More lines of equal blocks than these nobody reads.
 constexpr qint64 mostLines = 100000;
 
-// The font as it is drawn: of a family that is not installed the font dialog would choose just any.
-QFont installedFont(QFont font)
+// The font as it is drawn, by the names that the font dialog lists: it chooses just any family or style, such as bold,
+// in place of one that it does not list.
+QFont listedFont(QFont font)
 {
-    if (!QFontDatabase().families().contains(font.family())) {
+    const QFontDatabase fonts;
+    if (!fonts.families().contains(font.family())) {
         font.setFamily(QFontInfo(font).family());
     }
+    const QStringList styles = fonts.styles(font.family());
+    if (styles.contains(font.styleName())) {
+        return font;
+    }
+    const auto distance = [&](const QString &style) {
+        const bool otherSlant = fonts.italic(font.family(), style) != font.italic();
+        return std::make_pair(otherSlant, qAbs(fonts.weight(font.family(), style) - font.weight()));
+    };
+    const auto nearest = std::min_element(
+        styles.cbegin(), styles.cend(), [&](const QString &a, const QString &b) { return distance(a) < distance(b); });
+    font.setStyleName(nearest != styles.cend() ? *nearest : QString());
     return font;
 }
 } // namespace
@@ -58,11 +73,13 @@ bool MainWindow::requireBlock()
     return requirePages() && require(allBlocks || selection().block >= 0, tr("Nessun elemento selezionato!"));
 }
 
-// The next choice of colour reaches this slot and no other, whichever command opened the picker before.
-void MainWindow::openColourPicker(void (MainWindow::*colouringSlot)(QColor))
+// The next choice of colour reaches this slot and no other, whichever command opened the picker before. The title of
+// the picker says what the button colours.
+void MainWindow::openColourPicker(const QWidget *button, void (MainWindow::*colouringSlot)(QColor))
 {
     disconnectColourPicker();
     connect(m_colorDialog, &QColorDialog::colorSelected, this, colouringSlot);
+    m_colorDialog->setWindowTitle(button->toolTip());
     m_colorDialog->show();
 }
 
@@ -86,7 +103,7 @@ void MainWindow::recolour(const std::function<void()> &change)
 void MainWindow::on_colorapaginasfondo_clicked()
 {
     if (requirePages()) {
-        openColourPicker(&MainWindow::coloraPaginaSfondo);
+        openColourPicker(ui->colorapaginasfondo, &MainWindow::coloraPaginaSfondo);
     }
 }
 
@@ -106,7 +123,7 @@ void MainWindow::coloraPaginaSfondo(QColor color)
 void MainWindow::on_colorabloccosfondo_clicked()
 {
     if (requireBlock()) {
-        openColourPicker(&MainWindow::coloraBloccoSfondo);
+        openColourPicker(ui->colorabloccosfondo, &MainWindow::coloraBloccoSfondo);
     }
 }
 
@@ -125,7 +142,7 @@ void MainWindow::coloraBloccoSfondo(QColor color)
 void MainWindow::on_colorabloccolineaesterna_clicked()
 {
     if (requirePages()) {
-        openColourPicker(&MainWindow::coloraBloccoLineaEsterna);
+        openColourPicker(ui->colorabloccolineaesterna, &MainWindow::coloraBloccoLineaEsterna);
     }
 }
 
@@ -138,7 +155,7 @@ void MainWindow::coloraBloccoLineaEsterna(QColor)
 void MainWindow::on_colorabloccolineainterna_clicked()
 {
     if (requirePages()) {
-        openColourPicker(&MainWindow::coloraBloccoLineaInterna);
+        openColourPicker(ui->colorabloccolineainterna, &MainWindow::coloraBloccoLineaInterna);
     }
 }
 
@@ -150,7 +167,7 @@ void MainWindow::coloraBloccoLineaInterna(QColor)
 void MainWindow::on_coloracellatesto_clicked()
 {
     if (requireSelection()) {
-        openColourPicker(&MainWindow::coloraCellaTesto);
+        openColourPicker(ui->coloracellatesto, &MainWindow::coloraCellaTesto);
     }
 }
 
@@ -163,7 +180,7 @@ void MainWindow::coloraCellaTesto(QColor color)
 void MainWindow::on_coloracellasfondo_clicked()
 {
     if (requireSelection()) {
-        openColourPicker(&MainWindow::coloraCellaSfondo);
+        openColourPicker(ui->coloracellasfondo, &MainWindow::coloraCellaSfondo);
     }
 }
 
@@ -242,7 +259,7 @@ void MainWindow::on_applica_tutti_blocchi_checkBox_clicked(bool checked)
 void MainWindow::on_seleziona_font_button_clicked()
 {
     bool chosen = false;
-    const QFont font = QFontDialog::getFont(&chosen, installedFont(m_currentFont), this);
+    const QFont font = QFontDialog::getFont(&chosen, listedFont(m_currentFont), this);
     if (!chosen) {
         return;
     }

@@ -111,6 +111,7 @@ private slots:
     void aClickThatEndsTheEditingPressesAButton();
 
     void anImageIsChosen();
+    void theKindOfFilesIsRemembered();
     void aPresentImageIsAskedAbout();
     void noKeepsThePresentImage();
     void noAtTheEndChangesNothing();
@@ -466,6 +467,26 @@ void tst_MainWindowCellEditing::anImageIsChosen()
     QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(20, 10));
     QCOMPARE(w.cell(0, 0, 0).immagine.pixelColor(3, 3), QColor(Qt::blue));
     QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+}
+
+void tst_MainWindowCellEditing::theKindOfFilesIsRemembered()
+{
+    PageWindow w;
+    showImageCell(w);
+    const QString path = QDir::current().absoluteFilePath(QStringLiteral("default.png"));
+    const QString kind = QStringLiteral("PNG (*.png)");
+    w.boxes.expectFileDialog(openCaption, path, [kind](QWidget *widget) {
+        auto *dialog = qobject_cast<QFileDialog *>(widget);
+        QCOMPARE(dialog->selectedNameFilter(), QStringLiteral("JPEG (*.jpg *.jpeg)"));
+        dialog->selectNameFilter(kind);
+    });
+    expectImageQuestion(w, goOn, QMessageBox::No, QSize(8, 6));
+    w.press("buttSelezionaImmagine");
+    w.boxes.expectFileDialog(openCaption, QString(), [kind](QWidget *widget) {
+        QCOMPARE(qobject_cast<QFileDialog *>(widget)->selectedNameFilter(), kind);
+    });
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowCellEditing::aPresentImageIsAskedAbout()

@@ -5,6 +5,8 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QFontDialog>
+#include <QFontInfo>
 #include <QTextEdit>
 
 namespace {
@@ -97,6 +99,9 @@ private slots:
     void commandsWithoutEffectSayNothing();
     void idleCommandsSayThatTheyHaveNoEffect();
 
+    void thePickerSaysWhatItColours_data();
+    void thePickerSaysWhatItColours();
+    void aNewSizeAloneChangesNoWeight();
     void theFontReachesTheSelection();
     void theFontReachesAllPages();
     void theFontSkipsMissingCells();
@@ -551,6 +556,57 @@ void tst_MainWindowStyling::idleCommandsSayThatTheyHaveNoEffect()
                              "dimlineaext_spin", "dimlineaint_spin"}) {
         QVERIFY2(w.find<QWidget>(idle)->toolTip().contains(QStringLiteral("non ha ancora effetto")), idle);
     }
+}
+
+void tst_MainWindowStyling::thePickerSaysWhatItColours_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::newRow("colorapaginasfondo") << QStringLiteral("Colore di sfondo della pagina");
+    QTest::newRow("colorabloccosfondo") << QStringLiteral("Colore di sfondo delle celle del blocco");
+    QTest::newRow("colorabloccolineaesterna")
+        << QStringLiteral("Colore della linea esterna del blocco (non ha ancora effetto)");
+    QTest::newRow("colorabloccolineainterna")
+        << QStringLiteral("Colore delle linee interne del blocco (non ha ancora effetto)");
+    QTest::newRow("coloracellatesto") << QStringLiteral("Colore del testo delle celle selezionate");
+    QTest::newRow("coloracellasfondo") << QStringLiteral("Colore di sfondo delle celle selezionate");
+}
+
+void tst_MainWindowStyling::thePickerSaysWhatItColours()
+{
+    QFETCH(QString, title);
+    PageWindow w;
+    w.showPages(1, {1, 1, 1});
+    w.select(0, 0);
+    w.press(QTest::currentDataTag());
+    QVERIFY(w.picker()->isVisible());
+    QCOMPARE(w.picker()->windowTitle(), title);
+    w.picker()->reject();
+    QCOMPARE(w.boxes.problems(), QStringList());
+}
+
+// The family of the first font is not installed everywhere.
+void tst_MainWindowStyling::aNewSizeAloneChangesNoWeight()
+{
+    PageWindow w;
+    w.showPages(1, {1, 1, 2});
+    w.select(0, 0);
+    const QString drawn = QFontInfo(QFont(QStringLiteral("Arial"), 30)).family();
+    const auto makeLarger = [drawn](QFontDialog *dialog) {
+        QLineEdit *size = nullptr;
+        for (QLineEdit *edit : dialog->findChildren<QLineEdit *>()) {
+            size = edit->text() == QLatin1String("30") ? edit : size;
+        }
+        QVERIFY(size != nullptr);
+        size->setText(QStringLiteral("31"));
+        QCOMPARE(dialog->currentFont().family(), drawn);
+    };
+    w.boxes.expectFontDialog(makeLarger);
+    w.press("seleziona_font_button");
+    const QFont chosen = w.cell(0, 0, 0).font;
+    QCOMPARE(chosen.pointSize(), 31);
+    QCOMPARE(QFontInfo(chosen).weight(), int(QFont::Normal));
+    QVERIFY(!QFontInfo(chosen).italic());
+    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowStyling::theFontReachesTheSelection()

@@ -111,12 +111,17 @@ void BoxScript::expectFileDialog(const QString &caption, const QString &path, st
 
 void BoxScript::expectFontDialog(const QFont &font)
 {
+    expectFontDialog([font](QFontDialog *dialog) { dialog->setCurrentFont(font); });
+}
+
+void BoxScript::expectFontDialog(std::function<void(QFontDialog *)> choose)
+{
     const auto play = [=](QWidget *dialog) {
         auto *chooser = qobject_cast<QFontDialog *>(dialog);
         if (chooser == nullptr) {
             return QStringLiteral("is not the one expected");
         }
-        chooser->setCurrentFont(font);
+        choose(chooser);
         chooser->accept();
         return QString();
     };

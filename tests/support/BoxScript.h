@@ -9,6 +9,8 @@
 #include <functional>
 #include <vector>
 
+class QFontDialog;
+
 // Answers the modal boxes and dialogs of a test, in the order given. A box that nobody expected, one that differs from
 // what was expected, and one that never came fail the test when the script is destroyed. A test with a window has a
 // script, even an empty one.
@@ -37,6 +39,8 @@ public:
     void expectFileDialog(const QString &caption, const QString &path, std::function<void(QWidget *)> look);
     // A font dialog: `font` is chosen, or it is cancelled.
     void expectFontDialog(const QFont &font);
+    // A font dialog in which `choose` does what the user does, before it is accepted.
+    void expectFontDialog(std::function<void(QFontDialog *)> choose);
     void expectFontDialogCancelled();
 
     // Boxes answered until now.
