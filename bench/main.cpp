@@ -19,9 +19,8 @@ int main(int argc, char **argv)
     const QTemporaryDir folder; // config.ini and the printed files
     QDir::setCurrent(folder.path());
     GUtils utils(qApp);
-    Config config(qApp);
+    CurrentConfig config(qApp);
     globalUtils = &utils;
-    globalConfig = &config;
 
     const int result = runBenchmarksAndPrintRatios();
     QDir::setCurrent(QDir::rootPath());

@@ -23,9 +23,8 @@ constexpr int lastNumber = 90;
 int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
-    const GUtils utils(qApp); // seeds the random generator
-    Config config(qApp);      // defaults, from config.ini in the current folder
-    globalConfig = &config;
+    const GUtils utils(qApp);   // seeds the random generator
+    CurrentConfig config(qApp); // defaults, from config.ini in the current folder
     QTextStream out(stdout);
 
     Cartella cards(pages, blocks, rows, columns);

@@ -54,18 +54,16 @@ int startQuintra(int &argc, char **argv)
 
     const auto forgetAll = qScopeGuard([]() {
         globalUtils = nullptr;
-        globalConfig = nullptr;
         globalEventLoop = nullptr;
     });
     // Not in the order of creation, so that the loop goes first and the configuration last.
-    std::unique_ptr<Config> config;
+    std::unique_ptr<CurrentConfig> config;
     std::unique_ptr<GUtils> utils;
     std::unique_ptr<QEventLoop> loop;
 
     utils = std::make_unique<GUtils>(qApp);
     globalUtils = utils.get();
-    config = std::make_unique<Config>(qApp);
-    globalConfig = config.get();
+    config = std::make_unique<CurrentConfig>(qApp);
     loop = std::make_unique<QEventLoop>();
     globalEventLoop = loop.get();
 

@@ -271,3 +271,14 @@ QString Config::formatName(int id) const
     Q_UNUSED(id)
     return QStringLiteral("UNKNOWN");
 }
+
+CurrentConfig::CurrentConfig(QCoreApplication *program)
+    : Config(program)
+{
+    globalConfig = this;
+}
+
+CurrentConfig::~CurrentConfig()
+{
+    globalConfig = nullptr;
+}

@@ -6,7 +6,7 @@
 class QCoreApplication;
 
 // The defaults of the program, read from config.ini in the current folder (looked up anew at every access).
-class Config final
+class Config
 {
 public:
     // Reads the file; without one, writes the defaults and remembers that this is a first start.
@@ -57,5 +57,14 @@ private:
     void writeDefaults(const QString &path);
 };
 
-// Set by the start-up routine, which owns the object.
+// Null when there is none.
 extern Config *globalConfig;
+
+// The one that everybody reads, for as long as it lives.
+class CurrentConfig final : public Config
+{
+public:
+    explicit CurrentConfig(QCoreApplication *program);
+    ~CurrentConfig();
+    Q_DISABLE_COPY_MOVE(CurrentConfig)
+};

@@ -43,20 +43,18 @@ private slots:
 
 private:
     std::unique_ptr<ScratchFolder> m_folder;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
 };
 
 void tst_DefaultCell::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
-    m_config = std::make_unique<Config>(QCoreApplication::instance());
-    globalConfig = m_config.get();
+    m_config = std::make_unique<CurrentConfig>(QCoreApplication::instance());
     globalConfig->defaultCellImage = m_folder->path(QStringLiteral("default.png"));
 }
 
 void tst_DefaultCell::cleanup()
 {
-    globalConfig = nullptr;
     m_config.reset();
     m_folder.reset();
 }
@@ -122,7 +120,7 @@ void tst_DefaultCell::withoutAConfigurationThereIsNothing()
 {
     m_folder->writePicture(QStringLiteral("default.png"), QSize(7, 5), Qt::red);
     QCOMPARE(DefaultCell::imagePath(), m_folder->path(QStringLiteral("default.png")));
-    globalConfig = nullptr;
+    m_config.reset();
     QCOMPARE(DefaultCell::text(), QString());
     QCOMPARE(DefaultCell::imagePath(), QString());
     QVERIFY(DefaultCell::image().isNull());

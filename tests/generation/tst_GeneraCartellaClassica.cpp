@@ -300,22 +300,20 @@ private slots:
 
 private:
     std::unique_ptr<ScratchFolder> m_folder;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
 };
 
 void tst_GeneraCartellaClassica::initTestCase()
 {
     m_folder = std::make_unique<ScratchFolder>();
     m_folder->writePicture(QStringLiteral("jolly.png"), QSize(7, 5), Qt::red);
-    m_config = std::make_unique<Config>(QCoreApplication::instance());
-    globalConfig = m_config.get();
+    m_config = std::make_unique<CurrentConfig>(QCoreApplication::instance());
     globalConfig->defaultCellText = QStringLiteral("Jolly!");
     globalConfig->defaultCellImage = m_folder->path(QStringLiteral("jolly.png"));
 }
 
 void tst_GeneraCartellaClassica::cleanupTestCase()
 {
-    globalConfig = nullptr;
     m_config.reset();
     m_folder.reset();
 }

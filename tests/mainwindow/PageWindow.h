@@ -33,14 +33,8 @@ class PageWindow final
 public:
     PageWindow()
         : config((m_folder.writePicture(QStringLiteral("default.png"), QSize(8, 6), Qt::red), qApp))
+        , window(std::make_unique<MainWindow>())
     {
-        globalConfig = &config;
-        window = std::make_unique<MainWindow>();
-    }
-    ~PageWindow()
-    {
-        window.reset();
-        globalConfig = nullptr;
     }
     Q_DISABLE_COPY_MOVE(PageWindow)
 
@@ -116,7 +110,7 @@ private:
     ScratchFolder m_folder;
 
 public:
-    Config config;
+    CurrentConfig config;
     BoxScript boxes;
     std::unique_ptr<MainWindow> window;
 };

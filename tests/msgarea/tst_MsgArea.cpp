@@ -103,19 +103,17 @@ private slots:
 
 private:
     std::unique_ptr<ScratchFolder> m_folder;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
 };
 
 void tst_MsgArea::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
-    m_config = std::make_unique<Config>(nullptr);
-    globalConfig = m_config.get();
+    m_config = std::make_unique<CurrentConfig>(nullptr);
 }
 
 void tst_MsgArea::cleanup()
 {
-    globalConfig = nullptr;
     m_config.reset();
     m_folder.reset();
 }

@@ -33,14 +33,12 @@ private slots:
     void init()
     {
         m_folder = std::make_unique<ScratchFolder>();
-        m_config = std::make_unique<Config>(qApp);
-        globalConfig = m_config.get();
+        m_config = std::make_unique<CurrentConfig>(qApp);
         m_report.clear();
     }
 
     void cleanup()
     {
-        globalConfig = nullptr;
         m_config.reset();
         m_folder.reset();
     }
@@ -229,7 +227,7 @@ private:
     }
 
     std::unique_ptr<ScratchFolder> m_folder;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
     QString m_report;
 };
 

@@ -67,19 +67,17 @@ private:
     QString path() const { return m_folder->path(name); }
 
     std::unique_ptr<ScratchFolder> m_folder;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
 };
 
 void tst_PrintFaults::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
-    m_config = std::make_unique<Config>(qApp);
-    globalConfig = m_config.get();
+    m_config = std::make_unique<CurrentConfig>(qApp);
 }
 
 void tst_PrintFaults::cleanup()
 {
-    globalConfig = nullptr;
     m_config.reset();
     m_folder.reset();
 }

@@ -24,16 +24,11 @@ struct EditorUnderTest
     explicit EditorUnderTest(U8 rows = 3, U8 columns = 9, U16 pages = 2, int nmin = 1, int nmax = 90)
         : config(qApp)
     {
-        globalConfig = &config;
         config.defaultSaveDir = folder.path(QString());
         mainWindow.show();
         editor = new EditPersonale(&mainWindow, &cartella, rows, columns, pages, nmin, nmax, 0);
     }
-    ~EditorUnderTest()
-    {
-        delete editor;
-        globalConfig = nullptr;
-    }
+    ~EditorUnderTest() { delete editor; }
     Q_DISABLE_COPY_MOVE(EditorUnderTest)
 
     template<typename T>
@@ -148,7 +143,7 @@ struct EditorUnderTest
     }
 
     ScratchFolder folder;
-    Config config;
+    CurrentConfig config;
     BoxScript boxes;
     Cartella cartella;
     QWidget mainWindow;

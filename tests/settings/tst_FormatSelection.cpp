@@ -125,7 +125,7 @@ private:
     QByteArray m_italian;
     std::unique_ptr<ScratchFolder> m_folder;
     std::unique_ptr<GUtils> m_utils;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
 };
 
 void tst_FormatSelection::initTestCase()
@@ -138,15 +138,13 @@ void tst_FormatSelection::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
     m_utils = std::make_unique<GUtils>(qApp);
-    m_config = std::make_unique<Config>(qApp);
+    m_config = std::make_unique<CurrentConfig>(qApp);
     globalUtils = m_utils.get();
-    globalConfig = m_config.get();
 }
 
 void tst_FormatSelection::cleanup()
 {
     globalUtils = nullptr;
-    globalConfig = nullptr;
     m_config.reset();
     m_utils.reset();
     m_folder.reset();

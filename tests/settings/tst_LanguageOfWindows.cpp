@@ -53,14 +53,9 @@ public:
         : config((prepareFolder(), qApp))
         , utils(qApp)
     {
-        globalConfig = &config;
         globalUtils = &utils;
     }
-    ~Program()
-    {
-        globalConfig = nullptr;
-        globalUtils = nullptr;
-    }
+    ~Program() { globalUtils = nullptr; }
     Q_DISABLE_COPY_MOVE(Program)
 
     bool speak(const QString &language)
@@ -82,7 +77,7 @@ private:
 
 public:
     ScratchFolder folder;
-    Config config;
+    CurrentConfig config;
     GUtils utils;
     BoxScript boxes;
 };

@@ -76,7 +76,7 @@ private:
     bool hasConfig() const;
 
     std::unique_ptr<ScratchFolder> m_folder;
-    std::unique_ptr<Config> m_config;
+    std::unique_ptr<CurrentConfig> m_config;
     std::unique_ptr<Window> m_window;
     QPointer<Options> m_options;
 };
@@ -84,8 +84,7 @@ private:
 void tst_Options::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
-    m_config = std::make_unique<Config>(qApp);
-    globalConfig = m_config.get();
+    m_config = std::make_unique<CurrentConfig>(qApp);
     m_window = std::make_unique<Window>();
     m_window->show();
     m_options = new Options(m_window.get());
@@ -96,7 +95,6 @@ void tst_Options::cleanup()
 {
     delete m_options;
     m_window.reset();
-    globalConfig = nullptr;
     m_config.reset();
     m_folder.reset();
 }
