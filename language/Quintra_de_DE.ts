@@ -45,6 +45,17 @@ Die Karten einer Seite sind immer verschieden.</translation>
     </message>
 </context>
 <context>
+    <name>CaselleDelegate</name>
+    <message>
+        <source>%1, chiamato</source>
+        <translation>%1, gezogen</translation>
+    </message>
+    <message>
+        <source>%1, non chiamato</source>
+        <translation>%1, nicht gezogen</translation>
+    </message>
+</context>
+<context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
@@ -449,6 +460,17 @@ Größe: %5 Bytes (%6 MB)
 %1</source>
         <translation>Es gibt keine Seiten.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ElencoSchede</name>
+    <message>
+        <source>%1: chiamata %2</source>
+        <translation>%1: Zug %2</translation>
+    </message>
+    <message>
+        <source>%1: manca il %2</source>
+        <translation>%1: es fehlt %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1243,30 @@ Möchten Sie sie ansehen?</translation>
         <source>Linea interna</source>
         <translation>Innenlinie</translation>
     </message>
+    <message>
+        <source>Salva registro...</source>
+        <translation>Register speichern...</translation>
+    </message>
+    <message>
+        <source>Salva le schede in un file di testo, una per riga</source>
+        <translation>Karten in einer Textdatei speichern, eine pro Zeile</translation>
+    </message>
+    <message>
+        <source>Serata...</source>
+        <translation>Spielabend...</translation>
+    </message>
+    <message>
+        <source>Chiama i numeri e controlla le schede</source>
+        <translation>Zahlen ziehen und Karten prüfen</translation>
+    </message>
+    <message>
+        <source>Salva il registro su file</source>
+        <translation>Register in Datei speichern</translation>
+    </message>
+    <message>
+        <source>Registro salvato.</source>
+        <translation>Register gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1294,6 +1340,33 @@ Möchten Sie sie ansehen?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Fehler beim Speichern der Datei!</translation>
+    </message>
+</context>
+<context>
+    <name>NuovaPartita</name>
+    <message>
+        <source>Quintra - Nuova partita</source>
+        <translation>Quintra - Neue Runde</translation>
+    </message>
+    <message>
+        <source>Numeri da</source>
+        <translation>Zahlen von</translation>
+    </message>
+    <message>
+        <source>Il numero minimo del tabellone</source>
+        <translation>Die kleinste Zahl der Tafel</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>Il numero massimo del tabellone</source>
+        <translation>Die größte Zahl der Tafel</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati (%1) saranno tolti tutti.</source>
+        <translation>Alle gezogenen Zahlen (%1) werden zurückgenommen.</translation>
     </message>
 </context>
 <context>
@@ -1496,27 +1569,27 @@ eccedono il massimo consentito (%2).</source>
 <context>
     <name>Premi</name>
     <message>
-        <source>ambo</source>
+        <source>Ambo</source>
         <translation>Zweier</translation>
     </message>
     <message>
-        <source>terno</source>
+        <source>Terno</source>
         <translation>Dreier</translation>
     </message>
     <message>
-        <source>quaterna</source>
+        <source>Quaterna</source>
         <translation>Vierer</translation>
     </message>
     <message>
-        <source>cinquina</source>
+        <source>Cinquina</source>
         <translation>Linie</translation>
     </message>
     <message>
-        <source>due cinquine</source>
-        <translation>zwei Linien</translation>
+        <source>Due cinquine</source>
+        <translation>Zwei Linien</translation>
     </message>
     <message>
-        <source>tombola</source>
+        <source>Tombola</source>
         <translation>Bingo</translation>
     </message>
 </context>
@@ -1577,6 +1650,249 @@ eccedono il massimo consentito (%2).</source>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
         <translation>Die Liste geht bis Zeile %1 weiter.</translation>
+    </message>
+</context>
+<context>
+    <name>Serata</name>
+    <message>
+        <source>Quintra - Serata</source>
+        <translation>Quintra - Spielabend</translation>
+    </message>
+    <message>
+        <source>L&apos;ultimo numero chiamato</source>
+        <translation>Die zuletzt gezogene Zahl</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati prima</source>
+        <translation>Die zuvor gezogenen Zahlen</translation>
+    </message>
+    <message>
+        <source>Un clic chiama un numero, un altro lo toglie</source>
+        <translation>Ein Klick zieht eine Zahl, ein zweiter nimmt sie zurück</translation>
+    </message>
+    <message>
+        <source>Tabellone</source>
+        <translation>Zahlentafel</translation>
+    </message>
+    <message>
+        <source>Chiamata</source>
+        <translation>Ziehung</translation>
+    </message>
+    <message>
+        <source>Numero</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <translation>Die gezogene Zahl; eine schon gezogene wird zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Chiama a caso uno dei numeri rimasti</source>
+        <translation>Eine der übrigen Zahlen zufällig ziehen</translation>
+    </message>
+    <message>
+        <source>Estrai</source>
+        <translation>Ziehen</translation>
+    </message>
+    <message>
+        <source>Controllo di una scheda</source>
+        <translation>Prüfung einer Karte</translation>
+    </message>
+    <message>
+        <source>Scheda</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Pagina e scheda, per esempio 12.3</source>
+        <translation>Seite und Karte, zum Beispiel 12.3</translation>
+    </message>
+    <message>
+        <source>Mostra la scheda con i numeri chiamati</source>
+        <translation>Karte mit den gezogenen Zahlen anzeigen</translation>
+    </message>
+    <message>
+        <source>Controlla</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Che cosa ha la scheda, e con quale chiamata</source>
+        <translation>Was die Karte hat und mit welchem Zug</translation>
+    </message>
+    <message>
+        <source>Vincite</source>
+        <translation>Gewinne</translation>
+    </message>
+    <message>
+        <source>Schede</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Le schede con tutti i numeri chiamati</source>
+        <translation>Die Karten, deren Zahlen alle gezogen sind</translation>
+    </message>
+    <message>
+        <source>Le schede a cui manca un solo numero</source>
+        <translation>Die Karten, denen nur eine Zahl fehlt</translation>
+    </message>
+    <message>
+        <source>Chiama un numero</source>
+        <translation>Zahl eingeben</translation>
+    </message>
+    <message>
+        <source>Controlla una scheda</source>
+        <translation>Karte prüfen</translation>
+    </message>
+    <message>
+        <source>Nuova partita...</source>
+        <translation>Neue Runde...</translation>
+    </message>
+    <message>
+        <source>Toglie tutti i numeri chiamati e ricomincia</source>
+        <translation>Alle gezogenen Zahlen zurücknehmen und neu beginnen</translation>
+    </message>
+    <message>
+        <source>Apri registro...</source>
+        <translation>Register öffnen...</translation>
+    </message>
+    <message>
+        <source>Apre un registro</source>
+        <translation>Register öffnen</translation>
+    </message>
+    <message>
+        <source>Schermo intero</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Chiudi</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>%1: chiamata %2, numero %3</source>
+        <translation>%1: Zug %2, Zahl %3</translation>
+    </message>
+    <message>
+        <source>Nessuna vincita</source>
+        <translation>Kein Gewinn</translation>
+    </message>
+    <message>
+        <source>La partita non si può cominciare.</source>
+        <translation>Die Runde kann nicht beginnen.</translation>
+    </message>
+    <message>
+        <source>Nuova partita, numeri da %1 a %2.</source>
+        <translation>Neue Runde, Zahlen von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
+        <translation>Nicht im Spiel: %1. Die Zahlen gehen von %2 bis %3!</translation>
+    </message>
+    <message>
+        <source>La chiamata non si può salvare, nulla è cambiato.</source>
+        <translation>Der Zug kann nicht gespeichert werden, nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Chiamato il %1.</source>
+        <translation>Gezogen: %1.</translation>
+    </message>
+    <message>
+        <source>Tolto il %1.</source>
+        <translation>Zurückgenommen: %1.</translation>
+    </message>
+    <message>
+        <source>Tutti i numeri sono stati chiamati!</source>
+        <translation>Alle Zahlen sind gezogen!</translation>
+    </message>
+    <message>
+        <source>Scrivere un numero da %1 a %2!</source>
+        <translation>Bitte eine Zahl eingeben, von %1 bis %2!</translation>
+    </message>
+    <message>
+        <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
+        <translation>Bitte Seite und Karte eingeben, zum Beispiel 12.3!</translation>
+    </message>
+    <message>
+        <source>La scheda %1 non esiste!</source>
+        <translation>Es gibt keine Karte %1!</translation>
+    </message>
+    <message>
+        <source>Scheda %1.</source>
+        <translation>Karte %1.</translation>
+    </message>
+    <message>
+        <source>Numeri chiamati: %1 di %2</source>
+        <translation>Gezogene Zahlen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Manca un numero: %1</source>
+        <translation>Eine Zahl fehlt: %1</translation>
+    </message>
+    <message>
+        <source>Nessuna scheda</source>
+        <translation>Keine Karte</translation>
+    </message>
+    <message>
+        <source>Scheda %1</source>
+        <translation>Karte %1</translation>
+    </message>
+    <message>
+        <source>La serata di prima non si può mettere da parte.</source>
+        <translation>Der vorige Spielabend kann nicht beiseitegelegt werden.</translation>
+    </message>
+    <message>
+        <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
+
+Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
+        <translation>Es gibt einen Spielabend mit anderen Karten (gezogene Zahlen: %2) in %1.
+
+Diesen fortsetzen? Mit Nein beginnt ein neuer, und dieser wird beiseitegelegt.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare in %1.</source>
+        <translation>Der Spielabend kann nicht in %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Dove salvare la serata</source>
+        <translation>Ordner für den Spielabend</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere.</source>
+        <translation>Das Register kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Il registro non contiene schede.</source>
+        <translation>Das Register enthält keine Karten.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare accanto al registro.</source>
+        <translation>Der Spielabend kann nicht neben dem Register gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>La serata non può continuare.</source>
+        <translation>Der Spielabend kann nicht fortgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</source>
+        <translation>Karten: %1. Zahlen von %2 bis %3. Gezogen: %4.</translation>
+    </message>
+    <message>
+        <source>Questo registro è già aperto.</source>
+        <translation>Dieses Register ist schon geöffnet.</translation>
+    </message>
+    <message>
+        <source>&amp;Partita</source>
+        <translation>&amp;Runde</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,17 @@ The cards on a page are always different.</translation>
     </message>
 </context>
 <context>
+    <name>CaselleDelegate</name>
+    <message>
+        <source>%1, chiamato</source>
+        <translation>%1, called</translation>
+    </message>
+    <message>
+        <source>%1, non chiamato</source>
+        <translation>%1, not called</translation>
+    </message>
+</context>
+<context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
@@ -449,6 +460,17 @@ Size: %5 bytes (%6 MB)
 %1</source>
         <translation>There are no pages.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ElencoSchede</name>
+    <message>
+        <source>%1: chiamata %2</source>
+        <translation>%1: call %2</translation>
+    </message>
+    <message>
+        <source>%1: manca il %2</source>
+        <translation>%1: needs %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1243,30 @@ Do you want to see them?</translation>
         <source>Linea interna</source>
         <translation>Inner line</translation>
     </message>
+    <message>
+        <source>Salva registro...</source>
+        <translation>Save register...</translation>
+    </message>
+    <message>
+        <source>Salva le schede in un file di testo, una per riga</source>
+        <translation>Saves the cards to a text file, one a line</translation>
+    </message>
+    <message>
+        <source>Serata...</source>
+        <translation>Bingo night...</translation>
+    </message>
+    <message>
+        <source>Chiama i numeri e controlla le schede</source>
+        <translation>Calls the numbers and checks the cards</translation>
+    </message>
+    <message>
+        <source>Salva il registro su file</source>
+        <translation>Save the register to a file</translation>
+    </message>
+    <message>
+        <source>Registro salvato.</source>
+        <translation>Register saved.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1294,6 +1340,33 @@ Do you want to see them?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Error while saving the file!</translation>
+    </message>
+</context>
+<context>
+    <name>NuovaPartita</name>
+    <message>
+        <source>Quintra - Nuova partita</source>
+        <translation>Quintra - New game</translation>
+    </message>
+    <message>
+        <source>Numeri da</source>
+        <translation>Numbers from</translation>
+    </message>
+    <message>
+        <source>Il numero minimo del tabellone</source>
+        <translation>The lowest number of the board</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Il numero massimo del tabellone</source>
+        <translation>The highest number of the board</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati (%1) saranno tolti tutti.</source>
+        <translation>The numbers called (%1) will all be taken back.</translation>
     </message>
 </context>
 <context>
@@ -1496,28 +1569,28 @@ exceeds the maximum allowed (%2).</translation>
 <context>
     <name>Premi</name>
     <message>
-        <source>ambo</source>
-        <translation>two in a line</translation>
+        <source>Ambo</source>
+        <translation>Two in a line</translation>
     </message>
     <message>
-        <source>terno</source>
-        <translation>three in a line</translation>
+        <source>Terno</source>
+        <translation>Three in a line</translation>
     </message>
     <message>
-        <source>quaterna</source>
-        <translation>four in a line</translation>
+        <source>Quaterna</source>
+        <translation>Four in a line</translation>
     </message>
     <message>
-        <source>cinquina</source>
-        <translation>line</translation>
+        <source>Cinquina</source>
+        <translation>Line</translation>
     </message>
     <message>
-        <source>due cinquine</source>
-        <translation>two lines</translation>
+        <source>Due cinquine</source>
+        <translation>Two lines</translation>
     </message>
     <message>
-        <source>tombola</source>
-        <translation>full house</translation>
+        <source>Tombola</source>
+        <translation>Full house</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1650,249 @@ exceeds the maximum allowed (%2).</translation>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
         <translation>The list goes on to line %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Serata</name>
+    <message>
+        <source>Quintra - Serata</source>
+        <translation>Quintra - Bingo night</translation>
+    </message>
+    <message>
+        <source>L&apos;ultimo numero chiamato</source>
+        <translation>The last number called</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati prima</source>
+        <translation>The numbers called before</translation>
+    </message>
+    <message>
+        <source>Un clic chiama un numero, un altro lo toglie</source>
+        <translation>A click calls a number, another takes it back</translation>
+    </message>
+    <message>
+        <source>Tabellone</source>
+        <translation>Board</translation>
+    </message>
+    <message>
+        <source>Chiamata</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Numero</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <translation>The number to call; one called already is taken back</translation>
+    </message>
+    <message>
+        <source>Chiama a caso uno dei numeri rimasti</source>
+        <translation>Calls one of the remaining numbers at random</translation>
+    </message>
+    <message>
+        <source>Estrai</source>
+        <translation>Draw</translation>
+    </message>
+    <message>
+        <source>Controllo di una scheda</source>
+        <translation>Checking a card</translation>
+    </message>
+    <message>
+        <source>Scheda</source>
+        <translation>Card</translation>
+    </message>
+    <message>
+        <source>Pagina e scheda, per esempio 12.3</source>
+        <translation>Page and card, for example 12.3</translation>
+    </message>
+    <message>
+        <source>Mostra la scheda con i numeri chiamati</source>
+        <translation>Shows the card with the numbers called</translation>
+    </message>
+    <message>
+        <source>Controlla</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>Che cosa ha la scheda, e con quale chiamata</source>
+        <translation>What the card has, and by which call</translation>
+    </message>
+    <message>
+        <source>Vincite</source>
+        <translation>Wins</translation>
+    </message>
+    <message>
+        <source>Schede</source>
+        <translation>Cards</translation>
+    </message>
+    <message>
+        <source>Le schede con tutti i numeri chiamati</source>
+        <translation>The cards with all numbers called</translation>
+    </message>
+    <message>
+        <source>Le schede a cui manca un solo numero</source>
+        <translation>The cards that need only one number</translation>
+    </message>
+    <message>
+        <source>Chiama un numero</source>
+        <translation>Call a number</translation>
+    </message>
+    <message>
+        <source>Controlla una scheda</source>
+        <translation>Check a card</translation>
+    </message>
+    <message>
+        <source>Nuova partita...</source>
+        <translation>New game...</translation>
+    </message>
+    <message>
+        <source>Toglie tutti i numeri chiamati e ricomincia</source>
+        <translation>Takes all called numbers back and begins again</translation>
+    </message>
+    <message>
+        <source>Apri registro...</source>
+        <translation>Open register...</translation>
+    </message>
+    <message>
+        <source>Apre un registro</source>
+        <translation>Open a register</translation>
+    </message>
+    <message>
+        <source>Schermo intero</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>Chiudi</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>picture</translation>
+    </message>
+    <message>
+        <source>%1: chiamata %2, numero %3</source>
+        <translation>%1: call %2, number %3</translation>
+    </message>
+    <message>
+        <source>Nessuna vincita</source>
+        <translation>No win</translation>
+    </message>
+    <message>
+        <source>La partita non si può cominciare.</source>
+        <translation>The game cannot be begun.</translation>
+    </message>
+    <message>
+        <source>Nuova partita, numeri da %1 a %2.</source>
+        <translation>New game, numbers from %1 to %2.</translation>
+    </message>
+    <message>
+        <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
+        <translation>Not in play: %1. The numbers go from %2 to %3!</translation>
+    </message>
+    <message>
+        <source>La chiamata non si può salvare, nulla è cambiato.</source>
+        <translation>The call cannot be saved, nothing has changed.</translation>
+    </message>
+    <message>
+        <source>Chiamato il %1.</source>
+        <translation>Called: %1.</translation>
+    </message>
+    <message>
+        <source>Tolto il %1.</source>
+        <translation>Taken back: %1.</translation>
+    </message>
+    <message>
+        <source>Tutti i numeri sono stati chiamati!</source>
+        <translation>All numbers have been called!</translation>
+    </message>
+    <message>
+        <source>Scrivere un numero da %1 a %2!</source>
+        <translation>Please type a number from %1 to %2!</translation>
+    </message>
+    <message>
+        <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
+        <translation>Please type page and card, for example 12.3!</translation>
+    </message>
+    <message>
+        <source>La scheda %1 non esiste!</source>
+        <translation>There is no card %1!</translation>
+    </message>
+    <message>
+        <source>Scheda %1.</source>
+        <translation>Card %1.</translation>
+    </message>
+    <message>
+        <source>Numeri chiamati: %1 di %2</source>
+        <translation>Numbers called: %1 of %2</translation>
+    </message>
+    <message>
+        <source>Manca un numero: %1</source>
+        <translation>One to go: %1</translation>
+    </message>
+    <message>
+        <source>Nessuna scheda</source>
+        <translation>No card</translation>
+    </message>
+    <message>
+        <source>Scheda %1</source>
+        <translation>Card %1</translation>
+    </message>
+    <message>
+        <source>La serata di prima non si può mettere da parte.</source>
+        <translation>The bingo night before cannot be put aside.</translation>
+    </message>
+    <message>
+        <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
+
+Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
+        <translation>There is a bingo night with other cards (numbers called: %2) in %1.
+
+Continue that one? With No a new one begins, and that one is put aside.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare in %1.</source>
+        <translation>The bingo night cannot be saved in %1.</translation>
+    </message>
+    <message>
+        <source>Dove salvare la serata</source>
+        <translation>Where to save the bingo night</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere.</source>
+        <translation>The register cannot be read.</translation>
+    </message>
+    <message>
+        <source>Il registro non contiene schede.</source>
+        <translation>The register contains no cards.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare accanto al registro.</source>
+        <translation>The bingo night cannot be saved beside the register.</translation>
+    </message>
+    <message>
+        <source>La serata non può continuare.</source>
+        <translation>The bingo night cannot go on.</translation>
+    </message>
+    <message>
+        <source>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</source>
+        <translation>Cards: %1. Numbers from %2 to %3. Called: %4.</translation>
+    </message>
+    <message>
+        <source>Questo registro è già aperto.</source>
+        <translation>This register is open already.</translation>
+    </message>
+    <message>
+        <source>&amp;Partita</source>
+        <translation>&amp;Game</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;View</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,17 @@ Los cartones de una página son siempre distintos.</translation>
     </message>
 </context>
 <context>
+    <name>CaselleDelegate</name>
+    <message>
+        <source>%1, chiamato</source>
+        <translation>%1, cantado</translation>
+    </message>
+    <message>
+        <source>%1, non chiamato</source>
+        <translation>%1, sin cantar</translation>
+    </message>
+</context>
+<context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
@@ -449,6 +460,17 @@ Tamaño: %5 bytes (%6 MB)
 %1</source>
         <translation>No hay páginas.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ElencoSchede</name>
+    <message>
+        <source>%1: chiamata %2</source>
+        <translation>%1: bola %2</translation>
+    </message>
+    <message>
+        <source>%1: manca il %2</source>
+        <translation>%1: falta el %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1243,30 @@ Vuoi visualizzarli?</source>
         <source>Linea interna</source>
         <translation>Línea interior</translation>
     </message>
+    <message>
+        <source>Salva registro...</source>
+        <translation>Guardar registro...</translation>
+    </message>
+    <message>
+        <source>Salva le schede in un file di testo, una per riga</source>
+        <translation>Guarda los cartones en un archivo de texto, uno por línea</translation>
+    </message>
+    <message>
+        <source>Serata...</source>
+        <translation>Noche de bingo...</translation>
+    </message>
+    <message>
+        <source>Chiama i numeri e controlla le schede</source>
+        <translation>Canta los números y comprueba los cartones</translation>
+    </message>
+    <message>
+        <source>Salva il registro su file</source>
+        <translation>Guardar el registro en un archivo</translation>
+    </message>
+    <message>
+        <source>Registro salvato.</source>
+        <translation>Registro guardado.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1294,6 +1340,33 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>¡Error al guardar el archivo!</translation>
+    </message>
+</context>
+<context>
+    <name>NuovaPartita</name>
+    <message>
+        <source>Quintra - Nuova partita</source>
+        <translation>Quintra - Nueva partida</translation>
+    </message>
+    <message>
+        <source>Numeri da</source>
+        <translation>Números de</translation>
+    </message>
+    <message>
+        <source>Il numero minimo del tabellone</source>
+        <translation>El número más bajo del tablero</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>Il numero massimo del tabellone</source>
+        <translation>El número más alto del tablero</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati (%1) saranno tolti tutti.</source>
+        <translation>Se retirarán todos los números cantados (%1).</translation>
     </message>
 </context>
 <context>
@@ -1496,28 +1569,28 @@ supera el máximo permitido (%2).</translation>
 <context>
     <name>Premi</name>
     <message>
-        <source>ambo</source>
-        <translation>ambo</translation>
+        <source>Ambo</source>
+        <translation>Ambo</translation>
     </message>
     <message>
-        <source>terno</source>
-        <translation>terno</translation>
+        <source>Terno</source>
+        <translation>Terno</translation>
     </message>
     <message>
-        <source>quaterna</source>
-        <translation>cuaterno</translation>
+        <source>Quaterna</source>
+        <translation>Cuaterno</translation>
     </message>
     <message>
-        <source>cinquina</source>
-        <translation>línea</translation>
+        <source>Cinquina</source>
+        <translation>Línea</translation>
     </message>
     <message>
-        <source>due cinquine</source>
-        <translation>dos líneas</translation>
+        <source>Due cinquine</source>
+        <translation>Dos líneas</translation>
     </message>
     <message>
-        <source>tombola</source>
-        <translation>bingo</translation>
+        <source>Tombola</source>
+        <translation>Bingo</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1650,249 @@ supera el máximo permitido (%2).</translation>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
         <translation>La lista continúa hasta la línea %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Serata</name>
+    <message>
+        <source>Quintra - Serata</source>
+        <translation>Quintra - Noche de bingo</translation>
+    </message>
+    <message>
+        <source>L&apos;ultimo numero chiamato</source>
+        <translation>El último número cantado</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati prima</source>
+        <translation>Los números cantados antes</translation>
+    </message>
+    <message>
+        <source>Un clic chiama un numero, un altro lo toglie</source>
+        <translation>Un clic canta un número, otro lo retira</translation>
+    </message>
+    <message>
+        <source>Tabellone</source>
+        <translation>Tablero</translation>
+    </message>
+    <message>
+        <source>Chiamata</source>
+        <translation>Bola</translation>
+    </message>
+    <message>
+        <source>Numero</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <translation>El número que se canta; si ya estaba cantado, se retira</translation>
+    </message>
+    <message>
+        <source>Chiama a caso uno dei numeri rimasti</source>
+        <translation>Saca al azar uno de los números que quedan</translation>
+    </message>
+    <message>
+        <source>Estrai</source>
+        <translation>Sacar</translation>
+    </message>
+    <message>
+        <source>Controllo di una scheda</source>
+        <translation>Comprobación de un cartón</translation>
+    </message>
+    <message>
+        <source>Scheda</source>
+        <translation>Cartón</translation>
+    </message>
+    <message>
+        <source>Pagina e scheda, per esempio 12.3</source>
+        <translation>Página y cartón, por ejemplo 12.3</translation>
+    </message>
+    <message>
+        <source>Mostra la scheda con i numeri chiamati</source>
+        <translation>Muestra el cartón con los números cantados</translation>
+    </message>
+    <message>
+        <source>Controlla</source>
+        <translation>Comprobar</translation>
+    </message>
+    <message>
+        <source>Che cosa ha la scheda, e con quale chiamata</source>
+        <translation>Lo que tiene el cartón, y con qué bola</translation>
+    </message>
+    <message>
+        <source>Vincite</source>
+        <translation>Premios</translation>
+    </message>
+    <message>
+        <source>Schede</source>
+        <translation>Cartones</translation>
+    </message>
+    <message>
+        <source>Le schede con tutti i numeri chiamati</source>
+        <translation>Los cartones con todos los números cantados</translation>
+    </message>
+    <message>
+        <source>Le schede a cui manca un solo numero</source>
+        <translation>Los cartones a los que solo les falta un número</translation>
+    </message>
+    <message>
+        <source>Chiama un numero</source>
+        <translation>Cantar un número</translation>
+    </message>
+    <message>
+        <source>Controlla una scheda</source>
+        <translation>Comprobar un cartón</translation>
+    </message>
+    <message>
+        <source>Nuova partita...</source>
+        <translation>Nueva partida...</translation>
+    </message>
+    <message>
+        <source>Toglie tutti i numeri chiamati e ricomincia</source>
+        <translation>Retira todos los números cantados y vuelve a empezar</translation>
+    </message>
+    <message>
+        <source>Apri registro...</source>
+        <translation>Abrir registro...</translation>
+    </message>
+    <message>
+        <source>Apre un registro</source>
+        <translation>Abrir un registro</translation>
+    </message>
+    <message>
+        <source>Schermo intero</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>Chiudi</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>imagen</translation>
+    </message>
+    <message>
+        <source>%1: chiamata %2, numero %3</source>
+        <translation>%1: bola %2, número %3</translation>
+    </message>
+    <message>
+        <source>Nessuna vincita</source>
+        <translation>Ningún premio</translation>
+    </message>
+    <message>
+        <source>La partita non si può cominciare.</source>
+        <translation>No se puede empezar la partida.</translation>
+    </message>
+    <message>
+        <source>Nuova partita, numeri da %1 a %2.</source>
+        <translation>Nueva partida, números de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
+        <translation>No está en juego: %1. ¡Los números van de %2 a %3!</translation>
+    </message>
+    <message>
+        <source>La chiamata non si può salvare, nulla è cambiato.</source>
+        <translation>No se puede guardar la bola, nada ha cambiado.</translation>
+    </message>
+    <message>
+        <source>Chiamato il %1.</source>
+        <translation>Cantado: %1.</translation>
+    </message>
+    <message>
+        <source>Tolto il %1.</source>
+        <translation>Retirado: %1.</translation>
+    </message>
+    <message>
+        <source>Tutti i numeri sono stati chiamati!</source>
+        <translation>¡Ya se han cantado todos los números!</translation>
+    </message>
+    <message>
+        <source>Scrivere un numero da %1 a %2!</source>
+        <translation>¡Escribir un número de %1 a %2!</translation>
+    </message>
+    <message>
+        <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
+        <translation>¡Escribir la página y el cartón, por ejemplo 12.3!</translation>
+    </message>
+    <message>
+        <source>La scheda %1 non esiste!</source>
+        <translation>¡No hay ningún cartón %1!</translation>
+    </message>
+    <message>
+        <source>Scheda %1.</source>
+        <translation>Cartón %1.</translation>
+    </message>
+    <message>
+        <source>Numeri chiamati: %1 di %2</source>
+        <translation>Números cantados: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Manca un numero: %1</source>
+        <translation>Falta un número: %1</translation>
+    </message>
+    <message>
+        <source>Nessuna scheda</source>
+        <translation>Ningún cartón</translation>
+    </message>
+    <message>
+        <source>Scheda %1</source>
+        <translation>Cartón %1</translation>
+    </message>
+    <message>
+        <source>La serata di prima non si può mettere da parte.</source>
+        <translation>No se puede apartar la noche de bingo anterior.</translation>
+    </message>
+    <message>
+        <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
+
+Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
+        <translation>Hay una noche de bingo con otros cartones (números cantados: %2) en %1.
+
+¿Continuar esa? Con No empieza una nueva, y esa se aparta.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare in %1.</source>
+        <translation>No se puede guardar la noche de bingo en %1.</translation>
+    </message>
+    <message>
+        <source>Dove salvare la serata</source>
+        <translation>Carpeta de la noche de bingo</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere.</source>
+        <translation>No se puede leer el registro.</translation>
+    </message>
+    <message>
+        <source>Il registro non contiene schede.</source>
+        <translation>El registro no contiene cartones.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare accanto al registro.</source>
+        <translation>No se puede guardar la noche de bingo junto al registro.</translation>
+    </message>
+    <message>
+        <source>La serata non può continuare.</source>
+        <translation>La noche de bingo no puede continuar.</translation>
+    </message>
+    <message>
+        <source>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</source>
+        <translation>Cartones: %1. Números de %2 a %3. Cantados: %4.</translation>
+    </message>
+    <message>
+        <source>Questo registro è già aperto.</source>
+        <translation>Este registro ya está abierto.</translation>
+    </message>
+    <message>
+        <source>&amp;Partita</source>
+        <translation>&amp;Partida</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;Ver</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,17 @@ Les cartons d&apos;une page sont toujours différents.</translation>
     </message>
 </context>
 <context>
+    <name>CaselleDelegate</name>
+    <message>
+        <source>%1, chiamato</source>
+        <translation>%1, sorti</translation>
+    </message>
+    <message>
+        <source>%1, non chiamato</source>
+        <translation>%1, pas sorti</translation>
+    </message>
+</context>
+<context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
@@ -449,6 +460,17 @@ Taille&#xa0;: %5 octets (%6 Mo)
 %1</source>
         <translation>Il n&apos;y a aucune page.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ElencoSchede</name>
+    <message>
+        <source>%1: chiamata %2</source>
+        <translation>%1&#xa0;: tirage %2</translation>
+    </message>
+    <message>
+        <source>%1: manca il %2</source>
+        <translation>%1&#xa0;: manque le %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1243,30 @@ Voulez-vous les afficher&#xa0;?</translation>
         <source>Linea interna</source>
         <translation>Ligne intérieure</translation>
     </message>
+    <message>
+        <source>Salva registro...</source>
+        <translation>Enregistrer le registre...</translation>
+    </message>
+    <message>
+        <source>Salva le schede in un file di testo, una per riga</source>
+        <translation>Enregistre les cartons dans un fichier texte, un par ligne</translation>
+    </message>
+    <message>
+        <source>Serata...</source>
+        <translation>Soirée...</translation>
+    </message>
+    <message>
+        <source>Chiama i numeri e controlla le schede</source>
+        <translation>Tire les numéros et vérifie les cartons</translation>
+    </message>
+    <message>
+        <source>Salva il registro su file</source>
+        <translation>Enregistrer le registre dans un fichier</translation>
+    </message>
+    <message>
+        <source>Registro salvato.</source>
+        <translation>Registre enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1294,6 +1340,33 @@ Voulez-vous les afficher&#xa0;?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Erreur lors de l&apos;enregistrement du fichier&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>NuovaPartita</name>
+    <message>
+        <source>Quintra - Nuova partita</source>
+        <translation>Quintra - Nouvelle partie</translation>
+    </message>
+    <message>
+        <source>Numeri da</source>
+        <translation>Numéros de</translation>
+    </message>
+    <message>
+        <source>Il numero minimo del tabellone</source>
+        <translation>Le plus petit numéro du tableau</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>à</translation>
+    </message>
+    <message>
+        <source>Il numero massimo del tabellone</source>
+        <translation>Le plus grand numéro du tableau</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati (%1) saranno tolti tutti.</source>
+        <translation>Tous les numéros sortis (%1) seront retirés.</translation>
     </message>
 </context>
 <context>
@@ -1496,28 +1569,28 @@ dépasse le maximum autorisé (%2).</translation>
 <context>
     <name>Premi</name>
     <message>
-        <source>ambo</source>
-        <translation>ambe</translation>
+        <source>Ambo</source>
+        <translation>Ambe</translation>
     </message>
     <message>
-        <source>terno</source>
-        <translation>terne</translation>
+        <source>Terno</source>
+        <translation>Terne</translation>
     </message>
     <message>
-        <source>quaterna</source>
-        <translation>quaterne</translation>
+        <source>Quaterna</source>
+        <translation>Quaterne</translation>
     </message>
     <message>
-        <source>cinquina</source>
-        <translation>quine</translation>
+        <source>Cinquina</source>
+        <translation>Quine</translation>
     </message>
     <message>
-        <source>due cinquine</source>
-        <translation>double quine</translation>
+        <source>Due cinquine</source>
+        <translation>Double quine</translation>
     </message>
     <message>
-        <source>tombola</source>
-        <translation>carton plein</translation>
+        <source>Tombola</source>
+        <translation>Carton plein</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1650,249 @@ dépasse le maximum autorisé (%2).</translation>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
         <translation>La liste continue jusqu&apos;à la ligne %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Serata</name>
+    <message>
+        <source>Quintra - Serata</source>
+        <translation>Quintra - Soirée</translation>
+    </message>
+    <message>
+        <source>L&apos;ultimo numero chiamato</source>
+        <translation>Le dernier numéro sorti</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati prima</source>
+        <translation>Les numéros sortis avant</translation>
+    </message>
+    <message>
+        <source>Un clic chiama un numero, un altro lo toglie</source>
+        <translation>Un clic appelle un numéro, un autre le retire</translation>
+    </message>
+    <message>
+        <source>Tabellone</source>
+        <translation>Tableau</translation>
+    </message>
+    <message>
+        <source>Chiamata</source>
+        <translation>Tirage</translation>
+    </message>
+    <message>
+        <source>Numero</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <translation>Le numéro à appeler&#xa0;; s&apos;il est déjà sorti, il est retiré</translation>
+    </message>
+    <message>
+        <source>Chiama a caso uno dei numeri rimasti</source>
+        <translation>Tire au hasard un des numéros restants</translation>
+    </message>
+    <message>
+        <source>Estrai</source>
+        <translation>Tirer</translation>
+    </message>
+    <message>
+        <source>Controllo di una scheda</source>
+        <translation>Vérification d&apos;un carton</translation>
+    </message>
+    <message>
+        <source>Scheda</source>
+        <translation>Carton</translation>
+    </message>
+    <message>
+        <source>Pagina e scheda, per esempio 12.3</source>
+        <translation>Page et carton, par exemple 12.3</translation>
+    </message>
+    <message>
+        <source>Mostra la scheda con i numeri chiamati</source>
+        <translation>Affiche le carton avec les numéros sortis</translation>
+    </message>
+    <message>
+        <source>Controlla</source>
+        <translation>Vérifier</translation>
+    </message>
+    <message>
+        <source>Che cosa ha la scheda, e con quale chiamata</source>
+        <translation>Ce que le carton a gagné, et à quel tirage</translation>
+    </message>
+    <message>
+        <source>Vincite</source>
+        <translation>Gains</translation>
+    </message>
+    <message>
+        <source>Schede</source>
+        <translation>Cartons</translation>
+    </message>
+    <message>
+        <source>Le schede con tutti i numeri chiamati</source>
+        <translation>Les cartons dont tous les numéros sont sortis</translation>
+    </message>
+    <message>
+        <source>Le schede a cui manca un solo numero</source>
+        <translation>Les cartons auxquels il ne manque qu&apos;un numéro</translation>
+    </message>
+    <message>
+        <source>Chiama un numero</source>
+        <translation>Saisir un numéro</translation>
+    </message>
+    <message>
+        <source>Controlla una scheda</source>
+        <translation>Vérifier un carton</translation>
+    </message>
+    <message>
+        <source>Nuova partita...</source>
+        <translation>Nouvelle partie...</translation>
+    </message>
+    <message>
+        <source>Toglie tutti i numeri chiamati e ricomincia</source>
+        <translation>Retire tous les numéros sortis et recommence</translation>
+    </message>
+    <message>
+        <source>Apri registro...</source>
+        <translation>Ouvrir un registre...</translation>
+    </message>
+    <message>
+        <source>Apre un registro</source>
+        <translation>Ouvrir un registre</translation>
+    </message>
+    <message>
+        <source>Schermo intero</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Chiudi</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>image</translation>
+    </message>
+    <message>
+        <source>%1: chiamata %2, numero %3</source>
+        <translation>%1&#xa0;: tirage %2, numéro %3</translation>
+    </message>
+    <message>
+        <source>Nessuna vincita</source>
+        <translation>Aucun gain</translation>
+    </message>
+    <message>
+        <source>La partita non si può cominciare.</source>
+        <translation>Impossible de commencer la partie.</translation>
+    </message>
+    <message>
+        <source>Nuova partita, numeri da %1 a %2.</source>
+        <translation>Nouvelle partie, numéros de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
+        <translation>Pas en jeu&#xa0;: %1. Les numéros vont de %2 à %3&#xa0;!</translation>
+    </message>
+    <message>
+        <source>La chiamata non si può salvare, nulla è cambiato.</source>
+        <translation>Impossible d&apos;enregistrer le tirage, rien n&apos;a changé.</translation>
+    </message>
+    <message>
+        <source>Chiamato il %1.</source>
+        <translation>Sorti&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Tolto il %1.</source>
+        <translation>Retiré&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Tutti i numeri sono stati chiamati!</source>
+        <translation>Tous les numéros sont sortis&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Scrivere un numero da %1 a %2!</source>
+        <translation>Saisir un numéro de %1 à %2&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
+        <translation>Saisir la page et le carton, par exemple 12.3&#xa0;!</translation>
+    </message>
+    <message>
+        <source>La scheda %1 non esiste!</source>
+        <translation>Il n&apos;y a pas de carton %1&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Scheda %1.</source>
+        <translation>Carton %1.</translation>
+    </message>
+    <message>
+        <source>Numeri chiamati: %1 di %2</source>
+        <translation>Numéros sortis&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Manca un numero: %1</source>
+        <translation>Manque un numéro&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Nessuna scheda</source>
+        <translation>Aucun carton</translation>
+    </message>
+    <message>
+        <source>Scheda %1</source>
+        <translation>Carton %1</translation>
+    </message>
+    <message>
+        <source>La serata di prima non si può mettere da parte.</source>
+        <translation>Impossible de mettre de côté la soirée précédente.</translation>
+    </message>
+    <message>
+        <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
+
+Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
+        <translation>Il y a une soirée avec d&apos;autres cartons (numéros sortis&#xa0;: %2) dans %1.
+
+Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et celle-là est mise de côté.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare in %1.</source>
+        <translation>Impossible d&apos;enregistrer la soirée dans %1.</translation>
+    </message>
+    <message>
+        <source>Dove salvare la serata</source>
+        <translation>Dossier de la soirée</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere.</source>
+        <translation>Impossible de lire le registre.</translation>
+    </message>
+    <message>
+        <source>Il registro non contiene schede.</source>
+        <translation>Le registre ne contient aucun carton.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare accanto al registro.</source>
+        <translation>Impossible d&apos;enregistrer la soirée à côté du registre.</translation>
+    </message>
+    <message>
+        <source>La serata non può continuare.</source>
+        <translation>La soirée ne peut pas continuer.</translation>
+    </message>
+    <message>
+        <source>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</source>
+        <translation>Cartons&#xa0;: %1. Numéros de %2 à %3. Sortis&#xa0;: %4.</translation>
+    </message>
+    <message>
+        <source>Questo registro è già aperto.</source>
+        <translation>Ce registre est déjà ouvert.</translation>
+    </message>
+    <message>
+        <source>&amp;Partita</source>
+        <translation>&amp;Partie</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>Affic&amp;hage</translation>
     </message>
 </context>
 </TS>

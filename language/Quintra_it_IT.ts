@@ -45,6 +45,17 @@ I blocchi di una pagina sono sempre diversi.</translation>
     </message>
 </context>
 <context>
+    <name>CaselleDelegate</name>
+    <message>
+        <source>%1, chiamato</source>
+        <translation>%1, chiamato</translation>
+    </message>
+    <message>
+        <source>%1, non chiamato</source>
+        <translation>%1, non chiamato</translation>
+    </message>
+</context>
+<context>
     <name>CreateOutputFile</name>
     <message>
         <source>Formato file sconosciuto!</source>
@@ -449,6 +460,17 @@ Dimensione: %5 Bytes (%6 MB)
 %1</source>
         <translation>Non vi sono pagine.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ElencoSchede</name>
+    <message>
+        <source>%1: chiamata %2</source>
+        <translation>%1: chiamata %2</translation>
+    </message>
+    <message>
+        <source>%1: manca il %2</source>
+        <translation>%1: manca il %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1243,30 @@ Vuoi visualizzarli?</translation>
         <source>Linea interna</source>
         <translation>Linea interna</translation>
     </message>
+    <message>
+        <source>Salva registro...</source>
+        <translation>Salva registro...</translation>
+    </message>
+    <message>
+        <source>Salva le schede in un file di testo, una per riga</source>
+        <translation>Salva le schede in un file di testo, una per riga</translation>
+    </message>
+    <message>
+        <source>Serata...</source>
+        <translation>Serata...</translation>
+    </message>
+    <message>
+        <source>Chiama i numeri e controlla le schede</source>
+        <translation>Chiama i numeri e controlla le schede</translation>
+    </message>
+    <message>
+        <source>Salva il registro su file</source>
+        <translation>Salva il registro su file</translation>
+    </message>
+    <message>
+        <source>Registro salvato.</source>
+        <translation>Registro salvato.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1294,6 +1340,33 @@ Vuoi visualizzarli?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Errore nel salvataggio del file!</translation>
+    </message>
+</context>
+<context>
+    <name>NuovaPartita</name>
+    <message>
+        <source>Quintra - Nuova partita</source>
+        <translation>Quintra - Nuova partita</translation>
+    </message>
+    <message>
+        <source>Numeri da</source>
+        <translation>Numeri da</translation>
+    </message>
+    <message>
+        <source>Il numero minimo del tabellone</source>
+        <translation>Il numero minimo del tabellone</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>Il numero massimo del tabellone</source>
+        <translation>Il numero massimo del tabellone</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati (%1) saranno tolti tutti.</source>
+        <translation>I numeri chiamati (%1) saranno tolti tutti.</translation>
     </message>
 </context>
 <context>
@@ -1496,28 +1569,28 @@ eccedono il massimo consentito (%2).</translation>
 <context>
     <name>Premi</name>
     <message>
-        <source>ambo</source>
-        <translation>ambo</translation>
+        <source>Ambo</source>
+        <translation>Ambo</translation>
     </message>
     <message>
-        <source>terno</source>
-        <translation>terno</translation>
+        <source>Terno</source>
+        <translation>Terno</translation>
     </message>
     <message>
-        <source>quaterna</source>
-        <translation>quaterna</translation>
+        <source>Quaterna</source>
+        <translation>Quaterna</translation>
     </message>
     <message>
-        <source>cinquina</source>
-        <translation>cinquina</translation>
+        <source>Cinquina</source>
+        <translation>Cinquina</translation>
     </message>
     <message>
-        <source>due cinquine</source>
-        <translation>due cinquine</translation>
+        <source>Due cinquine</source>
+        <translation>Due cinquine</translation>
     </message>
     <message>
-        <source>tombola</source>
-        <translation>tombola</translation>
+        <source>Tombola</source>
+        <translation>Tombola</translation>
     </message>
 </context>
 <context>
@@ -1577,6 +1650,249 @@ eccedono il massimo consentito (%2).</translation>
     <message>
         <source>L&apos;elenco continua fino alla riga %1.</source>
         <translation>L&apos;elenco continua fino alla riga %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Serata</name>
+    <message>
+        <source>Quintra - Serata</source>
+        <translation>Quintra - Serata</translation>
+    </message>
+    <message>
+        <source>L&apos;ultimo numero chiamato</source>
+        <translation>L&apos;ultimo numero chiamato</translation>
+    </message>
+    <message>
+        <source>I numeri chiamati prima</source>
+        <translation>I numeri chiamati prima</translation>
+    </message>
+    <message>
+        <source>Un clic chiama un numero, un altro lo toglie</source>
+        <translation>Un clic chiama un numero, un altro lo toglie</translation>
+    </message>
+    <message>
+        <source>Tabellone</source>
+        <translation>Tabellone</translation>
+    </message>
+    <message>
+        <source>Chiamata</source>
+        <translation>Chiamata</translation>
+    </message>
+    <message>
+        <source>Numero</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <translation>Il numero da chiamare; se era chiamato viene tolto</translation>
+    </message>
+    <message>
+        <source>Chiama a caso uno dei numeri rimasti</source>
+        <translation>Chiama a caso uno dei numeri rimasti</translation>
+    </message>
+    <message>
+        <source>Estrai</source>
+        <translation>Estrai</translation>
+    </message>
+    <message>
+        <source>Controllo di una scheda</source>
+        <translation>Controllo di una scheda</translation>
+    </message>
+    <message>
+        <source>Scheda</source>
+        <translation>Scheda</translation>
+    </message>
+    <message>
+        <source>Pagina e scheda, per esempio 12.3</source>
+        <translation>Pagina e scheda, per esempio 12.3</translation>
+    </message>
+    <message>
+        <source>Mostra la scheda con i numeri chiamati</source>
+        <translation>Mostra la scheda con i numeri chiamati</translation>
+    </message>
+    <message>
+        <source>Controlla</source>
+        <translation>Controlla</translation>
+    </message>
+    <message>
+        <source>Che cosa ha la scheda, e con quale chiamata</source>
+        <translation>Che cosa ha la scheda, e con quale chiamata</translation>
+    </message>
+    <message>
+        <source>Vincite</source>
+        <translation>Vincite</translation>
+    </message>
+    <message>
+        <source>Schede</source>
+        <translation>Schede</translation>
+    </message>
+    <message>
+        <source>Le schede con tutti i numeri chiamati</source>
+        <translation>Le schede con tutti i numeri chiamati</translation>
+    </message>
+    <message>
+        <source>Le schede a cui manca un solo numero</source>
+        <translation>Le schede a cui manca un solo numero</translation>
+    </message>
+    <message>
+        <source>Chiama un numero</source>
+        <translation>Chiama un numero</translation>
+    </message>
+    <message>
+        <source>Controlla una scheda</source>
+        <translation>Controlla una scheda</translation>
+    </message>
+    <message>
+        <source>Nuova partita...</source>
+        <translation>Nuova partita...</translation>
+    </message>
+    <message>
+        <source>Toglie tutti i numeri chiamati e ricomincia</source>
+        <translation>Toglie tutti i numeri chiamati e ricomincia</translation>
+    </message>
+    <message>
+        <source>Apri registro...</source>
+        <translation>Apri registro...</translation>
+    </message>
+    <message>
+        <source>Apre un registro</source>
+        <translation>Apre un registro</translation>
+    </message>
+    <message>
+        <source>Schermo intero</source>
+        <translation>Schermo intero</translation>
+    </message>
+    <message>
+        <source>Chiudi</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>immagine</translation>
+    </message>
+    <message>
+        <source>%1: chiamata %2, numero %3</source>
+        <translation>%1: chiamata %2, numero %3</translation>
+    </message>
+    <message>
+        <source>Nessuna vincita</source>
+        <translation>Nessuna vincita</translation>
+    </message>
+    <message>
+        <source>La partita non si può cominciare.</source>
+        <translation>La partita non si può cominciare.</translation>
+    </message>
+    <message>
+        <source>Nuova partita, numeri da %1 a %2.</source>
+        <translation>Nuova partita, numeri da %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
+        <translation>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</translation>
+    </message>
+    <message>
+        <source>La chiamata non si può salvare, nulla è cambiato.</source>
+        <translation>La chiamata non si può salvare, nulla è cambiato.</translation>
+    </message>
+    <message>
+        <source>Chiamato il %1.</source>
+        <translation>Chiamato il %1.</translation>
+    </message>
+    <message>
+        <source>Tolto il %1.</source>
+        <translation>Tolto il %1.</translation>
+    </message>
+    <message>
+        <source>Tutti i numeri sono stati chiamati!</source>
+        <translation>Tutti i numeri sono stati chiamati!</translation>
+    </message>
+    <message>
+        <source>Scrivere un numero da %1 a %2!</source>
+        <translation>Scrivere un numero da %1 a %2!</translation>
+    </message>
+    <message>
+        <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
+        <translation>Scrivere la pagina e la scheda, per esempio 12.3!</translation>
+    </message>
+    <message>
+        <source>La scheda %1 non esiste!</source>
+        <translation>La scheda %1 non esiste!</translation>
+    </message>
+    <message>
+        <source>Scheda %1.</source>
+        <translation>Scheda %1.</translation>
+    </message>
+    <message>
+        <source>Numeri chiamati: %1 di %2</source>
+        <translation>Numeri chiamati: %1 di %2</translation>
+    </message>
+    <message>
+        <source>Manca un numero: %1</source>
+        <translation>Manca un numero: %1</translation>
+    </message>
+    <message>
+        <source>Nessuna scheda</source>
+        <translation>Nessuna scheda</translation>
+    </message>
+    <message>
+        <source>Scheda %1</source>
+        <translation>Scheda %1</translation>
+    </message>
+    <message>
+        <source>La serata di prima non si può mettere da parte.</source>
+        <translation>La serata di prima non si può mettere da parte.</translation>
+    </message>
+    <message>
+        <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
+
+Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
+        <translation>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
+
+Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare in %1.</source>
+        <translation>La serata non si può salvare in %1.</translation>
+    </message>
+    <message>
+        <source>Dove salvare la serata</source>
+        <translation>Dove salvare la serata</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere.</source>
+        <translation>Il registro non si può leggere.</translation>
+    </message>
+    <message>
+        <source>Il registro non contiene schede.</source>
+        <translation>Il registro non contiene schede.</translation>
+    </message>
+    <message>
+        <source>La serata non si può salvare accanto al registro.</source>
+        <translation>La serata non si può salvare accanto al registro.</translation>
+    </message>
+    <message>
+        <source>La serata non può continuare.</source>
+        <translation>La serata non può continuare.</translation>
+    </message>
+    <message>
+        <source>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</source>
+        <translation>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</translation>
+    </message>
+    <message>
+        <source>Questo registro è già aperto.</source>
+        <translation>Questo registro è già aperto.</translation>
+    </message>
+    <message>
+        <source>&amp;Partita</source>
+        <translation>&amp;Partita</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Visualizza</source>
+        <translation>&amp;Visualizza</translation>
     </message>
 </context>
 </TS>

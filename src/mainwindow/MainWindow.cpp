@@ -49,6 +49,8 @@ void MainWindow::setupShortcuts()
 void MainWindow::connectCommands()
 {
     connect(ui->actionAnteprima, &QAction::triggered, this, &MainWindow::openPreview);
+    connect(ui->actionSalvaRegistro, &QAction::triggered, this, &MainWindow::saveRegister);
+    connect(ui->actionSerata, &QAction::triggered, this, &MainWindow::openEvening);
 }
 
 void MainWindow::welcome()

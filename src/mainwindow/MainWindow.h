@@ -144,10 +144,14 @@ private:
     void warn(const QString &text, const QString &reason);
 
     // Printing.
-    QString askPrintFileName();
+    QString askFileName(const QString &caption, const QString &format);
     bool writeOutputFile(const QString &fileName, QString &report);
     void openPreview();
     void updatePreview();
+
+    // The evening.
+    void saveRegister();
+    void openEvening();
 
     // The page table.
     QTableWidget *replaceTable();

@@ -26,7 +26,7 @@ void MainWindow::on_butt_stampa_clicked()
         updateStatusBar(tr("Aggiungere pagine alla cartella prima di proseguire."));
         return;
     }
-    const QString fileName = askPrintFileName();
+    const QString fileName = askFileName(tr("Salva le cartelle su file"), globalConfig->outputFormatName);
     if (fileName.isEmpty()) {
         updateStatusBar(tr("Creazione file annullata!"));
         return;
@@ -41,14 +41,13 @@ void MainWindow::on_butt_stampa_clicked()
     window->show();
 }
 
-// The file to print to, with its suffix; empty when the user gave none that can be. The folder is remembered. The
-// dialog asks before a file is overwritten, but knows only the name without the suffix.
-QString MainWindow::askPrintFileName()
+// The file to write, with the suffix of its format; empty when the user gave none that can be. The folder is
+// remembered. The dialog asks before a file is overwritten, but knows only the name without the suffix.
+QString MainWindow::askFileName(const QString &caption, const QString &format)
 {
-    const QString suffix = globalConfig->outputFormatName.toLower();
-    const QString filter = QStringLiteral("%1 (*.%2);;").arg(globalConfig->outputFormatName, suffix);
-    const QString chosen =
-        QFileDialog::getSaveFileName(this, tr("Salva le cartelle su file"), globalConfig->defaultSaveDir, filter);
+    const QString suffix = format.toLower();
+    const QString filter = QStringLiteral("%1 (*.%2);;").arg(format, suffix);
+    const QString chosen = QFileDialog::getSaveFileName(this, caption, globalConfig->defaultSaveDir, filter);
     const bool hasSuffix = QFileInfo(chosen).fileName().contains(QLatin1Char('.'));
     const QString fileName = hasSuffix ? chosen : chosen + QLatin1Char('.') + suffix;
     const bool sure = chosen.isEmpty() || hasSuffix || confirmOverwriting(this, boxTitle(), fileName);

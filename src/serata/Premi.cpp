@@ -79,17 +79,17 @@ QString premioText(Premio premio)
 {
     switch (premio) {
     case Premio::Ambo:
-        return Text::tr("ambo");
+        return Text::tr("Ambo");
     case Premio::Terno:
-        return Text::tr("terno");
+        return Text::tr("Terno");
     case Premio::Quaterna:
-        return Text::tr("quaterna");
+        return Text::tr("Quaterna");
     case Premio::Cinquina:
-        return Text::tr("cinquina");
+        return Text::tr("Cinquina");
     case Premio::DueCinquine:
-        return Text::tr("due cinquine");
+        return Text::tr("Due cinquine");
     case Premio::Tombola:
-        return Text::tr("tombola");
+        return Text::tr("Tombola");
     }
     return QString();
 }

@@ -37,9 +37,9 @@ enum class Motivo {
 // Neighbouring lines (numbered from 1) that were skipped for the same reason.
 struct RigheSaltate
 {
-    int prima;
-    int ultima;
-    Motivo motivo;
+    int prima = 0;
+    int ultima = 0;
+    Motivo motivo = Motivo::Vuota;
 };
 
 struct Lettura

@@ -6,12 +6,18 @@
 #include <QFileInfo>
 
 namespace {
-// The journal goes first: what is left if the second step fails is a register without calls.
-bool renameBoth(const QString &registro, const QString &newName)
+// A name beside a file that tells the present time.
+QString nameAside(const QString &fileName)
 {
-    const QString diario = SerataSalvata::diarioOf(registro);
-    const bool moved = !QFile::exists(diario) || QFile::rename(diario, SerataSalvata::diarioOf(newName));
-    return moved && (!QFile::exists(registro) || QFile::rename(registro, newName));
+    const QFileInfo file(fileName);
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH.mm.ss"));
+    const QString suffix = file.suffix().isEmpty() ? QString() : QLatin1Char('.') + file.suffix();
+    return file.dir().filePath(QStringLiteral("%1 %2").arg(file.completeBaseName(), time) + suffix);
+}
+
+bool renameIfThere(const QString &fileName, const QString &newName)
+{
+    return !QFile::exists(fileName) || QFile::rename(fileName, newName);
 }
 } // namespace
 
@@ -75,11 +81,16 @@ QString registerOfTheEvening(const QString &folder)
     return QDir(folder).filePath(QStringLiteral("Serata in corso.csv"));
 }
 
+// The journal goes first: what is left if the second step fails is a register without calls.
 QString setAside(const QString &registro)
 {
-    const QFileInfo file(registro);
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH.mm.ss"));
-    const QString suffix = file.suffix().isEmpty() ? QString() : QLatin1Char('.') + file.suffix();
-    const QString newName = file.dir().filePath(QStringLiteral("%1 %2").arg(file.completeBaseName(), time) + suffix);
-    return renameBoth(registro, newName) ? newName : QString();
+    const QString newName = nameAside(registro);
+    const bool moved = renameIfThere(SerataSalvata::diarioOf(registro), SerataSalvata::diarioOf(newName)) &&
+                       renameIfThere(registro, newName);
+    return moved ? newName : QString();
+}
+
+bool setDiarioAside(const QString &registro)
+{
+    return renameIfThere(SerataSalvata::diarioOf(registro), SerataSalvata::diarioOf(nameAside(registro)));
 }

@@ -50,3 +50,5 @@ QString registerOfTheEvening(const QString &folder);
 // Gives a register and its journal, as far as they are there, a name that tells the present time, so that the name is
 // free for others. The new name of the register; empty when that fails.
 [[nodiscard]] QString setAside(const QString &registro);
+// The same for the journal alone. False when that fails.
+[[nodiscard]] bool setDiarioAside(const QString &registro);

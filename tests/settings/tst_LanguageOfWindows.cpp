@@ -4,6 +4,8 @@
 #include "model/Cartella.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
+#include "serata/NuovaPartita.h"
+#include "serata/Serata.h"
 #include "settings/Config.h"
 #include "settings/FormatSelection.h"
 #include "settings/MadeTranslations.h"
@@ -82,7 +84,7 @@ public:
     BoxScript boxes;
 };
 
-enum Window { Main, FirstStart, Settings, Mapping, Messages };
+enum Window { Main, FirstStart, Settings, Mapping, Evening, NewGame, Messages };
 
 std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
 {
@@ -100,6 +102,10 @@ std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
         return std::make_unique<Options>(nullptr);
     case Mapping:
         return std::make_unique<EditPersonale>(nullptr, cartella, rows, columns, pages, lowest, highest, 0);
+    case Evening:
+        return std::make_unique<Serata>();
+    case NewGame:
+        return std::make_unique<NuovaPartita>(Intervallo(), 0);
     default:
         return std::make_unique<MsgArea>(nullptr, true);
     }
@@ -354,6 +360,8 @@ void tst_LanguageOfWindows::addWindows()
                         {FirstStart, QLatin1String("FormatSelection")},
                         {Settings, QLatin1String("Options")},
                         {Mapping, QLatin1String("EditPersonale")},
+                        {Evening, QLatin1String("Serata")},
+                        {NewGame, QLatin1String("NuovaPartita")},
                         {Messages, QLatin1String("MsgArea")}};
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("window");
@@ -529,7 +537,7 @@ void tst_LanguageOfWindows::noMnemonicIsTwiceInAMenu()
     QVERIFY(program.speak(language));
     const std::unique_ptr<QWidget> shown = makeWindow(window, &cartella);
     const auto *withMenus = qobject_cast<QMainWindow *>(shown.get());
-    QCOMPARE(withMenus == nullptr, window == FirstStart || window == Settings);
+    QCOMPARE(withMenus == nullptr, window == FirstStart || window == Settings || window == NewGame);
     if (withMenus != nullptr) {
         QVERIFY(!withMenus->menuWidget()->findChildren<QMenu *>().isEmpty());
         QCOMPARE(repeatedMnemonics(*withMenus), QStringList());

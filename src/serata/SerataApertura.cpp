@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "serata/Serata.h"
+
+#include "msgarea/MsgArea.h"
+#include "msgarea/WaitCursor.h"
+#include "serata/Registro.h"
+#include "settings/Config.h"
+#include "ui_Serata.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace {
+constexpr size_t mostLinesInABox = 5;
+} // namespace
+
+bool Serata::openSet(const Cartella &cartella, Intervallo numeri)
+{
+    const QString registro = registerOfTheEvening(globalConfig->defaultSaveDir);
+    auto serata = std::make_unique<SerataSalvata>(schedeOf(cartella), registro);
+    switch (decideOn(*serata)) {
+    case EveningBefore::GoesOn:
+        return serata->isSameEvening() ? goOn(std::move(serata)) : openRegister(registro);
+    case EveningBefore::Unclear:
+        return false;
+    case EveningBefore::PutAside:
+        if (setAside(registro).isEmpty()) {
+            return refuse(tr("La serata di prima non si può mettere da parte."), QString());
+        }
+        break;
+    case EveningBefore::None:
+        break;
+    }
+    return beginSet(cartella, std::move(serata), numeri);
+}
+
+Serata::EveningBefore Serata::decideOn(const SerataSalvata &serata)
+{
+    if (serata.callsBefore() == 0) {
+        return EveningBefore::None;
+    }
+    const bool nothingElse = serata.partita().schede().empty();
+    return serata.isSameEvening() || nothingElse ? EveningBefore::GoesOn : askAbout(serata);
+}
+
+Serata::EveningBefore Serata::askAbout(const SerataSalvata &serata)
+{
+    const QString text =
+        tr("In %1 c'è una serata con altre schede (numeri chiamati: %2).\n\nContinuare quella? Con No ne "
+           "comincia una nuova, e quella viene messa da parte.")
+            .arg(QDir::toNativeSeparators(SerataSalvata::diarioOf(serata.registro())))
+            .arg(serata.callsBefore());
+    switch (QMessageBox::question(this, windowTitle(), text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                                  QMessageBox::Yes)) {
+    case QMessageBox::Yes:
+        return EveningBefore::GoesOn;
+    case QMessageBox::No:
+        return EveningBefore::PutAside;
+    default:
+        return EveningBefore::Unclear;
+    }
+}
+
+// A set gets a register of its own: without it its cards would be lost with the program. The journal comes first: it
+// refuses when another window uses both.
+bool Serata::beginSet(const Cartella &cartella, std::unique_ptr<SerataSalvata> serata, Intervallo numeri)
+{
+    const Partita &partita = serata->partita();
+    if (!serata->begin(partita.schede().empty() ? numeri : united(numeri, partita.numeri()))) {
+        return beginElsewhere(cartella, numeri, serata->errorString());
+    }
+    QString reason;
+    if (!Registro::save(serata->registro(), cartella, reason)) {
+        return beginElsewhere(cartella, numeri, reason);
+    }
+    adopt(std::move(serata));
+    return true;
+}
+
+bool Serata::beginElsewhere(const Cartella &cartella, Intervallo numeri, const QString &reason)
+{
+    refuse(tr("La serata non si può salvare in %1.").arg(globalConfig->defaultSaveDir), reason);
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Dove salvare la serata"), globalConfig->defaultSaveDir);
+    if (folder.isEmpty()) {
+        return false;
+    }
+    globalConfig->defaultSaveDir = folder;
+    return openSet(cartella, numeri);
+}
+
+bool Serata::openRegister(const QString &fileName)
+{
+    const WaitCursor wait(this);
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return refuse(tr("Il registro non si può leggere."), file.errorString());
+    }
+    Registro::Lettura reading = Registro::read(file);
+    if (reading.schede.empty() && !reading.saltate.empty()) {
+        reading.saltate.resize(std::min(reading.saltate.size(), mostLinesInABox));
+        return refuse(tr("Il registro non contiene schede."), Registro::describe(reading.saltate));
+    }
+    if (!openEvening(std::make_unique<SerataSalvata>(std::move(reading.schede), fileName))) {
+        return false;
+    }
+    if (!reading.saltate.empty()) {
+        tellOfSkippedLines(Registro::describe(reading.saltate));
+    }
+    return true;
+}
+
+// The evening of a register.
+bool Serata::openEvening(std::unique_ptr<SerataSalvata> serata)
+{
+    switch (decideOn(*serata)) {
+    case EveningBefore::GoesOn:
+        return goOn(std::move(serata));
+    case EveningBefore::Unclear:
+        return false;
+    case EveningBefore::PutAside:
+        if (!setDiarioAside(serata->registro())) {
+            return refuse(tr("La serata di prima non si può mettere da parte."), QString());
+        }
+        break;
+    case EveningBefore::None:
+        break;
+    }
+    if (!serata->begin(serata->partita().numeri())) {
+        return refuse(tr("La serata non si può salvare accanto al registro."), serata->errorString());
+    }
+    adopt(std::move(serata));
+    return true;
+}
+
+bool Serata::goOn(std::unique_ptr<SerataSalvata> serata)
+{
+    if (!serata->resume()) {
+        return refuse(tr("La serata non può continuare."), serata->errorString());
+    }
+    adopt(std::move(serata));
+    return true;
+}
+
+// The board lets go of the old game before that goes.
+void Serata::adopt(std::unique_ptr<SerataSalvata> serata)
+{
+    m_serata.swap(serata);
+    m_scheda.reset();
+    const Partita &partita = m_serata->partita();
+    ui->tabellone->setPartita(&partita);
+    refresh();
+    say(tr("Schede: %1. Numeri da %2 a %3. Chiamati: %4.")
+            .arg(partita.schede().size())
+            .arg(partita.numeri().da)
+            .arg(partita.numeri().a)
+            .arg(partita.chiamate().size()));
+}
+
+void Serata::chooseRegister()
+{
+    const QString fileName = QFileDialog::getOpenFileName(this, tr("Apre un registro"), globalConfig->defaultSaveDir,
+                                                          QStringLiteral("CSV (*.csv);;"));
+    if (fileName.isEmpty()) {
+        return;
+    }
+    globalConfig->rememberFolder(fileName);
+    if (QFileInfo(fileName) == QFileInfo(m_serata->registro())) {
+        say(tr("Questo registro è già aperto."));
+        return;
+    }
+    openRegister(fileName);
+}
+
+void Serata::tellOfSkippedLines(const QString &description)
+{
+    MsgArea *window = MsgArea::makeFor(this, false);
+    window->setText(description, true);
+    window->show();
+}
+
+bool Serata::refuse(const QString &text, const QString &reason)
+{
+    QMessageBox box(QMessageBox::Critical, windowTitle(), text, QMessageBox::Ok, this);
+    box.setInformativeText(reason);
+    box.exec();
+    return false;
+}
