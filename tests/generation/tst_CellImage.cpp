@@ -4,7 +4,10 @@
 #include "support/ScratchFolder.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 // A JPEG file 40 wide and 20 high, red at the left and blue at the right, whose camera noted that it must be turned a
@@ -45,6 +48,7 @@ private slots:
     void aPictureIsRead();
     void aPictureLyingOnItsSideIsTurnedUpright();
     void whatIsNoPictureIsANullImage();
+    void aPipeIsNoPicture();
 };
 
 void tst_CellImage::aPictureIsRead()
@@ -75,6 +79,14 @@ void tst_CellImage::whatIsNoPictureIsANullImage()
     QVERIFY(loadCellImage(folder.path(QStringLiteral("text.png"))).isNull());
     QVERIFY(loadCellImage(folder.path(QStringLiteral("missing.png"))).isNull());
     QVERIFY(loadCellImage(QString()).isNull());
+}
+
+void tst_CellImage::aPipeIsNoPicture()
+{
+    const ScratchFolder folder;
+    const QString pipe = folder.path(QStringLiteral("pipe.png"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(loadCellImage(pipe).isNull());
 }
 
 QTEST_GUILESS_MAIN(tst_CellImage)
