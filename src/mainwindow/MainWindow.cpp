@@ -41,8 +41,8 @@ MainWindow::~MainWindow() = default;
 // Not in the form: a button's shortcut goes when its text is set, which the form does last.
 void MainWindow::setupShortcuts()
 {
-    ui->butt_aggiungi_pagine->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_N));
-    ui->butt_stampa->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_P));
+    ui->butt_aggiungi_pagine->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+N")));
+    ui->butt_stampa->setShortcut(QKeySequence(QStringLiteral("Ctrl+P")));
 }
 
 // Commands that are no slots of the window.

@@ -98,11 +98,16 @@ bool bringToDisk(const QString &fileName, QString &error)
     return true;
 }
 
-// Why the content did not get whole into the open file; empty when it did.
+// Why the content did not get whole into the open, unbuffered file; empty when it did. A write that is cut short tells
+// the reason only when it is tried again.
 QString lossOf(QFile &file, const QByteArray &content)
 {
-    if (file.write(content) != content.size()) {
-        return file.errorString();
+    for (int done = 0; done < content.size();) {
+        const qint64 written = file.write(content.constData() + done, content.size() - done);
+        if (written <= 0) {
+            return file.errorString();
+        }
+        done += static_cast<int>(written);
     }
     file.close();
     return file.error() == QFile::NoError ? QString() : file.errorString();
@@ -176,7 +181,7 @@ Written writeWhole(const QString &fileName, const QByteArray &content, QIODevice
         return failed(Written::Incomplete, whole.errorString());
     }
     QFile file(whole.writtenName());
-    if (!file.open(QIODevice::WriteOnly | mode)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered | mode)) {
         return failed(Written::NotOpened, file.errorString());
     }
     const QString loss = lossOf(file, content);

@@ -16,6 +16,8 @@ QString shownText(const MsgArea &window)
 }
 } // namespace
 
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
+
 class tst_MainWindowPrinting final : public QObject
 {
     Q_OBJECT
@@ -263,6 +265,5 @@ void tst_MainWindowPrinting::printingShowsTheWaitCursor()
     QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
 }
 
-Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 QTEST_MAIN(tst_MainWindowPrinting)
 #include "tst_MainWindowPrinting.moc"

@@ -212,6 +212,5 @@ void tst_PrintFaults::aPrintIsOnlyThereWhenItIsWhole()
     QVERIFY(report.contains(QStringLiteral("Nome: cards\n")));
 }
 
-Q_DECLARE_METATYPE(FileFaults::Effect)
 QTEST_MAIN(tst_PrintFaults)
 #include "tst_PrintFaults.moc"

@@ -62,6 +62,8 @@ private:
 };
 } // namespace
 
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
+
 class tst_EditPersonaleFile final : public QObject
 {
     Q_OBJECT
@@ -761,6 +763,5 @@ void tst_EditPersonaleFile::loadedPagesAreCreated()
     QCOMPARE(t.box(0, 0)->text(), QString::number(t.cartella.pagine[0]->blocchi[0].righe[0].celle[0].numero));
 }
 
-Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 QTEST_MAIN(tst_EditPersonaleFile)
 #include "tst_EditPersonaleFile.moc"

@@ -169,7 +169,7 @@ void tst_ConfigFaults::aFirstStartOnAFullDiskIsNotTheLast()
     const auto before = std::signal(SIGXFSZ, SIG_IGN);
     rlimit usual{};
     getrlimit(RLIMIT_FSIZE, &usual);
-    for (const rlim_t room : {0, 10, 100}) {
+    for (const rlim_t room : {0U, 10U, 100U}) {
         rlimit small = usual;
         small.rlim_cur = room;
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
@@ -300,6 +300,5 @@ void tst_ConfigFaults::withoutFilesToOpenThereAreTheDefaults()
     QCOMPARE(Config(nullptr).nMin, 7);
 }
 
-Q_DECLARE_METATYPE(FileFaults::Effect)
 QTEST_GUILESS_MAIN(tst_ConfigFaults)
 #include "tst_ConfigFaults.moc"

@@ -51,7 +51,7 @@ bool isBelow(int descriptor)
 bool isDue(FileFaults::Calls calls)
 {
     Plan &p = plan();
-    if (p.calls != calls) {
+    if (p.calls != calls && p.calls != FileFaults::Calls::All) {
         return false;
     }
     ++p.seen;

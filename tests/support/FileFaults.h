@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 
 #include <functional>
@@ -12,7 +13,8 @@ class FileFaults final
 public:
     enum class Calls {
         Changes, // every write, sync, close and rename
-        Reads
+        Reads,
+        All
     };
     enum class Effect {
         Error,        // one call fails
@@ -30,6 +32,8 @@ public:
     // The name of the call that failed last, null until one does.
     static const char *struck();
 };
+
+Q_DECLARE_METATYPE(FileFaults::Effect)
 
 // Runs `action` in a child process. Whether it was killed before it came to its end.
 bool isKilledDuring(const std::function<void()> &action);

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+// Every file that is written or read, and everything that may be in its way, for an ordinary user.
+#include "generation/CellImage.h"
+#include "generation/GUtils.h"
+#include "msgarea/MsgArea.h"
+#include "output/CreateOutputFile.h"
+#include "output/SampleSets.h"
+#include "personale/EditorUnderTest.h"
+#include "settings/MadeTranslations.h"
+#include "support/LogCapture.h"
+#include "support/Obstacle.h"
+#include "support/OrdinaryUser.h"
+
+#include <QBuffer>
+#include <QFileDialog>
+#include <QTextEdit>
+#include <QtTest>
+
+namespace {
+const QByteArray older = "what was there";
+const QString editorTitle = QStringLiteral("Quintra - Mappatura manuale");
+
+// A dialog for files does not let these names through.
+bool passesDialogs(const Obstacle::Kind &kind)
+{
+    return kind.nameFor == nullptr || kind.onReading == Obstacle::Effect::None;
+}
+
+void addKinds(bool (*wanted)(const Obstacle::Kind &))
+{
+    QTest::addColumn<int>("kind");
+    const std::vector<Obstacle::Kind> &all = Obstacle::kinds();
+    for (size_t i = 0; i < all.size(); ++i) {
+        if (wanted(all[i])) {
+            QTest::newRow(all[i].name) << static_cast<int>(i);
+        }
+    }
+}
+
+const Obstacle::Kind &kindNow()
+{
+    QFETCH(int, kind);
+    return Obstacle::kinds()[static_cast<size_t>(kind)];
+}
+
+QByteArray png()
+{
+    QImage picture(30, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+// Strikes when the user has chosen the file and nothing has been done with it yet.
+std::function<void(QWidget *)> strikingWhenChosen(Obstacle &obstacle)
+{
+    return [&obstacle](QWidget *dialog) {
+        QObject::connect(qobject_cast<QFileDialog *>(dialog), &QFileDialog::fileSelected,
+                         [&obstacle]() { obstacle.strike(); });
+    };
+}
+} // namespace
+
+class tst_Obstacles final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aSetIsPrinted_data()
+    {
+        addKinds([](const Obstacle::Kind &) { return true; });
+    }
+    void aSetIsPrinted();
+    void aMappingIsSaved_data() { addKinds(passesDialogs); }
+    void aMappingIsSaved();
+    void aTextIsSaved_data() { aSetIsPrinted_data(); }
+    void aTextIsSaved();
+
+    void aMappingIsOpened_data() { addKinds(passesDialogs); }
+    void aMappingIsOpened();
+    void aTextIsShown_data() { aSetIsPrinted_data(); }
+    void aTextIsShown();
+    void aPictureIsLoaded_data() { aSetIsPrinted_data(); }
+    void aPictureIsLoaded();
+    void aTranslationIsLoaded_data();
+    void aTranslationIsLoaded();
+};
+
+void tst_Obstacles::aSetIsPrinted()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Config config(qApp);
+    globalConfig = &config;
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("cards.pdf"), older);
+    const auto set = SampleSets::classic(2);
+    CreateOutputFile output;
+    QString report;
+    obstacle.strike();
+    const int bytes = output.create(obstacle.path(), set.get(), report);
+    obstacle.lift();
+    globalConfig = nullptr;
+    switch (obstacle.onWriting()) {
+    case Obstacle::Effect::None:
+        QVERIFY(bytes > 0);
+        QVERIFY(folder.read(obstacle.path()).startsWith("%PDF-"));
+        return;
+    case Obstacle::Effect::Refused:
+        QCOMPARE(report, QStringLiteral("Impossibile scrivere sul file!"));
+        break;
+    case Obstacle::Effect::Broken:
+        QCOMPARE(report, QStringLiteral("Impossibile continuare a scrivere sul file!"));
+        break;
+    }
+    QCOMPARE(bytes, -1);
+    QVERIFY(obstacle.isContentKept());
+}
+
+void tst_Obstacles::aMappingIsSaved()
+{
+    EditorUnderTest t(1, 1, 1);
+    const OrdinaryUser user(t.folder);
+    Obstacle obstacle(t.folder, kindNow(), QStringLiteral("a.QcF"), older);
+    const QString caption = QStringLiteral("Salva le cartelle su file");
+    const LogCapture log;
+    t.boxes.expectFileDialog(caption, obstacle.path(), strikingWhenChosen(obstacle));
+    t.boxes.expectBox(
+        caption, QFileInfo(obstacle.path()).fileName() + QStringLiteral(" already exists.\nDo you want to replace it?"),
+        QMessageBox::Yes);
+    const bool broken = obstacle.onWriting() == Obstacle::Effect::Broken;
+    if (broken) {
+        const QString reason = QLatin1String(QTest::currentDataTag()) == QStringLiteral("full disk")
+                                   ? QStringLiteral("File too large")
+                                   : QStringLiteral("No space left on device");
+        t.boxes.expectBox(editorTitle,
+                          QStringLiteral("Errore nel salvataggio del file:\n%1\n\n%2").arg(obstacle.path(), reason),
+                          QMessageBox::Ok);
+    }
+    t.trigger("actionSave");
+    obstacle.lift();
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QVERIFY(t.editor->findChild<MsgArea *>() != nullptr); // the described report
+    if (obstacle.onWriting() == Obstacle::Effect::None) {
+        QCOMPARE(t.folder.read(obstacle.path()), QByteArray("!o\n"));
+    } else {
+        QVERIFY(obstacle.isContentKept());
+    }
+    QCOMPARE(log.warnings().join(QLatin1Char('\n')).contains(QStringLiteral("EditPersonale::writeMapping()")),
+             obstacle.onWriting() == Obstacle::Effect::Refused);
+}
+
+void tst_Obstacles::aTextIsSaved()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("a.txt"), older);
+    MsgArea area(nullptr, true);
+    area.setText(obstacle.path(), true);
+    area.findChild<QTextEdit *>()->setPlainText(QStringLiteral("changed"));
+    const bool written = obstacle.onWriting() == Obstacle::Effect::None;
+    BoxScript boxes;
+    boxes.expectBox(QStringLiteral("Salva"),
+                    written ? QStringLiteral("File salvato con successo.")
+                            : QStringLiteral("Errore nel salvataggio del file!"),
+                    QMessageBox::Ok, [&obstacle](QMessageBox *) { obstacle.lift(); });
+    obstacle.strike();
+    area.findChild<QAction *>(QStringLiteral("actionSalva"))->trigger();
+    QCOMPARE(boxes.problems(), QStringList());
+    QVERIFY(written ? folder.read(obstacle.path()) == "changed" : obstacle.isContentKept());
+}
+
+void tst_Obstacles::aMappingIsOpened()
+{
+    EditorUnderTest t(1, 2, 1);
+    const OrdinaryUser user(t.folder);
+    Obstacle obstacle(t.folder, kindNow(), QStringLiteral("a.QcF"), "!NNN\n!SSS\n");
+    const LogCapture log;
+    t.boxes.expectBox(
+        QStringLiteral("Quintra"),
+        QStringLiteral("Aprendo un nuovo progetto tutto il lavoro in corso di modifica sarà perso. Proseguire?"),
+        QMessageBox::Yes);
+    t.boxes.expectFileDialog(QStringLiteral("Apre un file di cartelle"), obstacle.path(), strikingWhenChosen(obstacle));
+    if (obstacle.onReading() == Obstacle::Effect::Broken) {
+        t.boxes.expectBox(
+            editorTitle,
+            QStringLiteral("Errore nella lettura del file:\n%1\n\nInput/output error").arg(obstacle.path()),
+            QMessageBox::Ok);
+    }
+    t.trigger("actionOpen");
+    obstacle.lift();
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+    const bool read = obstacle.onReading() == Obstacle::Effect::None;
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), read ? 2 : 0);
+    QCOMPARE(t.drawn(), read ? QStringLiteral("NNN") : QString());
+    QCOMPARE(t.find<QLabel>("senzaPagineLabel")->isVisible(), !read);
+    QCOMPARE(log.warnings().join(QLatin1Char('\n')).contains(QStringLiteral("EditPersonale::readMapping()")),
+             obstacle.onReading() == Obstacle::Effect::Refused);
+}
+
+void tst_Obstacles::aTextIsShown()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("a.txt"), older);
+    MsgArea area(nullptr, true);
+    obstacle.strike();
+    area.setText(obstacle.path(), true);
+    obstacle.lift();
+    const bool read = obstacle.onReading() == Obstacle::Effect::None;
+    QCOMPARE(area.findChild<QTextEdit *>()->toPlainText(), read ? QString::fromLatin1(older) : QString());
+}
+
+void tst_Obstacles::aPictureIsLoaded()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("a.png"), png());
+    obstacle.strike();
+    const QImage picture = loadCellImage(obstacle.path());
+    obstacle.lift();
+    QCOMPARE(picture.isNull(), obstacle.onReading() != Obstacle::Effect::None);
+}
+
+void tst_Obstacles::aTranslationIsLoaded_data()
+{
+    addKinds([](const Obstacle::Kind &kind) { return kind.nameFor == nullptr; });
+}
+
+void tst_Obstacles::aTranslationIsLoaded()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    const QByteArray file = madeTranslation(
+        {{QStringLiteral("FormatSelection"), QStringLiteral("Lingua di default"), QStringLiteral("translated")}});
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("Quintra_it_IT.qm"), file);
+    QVERIFY(QFile::link(QStringLiteral("there"), QStringLiteral("language")));
+    GUtils utils(qApp);
+    obstacle.strike();
+    utils.loadTranslations(QStringLiteral("it_IT"));
+    obstacle.lift();
+    const bool read = obstacle.onReading() == Obstacle::Effect::None;
+    QCOMPARE(QCoreApplication::translate("FormatSelection", "Lingua di default"),
+             read ? QStringLiteral("translated") : QStringLiteral("Lingua di default"));
+}
+
+QTEST_MAIN(tst_Obstacles)
+#include "tst_Obstacles.moc"

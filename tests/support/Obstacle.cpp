@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "support/Obstacle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+constexpr int mostLetters = 255;
+
+QString longestName(const QString &suffix)
+{
+    return QString(mostLetters - suffix.size(), QLatin1Char('x')) + suffix;
+}
+
+QString tooLongName(const QString &suffix)
+{
+    return QLatin1Char('x') + longestName(suffix);
+}
+
+// In a folder that no text of the program can name.
+QString nameInOddFolder(const QString &suffix)
+{
+    const QByteArray odd = "odd\xff";
+    if (!QDir().exists(QFile::decodeName(odd)) && mkdir(odd.constData(), S_IRWXU) != 0 && errno != EEXIST) {
+        qFatal("Obstacle: no folder of that name");
+    }
+    return QStringLiteral("../") + QFile::decodeName(odd) + QStringLiteral("/a") + suffix;
+}
+} // namespace
+
+const std::vector<Obstacle::Kind> &Obstacle::kinds()
+{
+    static const std::vector<Kind> all = {
+        {"nothing", Effect::None, Effect::None, strikeName, nullptr},
+        {"read-only file", Effect::Refused, Effect::None, makeReadOnly, nullptr},
+        {"file without rights", Effect::Refused, Effect::Refused, takeRights, nullptr},
+        {"read-only folder", Effect::None, Effect::None, makeFolderReadOnly, nullptr},
+        {"folder without rights", Effect::Refused, Effect::Refused, takeRightsOfFolder, nullptr},
+        {"folder of that name", Effect::Refused, Effect::Refused, makeFolderOfThatName, nullptr},
+        {"vanished folder", Effect::Refused, Effect::Refused, removeFolder, nullptr},
+        {"link to itself", Effect::Refused, Effect::Refused, linkToItself, nullptr},
+        {"no more open files", Effect::Refused, Effect::Refused, takeOpenFiles, nullptr},
+        {"full disk", Effect::Broken, Effect::None, fillDisk, nullptr},
+        {"dying disk", Effect::Broken, Effect::Broken, killDisk, nullptr},
+        {"longest name", Effect::None, Effect::None, strikeName, longestName},
+        {"too long a name", Effect::Refused, Effect::Refused, strikeName, tooLongName},
+        {"folder that is not UTF-8", Effect::Refused, Effect::Refused, strikeName, nameInOddFolder},
+    };
+    return all;
+}
+
+Obstacle::Obstacle(const ScratchFolder &folder, const Kind &kind, const QString &fileName, const QByteArray &content)
+    : m_folder(folder)
+    , m_kind(kind)
+    , m_there(folder.path(QStringLiteral("there")))
+    , m_content(content)
+{
+    const QString suffix = QLatin1Char('.') + QFileInfo(fileName).suffix();
+    m_path = m_there + QLatin1Char('/') + (kind.nameFor != nullptr ? kind.nameFor(suffix) : fileName);
+    QDir().mkpath(m_there);
+    QFile file(m_path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(content);
+    }
+}
+
+Obstacle::~Obstacle()
+{
+    lift();
+}
+
+void Obstacle::lift()
+{
+    m_faults.reset();
+    if (m_limited) {
+        setrlimit(m_resource, &m_usual);
+        m_limited = false;
+    }
+    if (QFileInfo(m_there).isDir()) {
+        QFile::setPermissions(m_there, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    if (QFileInfo(m_path).isFile()) {
+        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
+bool Obstacle::isContentKept() const
+{
+    return !QFileInfo(m_path).isFile() || m_folder.read(m_path) == m_content;
+}
+
+void Obstacle::limit(Resource resource, rlim_t value)
+{
+    getrlimit(resource, &m_usual);
+    rlimit low = m_usual;
+    low.rlim_cur = value;
+    if (setrlimit(resource, &low) != 0) {
+        qFatal("Obstacle: no limit");
+    }
+    m_limited = true;
+    m_resource = resource;
+}
+
+void Obstacle::makeReadOnly(Obstacle &o)
+{
+    QFile::setPermissions(o.m_path, QFile::ReadOwner);
+}
+
+void Obstacle::takeRights(Obstacle &o)
+{
+    QFile::setPermissions(o.m_path, {});
+}
+
+void Obstacle::makeFolderReadOnly(Obstacle &o)
+{
+    QFile::setPermissions(o.m_there, QFile::ReadOwner | QFile::ExeOwner);
+}
+
+void Obstacle::takeRightsOfFolder(Obstacle &o)
+{
+    QFile::setPermissions(o.m_there, {});
+}
+
+void Obstacle::makeFolderOfThatName(Obstacle &o)
+{
+    QFile::remove(o.m_path);
+    QDir().mkdir(o.m_path);
+}
+
+void Obstacle::removeFolder(Obstacle &o)
+{
+    QDir(o.m_there).removeRecursively();
+}
+
+void Obstacle::linkToItself(Obstacle &o)
+{
+    QFile::remove(o.m_path);
+    QFile::link(o.m_path, o.m_path);
+}
+
+void Obstacle::takeOpenFiles(Obstacle &o)
+{
+    o.limit(RLIMIT_NOFILE, STDERR_FILENO + 1);
+}
+
+// The longest file that may be written stands for the room on the disk.
+void Obstacle::fillDisk(Obstacle &o)
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    o.limit(RLIMIT_FSIZE, 1);
+}
+
+void Obstacle::killDisk(Obstacle &o)
+{
+    o.m_faults = std::make_unique<FileFaults>(o.m_there, FileFaults::Calls::All, 1, FileFaults::Effect::LastingError);
+}
