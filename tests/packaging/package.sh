@@ -58,11 +58,12 @@ dpkg-deb --contents "$dbgsym" | grep -q "$(echo "$id" | cut -c 1-2)/$(echo "$id"
 # The first start of an ordinary user.
 cp "$project/tests/packaging/first_start.sh" "$project/tests/support/on_desktop" "$scratch"
 chmod -R a+rX "$scratch"
-mkdir "$scratch/home"
+mkdir -m 700 "$scratch/home"
 user=
 if [ "$(id -u)" -eq 0 ]; then
     user="setpriv --reuid=65534 --regid=65534 --clear-groups"
     chown 65534:65534 "$scratch/home"
 fi
 cd "$scratch/home"
-$user env -i HOME="$scratch/home" LANG=de_DE.UTF-8 PATH="$root/usr/bin:$PATH" sh "$scratch/on_desktop" sh "$scratch/first_start.sh"
+$user env -i HOME="$PWD" XDG_RUNTIME_DIR="$PWD" LANG=de_DE.UTF-8 PATH="$root/usr/bin:$PATH" \
+    sh ../on_desktop sh ../first_start.sh >../first_start.log 2>&1 || fails "$(cat ../first_start.log)"
