@@ -26,15 +26,16 @@ QString property(const QWidget *window, const char *name)
     return QString::fromUtf8(xprop.readAllStandardOutput()).section(QStringLiteral(" = "), 1).trimmed();
 }
 
-// Title and class of a window as the window manager sees them, and whether there is an icon.
+// Title and class of a window as the window manager sees them, and whether it has the program's icon.
 QString seen(QWidget *window)
 {
     if (window == nullptr || !QTest::qWaitForWindowExposed(window)) {
         return QStringLiteral("nothing");
     }
-    const QString icon =
-        property(window, "_NET_WM_ICON").isEmpty() ? QStringLiteral("no icon") : QStringLiteral("icon");
-    return property(window, "_NET_WM_NAME") + QLatin1Char(' ') + property(window, "WM_CLASS") + QLatin1Char(' ') + icon;
+    // The program's begins with its smallest size. A desktop gives windows without one an icon of its own.
+    const bool icon = property(window, "_NET_WM_ICON").startsWith(QStringLiteral("Icon (16 x 16)"));
+    return property(window, "_NET_WM_NAME") + QLatin1Char(' ') + property(window, "WM_CLASS") +
+           (icon ? QStringLiteral(" icon") : QString());
 }
 
 QString expected(const char *title)
@@ -127,7 +128,7 @@ void tst_DesktopIdentity::boxes()
         QMessageBox(QMessageBox::Information, QString(), QStringLiteral("text"), QMessageBox::Ok).exec();
         leave(shown<MainWindow>());
     });
-    QCOMPARE(titles.last(), expected("Quintra"));
+    QCOMPARE(titles, QStringList({expected("Quintra"), expected("Quintra")}));
 }
 
 QTEST_APPLESS_MAIN(tst_DesktopIdentity)
