@@ -9,7 +9,8 @@ QPageLayout pageLayoutOf(const Cartella &set)
 {
     const QMarginsF margins(set.margineSinistro, set.margineSuperiore, set.margineDestro, set.margineInferiore);
     const QPageSize paper(static_cast<QPageSize::PageSizeId>(set.formato));
-    return {paper.isValid() ? paper : QPageSize(QPageSize::A4), QPageLayout::Portrait, margins, QPageLayout::Millimeter};
+    return {paper.isValid() ? paper : QPageSize(QPageSize::A4), QPageLayout::Portrait, margins,
+            QPageLayout::Millimeter};
 }
 
 Sheet sheetOf(const QPageLayout &layout, int resolution, const Cartella &set)

@@ -356,12 +356,9 @@ void tst_LanguageOfWindows::addWindows()
         Window window;
         QLatin1String className;
     };
-    const Row rows[] = {{Main, QLatin1String("MainWindow")},
-                        {FirstStart, QLatin1String("FormatSelection")},
-                        {Settings, QLatin1String("Options")},
-                        {Mapping, QLatin1String("EditPersonale")},
-                        {Evening, QLatin1String("Serata")},
-                        {NewGame, QLatin1String("NuovaPartita")},
+    const Row rows[] = {{Main, QLatin1String("MainWindow")},  {FirstStart, QLatin1String("FormatSelection")},
+                        {Settings, QLatin1String("Options")}, {Mapping, QLatin1String("EditPersonale")},
+                        {Evening, QLatin1String("Serata")},   {NewGame, QLatin1String("NuovaPartita")},
                         {Messages, QLatin1String("MsgArea")}};
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("window");
