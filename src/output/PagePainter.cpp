@@ -2,122 +2,66 @@
 #include "output/PagePainter.h"
 
 #include "model/Cartella.h"
-#include "output/BlockNumbers.h"
-#include "output/NumberShapes.h"
+#include "output/BlockLayers.h"
+#include "output/PageLayers.h"
 
 #include <QPainter>
-
-namespace {
-QPen linePen(const QColor &color, int width)
-{
-    QPen pen;
-    pen.setColor(color);
-    pen.setWidth(width);
-    return pen;
-}
-
-QPen innerPen(const Blocco &block)
-{
-    return linePen(block.coloreLineaInterna, block.spessoreLineaInterna);
-}
-
-QPen outerPen(const Blocco &block)
-{
-    return linePen(block.coloreLineaEsterna, block.spessoreLineaEsterna);
-}
-
-QLineF leftEdge(const QRectF &cell)
-{
-    return {cell.topLeft(), cell.bottomLeft()};
-}
-
-QLineF topEdge(const BlockLayout &block, const RowLayout &row)
-{
-    return {QPointF(block.left, row.top), QPointF(block.left + block.width, row.top)};
-}
-
-QVector<QLineF> separators(const Blocco &block, const BlockLayout &layout)
-{
-    QVector<QLineF> lines;
-    for (int r = 0; r < block.nRighe; ++r) {
-        const int cells = block.righe[static_cast<size_t>(r)].nCelle;
-        const RowLayout row = rowLayout(layout, r, cells);
-        for (int c = 1; c < cells; ++c) {
-            lines.append(leftEdge(row.cellRect(c)));
-        }
-        if (r > 0) {
-            lines.append(topEdge(layout, row));
-        }
-    }
-    return lines;
-}
-} // namespace
 
 PagePainter::PagePainter(QPainter *painter, const DocumentLayout &document)
     : m_painter(painter)
     , m_document(document)
-    , m_shapes(std::make_unique<NumberShapes>(painter))
+    , m_shapes(painter)
 {
 }
-
-PagePainter::~PagePainter() = default;
 
 void PagePainter::paintPage(const Pagina &page) const
 {
     m_painter->fillRect(m_document.sheet, page.sfondo);
     const PageLayout layout = pageLayout(m_document, page.nBlocchi, page.spazioBlocchi);
-    for (int b = 0; b < page.nBlocchi; ++b) {
-        const Blocco &block = page.blocchi[static_cast<size_t>(b)];
-        paintBlock(block, blockLayout(layout, b, block.nRighe), page.sfondo);
+    PageLayers layers; // of the blocks not painted yet
+    const Blocco *above = nullptr;
+    int index = 0;
+    for (const Blocco &block : page) {
+        const BlockLayout place = blockLayout(layout, index++, block.nRighe);
+        if (above != nullptr && !areApart(*above, block, layout.spacing)) {
+            layers.paint(*m_painter);
+        }
+        if (mayBeLayered(block, place, m_shapes)) {
+            addBlock(layers, block, place, page.sfondo, m_shapes);
+        } else {
+            layers.paint(*m_painter);
+            paintBlock(block, place, page.sfondo);
+        }
+        above = &block;
     }
+    layers.paint(*m_painter);
 }
 
+// Cell by cell.
 void PagePainter::paintBlock(const Blocco &block, const BlockLayout &layout, const QColor &pageColor) const
 {
-    if (const auto numbers = numbersApartFromLines(block, layout, pageColor, *m_shapes)) {
-        paintTogether(*numbers, block, layout);
-    } else {
-        paintCellByCell(block, layout, pageColor);
+    int index = 0;
+    for (const Riga &row : block) {
+        const RowLayout place = rowLayout(layout, index, row.nCelle);
+        paintRow(row, place, block, pageColor);
+        if (index++ > 0) {
+            m_painter->setPen(innerPen(block));
+            m_painter->drawLine(layout.topEdge(place));
+        }
     }
     m_painter->setPen(outerPen(block));
     m_painter->drawRect(layout.rect());
 }
 
-void PagePainter::paintTogether(const QVector<PlacedNumber> &numbers, const Blocco &block,
-                                const BlockLayout &layout) const
-{
-    for (const PlacedNumber &number : numbers) {
-        m_painter->setPen(number.color);
-        m_painter->drawGlyphRun(number.corner, number.glyphs);
-    }
-    const QVector<QLineF> lines = separators(block, layout);
-    if (!lines.isEmpty()) {
-        m_painter->setPen(innerPen(block));
-        m_painter->drawLines(lines);
-    }
-}
-
-void PagePainter::paintCellByCell(const Blocco &block, const BlockLayout &layout, const QColor &pageColor) const
-{
-    for (int r = 0; r < block.nRighe; ++r) {
-        const Riga &row = block.righe[static_cast<size_t>(r)];
-        const RowLayout rowPlace = rowLayout(layout, r, row.nCelle);
-        paintRow(row, rowPlace, block, pageColor);
-        if (r > 0) {
-            m_painter->setPen(innerPen(block));
-            m_painter->drawLine(topEdge(layout, rowPlace));
-        }
-    }
-}
-
 void PagePainter::paintRow(const Riga &row, const RowLayout &layout, const Blocco &block, const QColor &pageColor) const
 {
-    for (int c = 0; c < row.nCelle; ++c) {
-        const QRectF rect = layout.cellRect(c);
-        paintCell(row.celle[static_cast<size_t>(c)], rect, pageColor);
-        if (c > 0) {
+    int column = 0;
+    for (const Cella &cell : row) {
+        const QRectF rect = layout.cellRect(column);
+        paintCell(cell, rect, pageColor);
+        if (column++ > 0) {
             m_painter->setPen(innerPen(block));
-            m_painter->drawLine(leftEdge(rect));
+            m_painter->drawLine(rect.topLeft(), rect.bottomLeft());
         }
     }
 }

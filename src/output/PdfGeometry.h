@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLineF>
 #include <QRectF>
 
 // Where things stand on a printed page. Millimetres go in, device pixels come out. Positions count from the painter's
@@ -42,6 +43,17 @@ struct PageLayout
     float spacing = 0.0F; // between two blocks
 };
 
+// One row, cut into cells of one width. Without cells the width is that of the row.
+struct RowLayout
+{
+    float left = 0.0F;
+    float top = 0.0F;
+    float cellWidth = 0.0F;
+    float height = 0.0F;
+
+    QRectF cellRect(int cell) const { return {left + static_cast<float>(cell) * cellWidth, top, cellWidth, height}; }
+};
+
 // One block, cut into rows of one height.
 struct BlockLayout
 {
@@ -52,17 +64,8 @@ struct BlockLayout
     int rows = 0;
 
     QRectF rect() const { return {left, top, width, height}; }
-};
-
-// One row, cut into cells of one width. Without cells the width is that of the row.
-struct RowLayout
-{
-    float left = 0.0F;
-    float top = 0.0F;
-    float cellWidth = 0.0F;
-    float height = 0.0F;
-
-    QRectF cellRect(int cell) const { return {left + static_cast<float>(cell) * cellWidth, top, cellWidth, height}; }
+    // The upper edge of one of its rows.
+    QLineF topEdge(const RowLayout &row) const { return {QPointF(left, row.top), QPointF(left + width, row.top)}; }
 };
 
 [[nodiscard]] DocumentLayout documentLayout(const Sheet &sheet);

@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -71,11 +72,27 @@ QStringList PdfTools::words(const QString &file)
     return text(file).split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
 }
 
-QStringList PdfTools::placedWords(const QString &file, int page)
+bool PdfTools::PlacedWord::operator==(const PlacedWord &other) const
+{
+    constexpr double tolerance = 1e-4;
+    const auto near = [](double left, double right) { return std::abs(left - right) < tolerance; };
+    return text == other.text && near(box.left(), other.box.left()) && near(box.top(), other.box.top()) &&
+           near(box.right(), other.box.right()) && near(box.bottom(), other.box.bottom());
+}
+
+QVector<PdfTools::PlacedWord> PdfTools::placedWords(const QString &file, int page)
 {
     const QStringList arguments = {QStringLiteral("-f"),    number(page), QStringLiteral("-l"), number(page),
                                    QStringLiteral("-bbox"), file,         QStringLiteral("-")};
-    return textOf("pdftotext", arguments).split(QLatin1Char('\n')).filter(QStringLiteral("<word"));
+    static const QRegularExpression word(
+        QStringLiteral("<word xMin=\"(.*)\" yMin=\"(.*)\" xMax=\"(.*)\" yMax=\"(.*)\">(.*)</word>"));
+    QVector<PlacedWord> words;
+    for (auto match = word.globalMatch(textOf("pdftotext", arguments)); match.hasNext();) {
+        const QRegularExpressionMatch one = match.next();
+        const auto at = [&one](int index) { return one.captured(index).toDouble(); };
+        words.append({one.captured(5), QRectF(QPointF(at(1), at(2)), QPointF(at(3), at(4)))});
+    }
+    return words;
 }
 
 QImage PdfTools::picture(const QString &file, int page, int dotsPerInch)

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QImage>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 // Looks into PDF files with the tools that other people open them with. A tool that fails gives an empty result.
 namespace PdfTools {
@@ -19,8 +21,17 @@ bool isSound(const QString &file);
 QString text(const QString &file);
 // The words of text().
 QStringList words(const QString &file);
-// The words of one page (1-based) with the boxes they stand in.
-QStringList placedWords(const QString &file, int page);
+// A word and the box it stands in, in points from the upper left corner of its page.
+struct PlacedWord
+{
+    QString text;
+    QRectF box;
+
+    // Boxes that differ by less than anybody could measure are equal.
+    bool operator==(const PlacedWord &other) const;
+};
+// The words of one page (1-based).
+QVector<PlacedWord> placedWords(const QString &file, int page);
 // One page (1-based) as a picture.
 QImage picture(const QString &file, int page, int dotsPerInch);
 // Pictures stored in the file.

@@ -178,6 +178,32 @@ private slots:
             block(set).spessoreLineaInterna = 20;
             forEachCell(set, [](Cella &each) { each.coloreSfondo = each.numero % 2 == 0 ? Qt::green : Qt::white; });
         });
+        QTest::newRow("chequered backgrounds") << classicSet([](Cartella &set) {
+            bool odd = false;
+            forEachCell(set, [&odd](Cella &each) {
+                odd = !odd;
+                each.coloreSfondo = odd ? QColor(Qt::yellow) : QColor(0, 100, 200, 120);
+                each.coloreTesto = odd ? Qt::darkRed : Qt::darkBlue;
+            });
+        });
+        QTest::newRow("texts and pictures among numbers") << classicSet([](Cartella &set) {
+            const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
+            forEachCell(set, [&](Cella &each) {
+                each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
+                each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
+                each.numero % 7 == 0 ? setPicture(each, picture) : void();
+            });
+        });
+        QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
+        QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
+        QTest::newRow("outlines that reach the next block") << classicSet([](Cartella &set) {
+            for (int b = 0; b < SampleSets::blocks; ++b) {
+                block(set, b).spessoreLineaInterna = 3;
+                block(set, b).coloreLineaInterna = Qt::yellow;
+                block(set, b).spessoreLineaEsterna = 20;
+                block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::darkBlue;
+            }
+        });
         QTest::newRow("blocks that touch") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 0; });
         QTest::newRow("no room left") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 50; });
         QTest::newRow("exactly no room") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 48; });
