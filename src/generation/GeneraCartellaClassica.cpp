@@ -7,6 +7,7 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -46,19 +47,12 @@ std::optional<int> rowsOfRegularPage(const Pagina *page, int nColonne)
     if (page == nullptr || page->nBlocchi == 0) {
         return std::nullopt;
     }
-    const int rows = page->blocchi[0].nRighe;
-    for (int b = 0; b < page->nBlocchi; ++b) {
-        const Blocco &block = page->blocchi[b];
-        if (block.nRighe != rows) {
-            return std::nullopt;
-        }
-        for (int r = 0; r < rows; ++r) {
-            if (block.righe[r].nCelle != nColonne) {
-                return std::nullopt;
-            }
-        }
-    }
-    return rows * page->nBlocchi;
+    const int rows = begin(*page)->nRighe;
+    const bool isRegular = std::all_of(begin(*page), end(*page), [=](const Blocco &block) {
+        return block.nRighe == rows &&
+               std::all_of(begin(block), end(block), [=](const Riga &row) { return row.nCelle == nColonne; });
+    });
+    return isRegular ? std::make_optional(rows * page->nBlocchi) : std::nullopt;
 }
 
 std::vector<qint64> capacitiesOf(const std::vector<ColumnRange> &ranges)
@@ -121,9 +115,9 @@ public:
 
     void write(Cella &cell, quint32 value, const CellValues &marks) const
     {
-        cell.font = defaultCellFont();
-        cell.coloreTesto = Qt::black;
-        cell.coloreSfondo = Qt::white;
+        cell.font = m_newCell.font;
+        cell.coloreTesto = m_newCell.coloreTesto;
+        cell.coloreSfondo = m_newCell.coloreSfondo;
         if (value < marks.empty()) {
             cell.tipo = CELL_NUMERO;
             cell.numero = value;
@@ -139,6 +133,7 @@ public:
     }
 
 private:
+    const Cella m_newCell; // gives every cell the look of a new one
     QString m_text;
     QImage m_image;
 };
@@ -146,13 +141,13 @@ private:
 void writePage(Pagina &page, CellValues &values, const CellWriter &writer)
 {
     int pageRow = 0;
-    for (int b = 0; b < page.nBlocchi; ++b) {
-        const Blocco &block = page.blocchi[b];
-        for (int r = 0; r < block.nRighe; ++r, ++pageRow) {
-            const Riga &row = block.righe[r];
-            for (int c = 0; c < row.nCelle; ++c) {
-                writer.write(row.celle[c], values.at(pageRow, c), values);
+    for (Blocco &block : page) {
+        for (Riga &row : block) {
+            int column = 0;
+            for (Cella &cell : row) {
+                writer.write(cell, values.at(pageRow, column++), values);
             }
+            ++pageRow;
         }
     }
 }
