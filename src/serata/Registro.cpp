@@ -23,7 +23,9 @@ constexpr char escape = '\\';
 constexpr char pictureWord[] = "immagine";
 constexpr int escapedDigits = 4; // hexadecimal, after \u
 constexpr int hexadecimal = 16;
-constexpr int longestLine = 1 << 22; // bytes: far more than 255 rows of 255 cells need
+constexpr size_t longestCell = 11;     // bytes of a number of 32 bits and a separator
+constexpr size_t longestCharacter = 6; // bytes of an escaped one
+constexpr int longestLine = 1 << 22;   // bytes: far more than 255 rows of 255 cells need
 constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
 constexpr size_t mostEntriesDescribed = 500;
 
@@ -32,11 +34,44 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Registro)
 };
 
-void appendNumber(std::string &text, quint32 number)
+// A text that grows. Room for whatever is appended must have been made before: at once for all numbers of a row, which
+// are so written almost as fast as the set is read.
+class LineWriter final
 {
-    char digits[std::numeric_limits<quint32>::digits10 + 1];
-    text.append(digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr);
-}
+public:
+    void makeRoom(size_t bytes)
+    {
+        m_room += bytes;
+        if (m_room > m_text.size()) {
+            m_text.resize(2 * m_room);
+        }
+    }
+    void append(char character) { m_text[m_length++] = character; }
+    void append(quint32 number)
+    {
+        char *const begin = m_text.data() + m_length;
+        m_length += static_cast<size_t>(std::to_chars(begin, m_text.data() + m_text.size(), number).ptr - begin);
+    }
+    void append(const char *word)
+    {
+        for (; *word != '\0'; ++word) {
+            append(*word);
+        }
+    }
+
+    void clear()
+    {
+        m_room = 0;
+        m_length = 0;
+    }
+    const char *data() const { return m_text.data(); }
+    int size() const { return static_cast<int>(m_length); }
+
+private:
+    std::vector<char> m_text;
+    size_t m_room = 0; // bytes asked for
+    size_t m_length = 0;
+};
 
 bool standsAsItIs(QChar c)
 {
@@ -44,42 +79,75 @@ bool standsAsItIs(QChar c)
     return c.unicode() <= lastLatin1 && c.category() != QChar::Other_Control;
 }
 
-void appendCharacter(std::string &text, QChar c)
+void appendEscaped(LineWriter &line, QChar c)
 {
-    if (!standsAsItIs(c)) {
-        const QString digits =
-            QString::number(c.unicode(), hexadecimal).rightJustified(escapedDigits, QLatin1Char('0'));
-        text += escape;
-        text += 'u';
-        text += digits.toStdString();
-        return;
-    }
-    const char character = c.toLatin1();
-    if (character == quote || character == escape) {
-        text += character;
-    }
-    text += character;
+    line.append(escape);
+    line.append('u');
+    const QString digits = QString::number(c.unicode(), hexadecimal).rightJustified(escapedDigits, QLatin1Char('0'));
+    line.append(digits.toLatin1().constData());
 }
 
-void appendCell(std::string &text, const Cella &cella)
+void appendCharacter(LineWriter &line, QChar c)
+{
+    const char character = c.toLatin1();
+    if (!standsAsItIs(c)) {
+        appendEscaped(line, c);
+        return;
+    }
+    if (character == quote || character == escape) {
+        line.append(character);
+    }
+    line.append(character);
+}
+
+void appendText(LineWriter &line, const QString &text)
+{
+    line.makeRoom(longestCharacter * static_cast<size_t>(text.size()) + 2);
+    line.append(quote);
+    for (const QChar c : text) {
+        appendCharacter(line, c);
+    }
+    line.append(quote);
+}
+
+void appendCell(LineWriter &line, const Cella &cella)
 {
     switch (cella.tipo) {
     case CELL_NUMERO:
-        appendNumber(text, cella.numero);
+        line.append(cella.numero);
         break;
     case CELL_TESTO:
-        text += quote;
-        for (const QChar c : cella.testo) {
-            appendCharacter(text, c);
-        }
-        text += quote;
+        appendText(line, cella.testo);
         break;
     case CELL_IMMAGINE:
-        text += pictureWord;
+        line.append(pictureWord);
         break;
     case CELL_VUOTA:
         break;
     }
+}
+
+void appendRow(LineWriter &line, const Riga &riga)
+{
+    line.makeRoom(2 + longestCell * riga.nCelle);
+    line.append(separator);
+    line.append(rowMark);
+    for (const Cella &cella : riga) {
+        line.append(separator);
+        appendCell(line, cella);
+    }
+}
+
+void appendLine(LineWriter &line, const Blocco &blocco, Posizione posizione)
+{
+    line.makeRoom(2 * longestCell);
+    line.append(quint32{posizione.pagina});
+    line.append(separator);
+    line.append(quint32{posizione.blocco});
+    for (const Riga &riga : blocco) {
+        appendRow(line, riga);
+    }
+    line.append('\n');
 }
 
 // Takes a line apart, from its first character to its last.
@@ -326,36 +394,26 @@ bool isClosed(QFile &file)
 }
 } // namespace
 
-void appendLine(std::string &text, const Blocco &blocco, Posizione posizione)
+QByteArray lineOf(const Blocco &blocco, Posizione posizione)
 {
-    appendNumber(text, posizione.pagina);
-    text += separator;
-    appendNumber(text, posizione.blocco);
-    for (const Riga &riga : blocco) {
-        text += separator;
-        text += rowMark;
-        for (const Cella &cella : riga) {
-            text += separator;
-            appendCell(text, cella);
-        }
-    }
-    text += '\n';
+    LineWriter line;
+    appendLine(line, blocco, posizione);
+    return {line.data(), line.size()};
 }
 
 bool write(QIODevice &device, const Cartella &cartella)
 {
-    std::string text;
+    LineWriter lines;
     Posizione posizione;
     for (const Pagina *pagina : cartella.pagine) {
-        text.clear();
+        lines.clear();
         ++posizione.pagina;
         posizione.blocco = 0;
         for (const Blocco &blocco : *pagina) {
             ++posizione.blocco;
-            appendLine(text, blocco, posizione);
+            appendLine(lines, blocco, posizione);
         }
-        const auto size = static_cast<qint64>(text.size());
-        if (device.write(text.data(), size) != size) {
+        if (device.write(lines.data(), lines.size()) != lines.size()) {
             return false;
         }
     }

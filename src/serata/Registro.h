@@ -3,9 +3,9 @@
 
 #include "serata/Scheda.h"
 
+#include <QByteArray>
 #include <QString>
 
-#include <string>
 #include <vector>
 
 class QIODevice;
@@ -48,8 +48,8 @@ struct Lettura
     std::vector<RigheSaltate> saltate;
 };
 
-// Appends the line of a card.
-void appendLine(std::string &text, const Blocco &blocco, Posizione posizione);
+// The line of a card, with its end.
+QByteArray lineOf(const Blocco &blocco, Posizione posizione);
 // False when the device does not take everything.
 [[nodiscard]] bool write(QIODevice &device, const Cartella &cartella);
 // Writes a file, whole or not at all. False when that fails, for the reason then in `reason`.

@@ -30,11 +30,11 @@ Registro::Lettura readBytes(QByteArray bytes)
 
 QByteArray writtenBytes(const std::vector<Scheda> &schede)
 {
-    std::string text;
+    QByteArray text;
     for (const Scheda &scheda : schede) {
-        Registro::appendLine(text, blockOf(scheda), scheda.posizione);
+        text += Registro::lineOf(blockOf(scheda), scheda.posizione);
     }
-    return QByteArray::fromStdString(text);
+    return text;
 }
 
 void requireSound(const Scheda &scheda)
