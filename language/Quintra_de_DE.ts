@@ -860,10 +860,6 @@ Fehler beim Hinzufügen der Seite %i.</translation>
         <translation>Bild des ausgewählten Feldes wählen</translation>
     </message>
     <message>
-        <source>Seleziona immagine...</source>
-        <translation>Bild wählen...</translation>
-    </message>
-    <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
         <translation>Feldbefehle wirken auf dieselben Felder aller Seiten</translation>
     </message>
@@ -1304,6 +1300,10 @@ Seiten: %1</translation>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
         <translation>Die Farbe der Linien hat noch keine Wirkung!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Bild...</translation>
     </message>
 </context>
 <context>

@@ -860,10 +860,6 @@ Error while adding page %i.</translation>
         <translation>Choose the picture of the selected cell</translation>
     </message>
     <message>
-        <source>Seleziona immagine...</source>
-        <translation>Choose picture...</translation>
-    </message>
-    <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
         <translation>Cell commands act on the same cells on all pages</translation>
     </message>
@@ -1304,6 +1300,10 @@ Pages: %1</translation>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
         <translation>The colour of the lines has no effect yet!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Picture...</translation>
     </message>
 </context>
 <context>

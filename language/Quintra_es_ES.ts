@@ -860,10 +860,6 @@ Error al añadir la página %i.</translation>
         <translation>Elegir la imagen de la casilla seleccionada</translation>
     </message>
     <message>
-        <source>Seleziona immagine...</source>
-        <translation>Elegir imagen...</translation>
-    </message>
-    <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
         <translation>Los comandos de casilla actúan sobre las mismas casillas de todas las páginas</translation>
     </message>
@@ -1304,6 +1300,10 @@ Páginas: %1</translation>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
         <translation>¡El color de las líneas todavía no tiene efecto!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Imagen...</translation>
     </message>
 </context>
 <context>

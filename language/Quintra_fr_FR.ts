@@ -860,10 +860,6 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
         <translation>Choisir l&apos;image de la case sélectionnée</translation>
     </message>
     <message>
-        <source>Seleziona immagine...</source>
-        <translation>Choisir une image...</translation>
-    </message>
-    <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
         <translation>Les commandes de case agissent sur les mêmes cases de toutes les pages</translation>
     </message>
@@ -1304,6 +1300,10 @@ Pages&#xa0;: %1</translation>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
         <translation>La couleur des lignes n&apos;a pas encore d&apos;effet&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Image...</translation>
     </message>
 </context>
 <context>

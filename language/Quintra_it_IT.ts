@@ -860,10 +860,6 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
         <translation>Sceglie l&apos;immagine della cella selezionata</translation>
     </message>
     <message>
-        <source>Seleziona immagine...</source>
-        <translation>Seleziona immagine...</translation>
-    </message>
-    <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
         <translation>I comandi di cella agiscono sulle stesse celle di tutte le pagine</translation>
     </message>
@@ -1304,6 +1300,10 @@ Pagine: %1</translation>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
         <translation>Il colore delle linee non ha ancora effetto!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Immagine...</translation>
     </message>
 </context>
 <context>
