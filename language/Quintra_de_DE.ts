@@ -1305,6 +1305,22 @@ Seiten: %1</translation>
         <source>Immagine...</source>
         <translation>Bild...</translation>
     </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Erzeugung der Zahlen:
+Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Die übrigen in einer Meldung zusammenfassen</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Geänderte Werte aus config.ini:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

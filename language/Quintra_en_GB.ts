@@ -1305,6 +1305,22 @@ Pages: %1</translation>
         <source>Immagine...</source>
         <translation>Picture...</translation>
     </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Number generation:
+Other pages not generated (counted from 1): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Sum up the others in one message</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Values of config.ini changed:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

@@ -1305,6 +1305,22 @@ Páginas: %1</translation>
         <source>Immagine...</source>
         <translation>Imagen...</translation>
     </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Generación de números:
+Otras páginas no generadas (contadas desde 1): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Resumir las demás en un solo mensaje</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Valores de config.ini cambiados:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

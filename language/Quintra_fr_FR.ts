@@ -1305,6 +1305,22 @@ Pages&#xa0;: %1</translation>
         <source>Immagine...</source>
         <translation>Image...</translation>
     </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Génération des numéros&#xa0;:
+Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Résumer les autres dans un seul message</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Valeurs de config.ini modifiées&#xa0;:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

@@ -1305,6 +1305,22 @@ Pagine: %1</translation>
         <source>Immagine...</source>
         <translation>Immagine...</translation>
     </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Riassumi le altre in un solo messaggio</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Valori cambiati di config.ini:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

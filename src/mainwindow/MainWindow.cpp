@@ -63,7 +63,8 @@ void MainWindow::setupParameters()
 {
     loadDefaultParameters();
     enableParameters(false);
-    checkParameters(nullptr, false);
+    parameterEdited();
+    showChangedDefaults();
     ui->box_classica_numeropagine->setFocus(); // the first thing to say, to be typed over
     ui->box_classica_numeropagine->selectAll();
 }

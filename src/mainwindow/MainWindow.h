@@ -125,6 +125,8 @@ private:
 
     // Parameters.
     void loadDefaultParameters();
+    void parameterEdited();
+    void showChangedDefaults();
     void enableParameters(bool byHand);
     CardParameters parameters() const;
     void showSettingStatus(Verdict verdict, const QString &toolTip);
@@ -137,6 +139,7 @@ private:
     void createEmptyPages(const CardParameters &requested);
     bool appendEmptyPages(const CardParameters &requested);
     void fillPages(int first, const CardParameters &requested);
+    bool tellOfFailedPage(int page);
     void showFirstPage();
     void openEditor(bool append);
 

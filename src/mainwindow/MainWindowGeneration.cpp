@@ -3,11 +3,13 @@
 
 #include "generation/DefaultCell.h"
 #include "generation/GeneraCartellaClassica.h"
+#include "model/PageNumbers.h"
 #include "msgarea/Confirmation.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/EditPersonale.h"
 #include "ui_MainWindow.h"
 
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QScopeGuard>
 
@@ -159,14 +161,35 @@ void MainWindow::fillPages(int first, const CardParameters &p)
         return;
     }
     const WaitCursor wait(this);
+    bool summarise = false;
+    QVector<int> otherFailures;
     for (int page = first; page < m_cartella->getNumPages(); ++page) {
         const U8 columns = m_cartella->getMaxPageColSize(static_cast<quint16>(page));
-        if (!m_generatore->generate(m_cartella->pagine[page], columns, static_cast<U8>(p.drawn),
-                                    static_cast<U8>(p.jolly), static_cast<U8>(p.scritte), p.minimum, p.maximum)) {
-            QMessageBox::critical(this, boxTitle(),
-                                  tr("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(page));
+        const bool filled =
+            m_generatore->generate(m_cartella->pagine[page], columns, static_cast<U8>(p.drawn),
+                                   static_cast<U8>(p.jolly), static_cast<U8>(p.scritte), p.minimum, p.maximum);
+        if (!filled && summarise) {
+            otherFailures.append(page);
+        } else if (!filled) {
+            summarise = tellOfFailedPage(page);
         }
     }
+    if (!otherFailures.isEmpty()) {
+        QMessageBox::critical(this, boxTitle(),
+                              tr("Generazione numeri:\nAltre pagine non generate (contate da 1): %1")
+                                  .arg(pageNumbersText(otherFailures)));
+    }
+}
+
+// Whether the user wants to hear of the other pages (0-based) in one box at the end.
+bool MainWindow::tellOfFailedPage(int page)
+{
+    QMessageBox box(QMessageBox::Critical, boxTitle(),
+                    tr("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(page),
+                    QMessageBox::Ok, this);
+    box.setCheckBox(new QCheckBox(tr("Riassumi le altre in un solo messaggio")));
+    box.exec();
+    return box.checkBox()->isChecked();
 }
 
 void MainWindow::showFirstPage()

@@ -138,6 +138,8 @@ private slots:
     void theWindowMayGoWhileTheEditorIsOpen();
     void anUnreadableDefaultImageIsToldOncePerGeneration();
     void theMemoryWarningHasNoAsDefault();
+    void failedPagesAreToldInOneBoxWhenWanted();
+    void noSummaryComesWhenNoOtherPageFailed();
 };
 
 void tst_MainWindowGeneration::theFirstPagesMakeACardSetWithoutAsking()
@@ -755,6 +757,38 @@ void tst_MainWindowGeneration::theMemoryWarningHasNoAsDefault()
             QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
             QCOMPARE(box->informativeText(), QStringLiteral("Pagine non stampate dopo l'ultima modifica: 1."));
         });
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 1);
+}
+
+void tst_MainWindowGeneration::failedPagesAreToldInOneBoxWhenWanted()
+{
+    PageWindow page;
+    setImpossibleCard(page);
+    set(page, "numeropagine", 4);
+    const auto text = [](int failed) {
+        return QStringLiteral("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(failed);
+    };
+    page.boxes.expectBox(boxTitle, text(0), QMessageBox::Ok,
+                         [](QMessageBox *box) { QVERIFY(!box->checkBox()->isChecked()); });
+    page.boxes.expectBox(boxTitle, text(1), QMessageBox::Ok, [](QMessageBox *box) {
+        QCOMPARE(box->checkBox()->text(), QStringLiteral("Riassumi le altre in un solo messaggio"));
+        QVERIFY(!box->checkBox()->isChecked());
+        box->checkBox()->click();
+    });
+    page.boxes.expectBox(boxTitle,
+                         QStringLiteral("Generazione numeri:\nAltre pagine non generate (contate da 1): 3, 4"),
+                         QMessageBox::Ok, QMessageBox::Critical);
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 4);
+}
+
+void tst_MainWindowGeneration::noSummaryComesWhenNoOtherPageFailed()
+{
+    PageWindow page;
+    setImpossibleCard(page);
+    page.boxes.expectBox(boxTitle, QStringLiteral("Generazione numeri:\nErrore durante la generazione della pagina 0."),
+                         QMessageBox::Ok, [](QMessageBox *box) { box->checkBox()->click(); });
     page.press("butt_aggiungi_pagine");
     QCOMPARE(page.set()->getNumPages(), 1);
 }
