@@ -13,31 +13,18 @@
 #include <QScopedValueRollback>
 #include <QTableWidget>
 
-#include <algorithm>
-
 namespace {
 // More lines of equal blocks than these nobody reads.
 constexpr qint64 mostLines = 100000;
 
-// The font as it is drawn, by the names that the font dialog lists: it chooses just any family or style, such as bold,
-// in place of one that it does not list.
+// The font as it is really drawn, by the names that the font dialog lists: in place of a family or style that it does
+// not list, it chooses just any, such as bold.
 QFont listedFont(QFont font)
 {
-    const QFontDatabase fonts;
-    if (!fonts.families().contains(font.family())) {
+    if (!QFontDatabase().families().contains(font.family())) {
         font.setFamily(QFontInfo(font).family());
     }
-    const QStringList styles = fonts.styles(font.family());
-    if (styles.contains(font.styleName())) {
-        return font;
-    }
-    const auto distance = [&](const QString &style) {
-        const bool otherSlant = fonts.italic(font.family(), style) != font.italic();
-        return std::make_pair(otherSlant, qAbs(fonts.weight(font.family(), style) - font.weight()));
-    };
-    const auto nearest = std::min_element(
-        styles.cbegin(), styles.cend(), [&](const QString &a, const QString &b) { return distance(a) < distance(b); });
-    font.setStyleName(nearest != styles.cend() ? *nearest : QString());
+    font.setStyleName(QFontInfo(font).styleName());
     return font;
 }
 } // namespace

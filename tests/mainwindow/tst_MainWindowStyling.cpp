@@ -5,8 +5,10 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QTextEdit>
 
@@ -586,28 +588,34 @@ void tst_MainWindowStyling::thePickerSaysWhatItColours()
     w.picker()->reject();
 }
 
-// The family of the first font is not installed everywhere.
+// DejaVu Sans, drawn here in place of the first family, calls its regular style "Book".
 void tst_MainWindowStyling::aNewSizeAloneChangesNoWeight()
 {
+    const QString missing = QStringLiteral("Arial");
+    const QString drawn = QStringLiteral("DejaVu Sans");
+    QVERIFY(QFontDatabase().families().contains(drawn));
+    QFont::insertSubstitution(missing, drawn);
+    const auto asBefore = qScopeGuard([missing]() { QFont::removeSubstitutions(missing); });
+
     PageWindow w;
     w.showPages(1, {1, 1, 2});
     w.select(0, 0);
-    const QString drawn = QFontInfo(QFont(QStringLiteral("Arial"), 30)).family();
-    const auto makeLarger = [drawn](QFontDialog *dialog) {
+    w.boxes.expectFontDialog([](QFontDialog *dialog) {
         QLineEdit *size = nullptr;
         for (QLineEdit *edit : dialog->findChildren<QLineEdit *>()) {
             size = edit->text() == QLatin1String("30") ? edit : size;
         }
         QVERIFY(size != nullptr);
         size->setText(QStringLiteral("31"));
-        QCOMPARE(dialog->currentFont().family(), drawn);
-    };
-    w.boxes.expectFontDialog(makeLarger);
+    });
     w.press("seleziona_font_button");
     const QFont chosen = w.cell(0, 0, 0).font;
     QCOMPARE(chosen.pointSize(), 31);
+    QCOMPARE(chosen.family(), drawn);
+    QCOMPARE(chosen.styleName(), QStringLiteral("Book"));
     QCOMPARE(QFontInfo(chosen).weight(), int(QFont::Normal));
     QVERIFY(!QFontInfo(chosen).italic());
+    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowStyling::theFontReachesTheSelection()
