@@ -43,8 +43,9 @@ public:
     {
         for (int p = 0; p < pages.size(); ++p) {
             aboutToRead(p);
-            for (int b = 0; b < pages[p]->nBlocchi; ++b) {
-                enter(blockSignature(pages[p]->blocchi[b]), {p, b});
+            int b = 0;
+            for (const Blocco &block : *pages[p]) {
+                enter(blockSignature(block), {p, b++});
             }
         }
         groupEquals();

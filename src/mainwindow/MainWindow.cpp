@@ -3,7 +3,6 @@
 
 #include "generation/GUtils.h"
 #include "generation/GeneraCartellaClassica.h"
-#include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
 #include "resources/Resources.h"
 #include "settings/Options.h"
@@ -63,8 +62,7 @@ void MainWindow::setupParameters()
 {
     loadDefaultParameters();
     enableParameters(false);
-    parameterEdited();
-    showChangedDefaults();
+    checkParameters(nullptr, false);
     ui->box_classica_numeropagine->setFocus(); // the first thing to say, to be typed over
     ui->box_classica_numeropagine->selectAll();
 }
@@ -170,7 +168,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->accept();
         return;
     }
-    if (!confirmLoss(this, Product::nameText(), tr("Sei sicuro di voler uscire?"), unprintedPages())) {
+    const auto answer = QMessageBox::question(this, Product::nameText(), tr("Sei sicuro di voler uscire?"),
+                                              QMessageBox::Yes | QMessageBox::No);
+    if (answer != QMessageBox::Yes) {
         event->ignore();
         return;
     }

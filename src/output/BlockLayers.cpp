@@ -77,14 +77,14 @@ void addCell(PageLayers &layers, const Cella &cell, const QRectF &rect, const QC
 void addSeparators(PageLayers &layers, const Blocco &block, const BlockLayout &layout)
 {
     const QPen pen = innerPen(block);
-    const auto rowAt = [&](int row) { return rowLayout(layout, row, block.righe[row].nCelle); };
+    const auto rowAt = [&](int row) { return rowLayout(layout, row, begin(block)[row].nCelle); };
     for (int row = 1; row < block.nRighe; ++row) {
         layers.addSeparator(layout.topEdge(rowAt(row)), pen);
     }
     // Those between cells run through all neighbouring rows with as many cells.
     for (int first = 0, next = 0; first < block.nRighe; first = next) {
-        const int cells = block.righe[first].nCelle;
-        while (next < block.nRighe && block.righe[next].nCelle == cells) {
+        const int cells = begin(block)[first].nCelle;
+        while (next < block.nRighe && begin(block)[next].nCelle == cells) {
             ++next;
         }
         const RowLayout upper = rowAt(first);

@@ -9,6 +9,10 @@ namespace Ui {
 class FormatSelection;
 }
 
+QT_WARNING_PUSH
+// The signal by which all top-level windows end hides the slot of dialogs.
+QT_WARNING_DISABLE_CLANG("-Woverloaded-virtual")
+
 // The first-start dialog: choice of the language, direct editing of config.ini.
 class FormatSelection final : public QDialog
 {
@@ -41,3 +45,5 @@ private:
 
     std::unique_ptr<Ui::FormatSelection> ui;
 };
+
+QT_WARNING_POP

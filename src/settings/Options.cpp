@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Options.h"
 
-#include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
@@ -52,7 +51,7 @@ void Options::deleteConfig(bool exitAfter)
 
 bool Options::confirm(const QString &question)
 {
-    return confirmLoss(this, windowTitle(), question, tr("Le impostazioni di config.ini vanno perse."));
+    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 void Options::on_butt_azzeraesci_clicked()

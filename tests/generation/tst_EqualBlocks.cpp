@@ -14,7 +14,7 @@
 namespace {
 Cella &cellOf(const Cartella &set, int page, int block, int cell = 0)
 {
-    return set.pagine[page]->blocchi[block].righe[0].celle[cell];
+    return set.pagine[page]->blocchi[size_t(block)].righe[0].celle[size_t(cell)];
 }
 
 void setNumber(Cella &cell, quint32 number)
@@ -40,9 +40,9 @@ void setPicture(Cella &cell, const QSize &size, const QColor &color)
 void makeAllDifferent(const Cartella &set)
 {
     quint32 number = 0;
-    for (const Pagina *page : set.pagine) {
-        for (int b = 0; b < page->nBlocchi; ++b) {
-            setNumber(page->blocchi[b].righe[0].celle[0], ++number);
+    for (Pagina *page : set.pagine) {
+        for (Blocco &block : *page) {
+            setNumber(block.righe[0].celle[0], ++number);
         }
     }
 }
@@ -63,8 +63,9 @@ struct PlainCheck
         };
         std::vector<Stored> stored;
         for (int p = 0; p < set.pagine.size(); ++p) {
-            for (int b = 0; b < set.pagine[p]->nBlocchi; ++b) {
-                const QString signature = blockSignature(set.pagine[p]->blocchi[b]);
+            int b = 0;
+            for (const Blocco &block : *set.pagine[p]) {
+                const QString signature = blockSignature(block);
                 for (const Stored &earlier : stored) {
                     if (earlier.page == p) {
                         break;
@@ -78,7 +79,7 @@ struct PlainCheck
                                          .arg(earlier.block + 1));
                     }
                 }
-                stored.push_back({signature, p, b});
+                stored.push_back({signature, p, b++});
             }
         }
     }
@@ -175,8 +176,8 @@ void tst_EqualBlocks::signaturesOfWideRows()
 {
     const Cartella set(1, 3, 255);
     QString expected;
-    for (int r = 0; r < 3; ++r) {
-        for (int c = 0; c < 255; ++c) {
+    for (size_t r = 0; r < 3; ++r) {
+        for (size_t c = 0; c < 255; ++c) {
             const auto number = static_cast<quint32>(r == 2 ? c * 7 : 100 + c);
             setNumber(set.pagine[0]->blocchi[0].righe[r].celle[c], number);
             expected += QString::number(number);
@@ -491,10 +492,10 @@ void tst_EqualBlocks::manyDifferentBlocksAreToldApart()
 {
     Cartella set(65535, 6, 1, 1);
     unsigned value = 1;
-    for (const Pagina *page : qAsConst(set.pagine)) {
-        for (int b = 0; b < 6; ++b) {
+    for (Pagina *page : qAsConst(set.pagine)) {
+        for (Blocco &block : *page) {
             value = value * 1103515245U + 12345U; // comes round only after all 32-bit values
-            setText(page->blocchi[b].righe[0].celle[0], QString::number(value, 36));
+            setText(block.righe[0].celle[0], QString::number(value, 36));
         }
     }
     QCOMPARE(set.checkForEqualBlocks(), qint64(0));

@@ -45,12 +45,10 @@ bool fill(Cartella &set, const Shape &shape)
 QStringList rowsOf(const Pagina &page)
 {
     QStringList rows;
-    for (int b = 0; b < page.nBlocchi; ++b) {
-        for (int r = 0; r < page.blocchi[b].nRighe; ++r) {
-            const Riga &row = page.blocchi[b].righe[r];
+    for (const Blocco &block : page) {
+        for (const Riga &row : block) {
             QStringList cells;
-            for (int c = 0; c < row.nCelle; ++c) {
-                const Cella &cell = row.celle[c];
+            for (const Cella &cell : row) {
                 cells.append(cell.tipo == CELL_NUMERO     ? QString::number(cell.numero)
                              : cell.tipo == CELL_IMMAGINE ? QStringLiteral("I")
                              : cell.tipo == CELL_TESTO    ? QStringLiteral("S")
@@ -224,14 +222,13 @@ private:
 };
 
 // A page whose cells carry all sorts of things.
-void decorate(const Pagina &page)
+void decorate(Pagina &page)
 {
     QImage picture(3, 2, QImage::Format_RGB32);
     picture.fill(Qt::green);
-    for (int b = 0; b < page.nBlocchi; ++b) {
-        for (int r = 0; r < page.blocchi[b].nRighe; ++r) {
-            for (int c = 0; c < page.blocchi[b].righe[r].nCelle; ++c) {
-                Cella &cell = page.blocchi[b].righe[r].celle[c];
+    for (Blocco &block : page) {
+        for (Riga &row : block) {
+            for (Cella &cell : row) {
                 cell.tipo = CELL_TESTO;
                 cell.testo = QStringLiteral("old");
                 cell.numero = 77;
@@ -246,10 +243,9 @@ void decorate(const Pagina &page)
 
 bool isDecorated(const Pagina &page)
 {
-    for (int b = 0; b < page.nBlocchi; ++b) {
-        for (int r = 0; r < page.blocchi[b].nRighe; ++r) {
-            for (int c = 0; c < page.blocchi[b].righe[r].nCelle; ++c) {
-                const Cella &cell = page.blocchi[b].righe[r].celle[c];
+    for (const Blocco &block : page) {
+        for (const Riga &row : block) {
+            for (const Cella &cell : row) {
                 if (cell.tipo != CELL_TESTO || cell.testo != QStringLiteral("old") || cell.numero != 77 ||
                     cell.immagine.width() != 3 || cell.font.pointSize() != 8 || cell.coloreTesto != Qt::red ||
                     cell.coloreSfondo != Qt::blue) {
@@ -428,10 +424,10 @@ void tst_GeneraCartellaClassica::columnsHoldOnlyTheirNumbers()
         seedRandom(seed);
         QVERIFY(fill(set, shape));
         QSet<quint32> seen;
-        for (int b = 0; b < shape.blocks; ++b) {
-            for (int r = 0; r < shape.rowsPerBlock; ++r) {
+        for (const Blocco &block : *set.pagine[0]) {
+            for (const Riga &row : block) {
                 for (int c = 0; c < shape.columns; ++c) {
-                    const Cella &cell = set.pagine[0]->blocchi[b].righe[r].celle[c];
+                    const Cella &cell = row.celle[size_t(c)];
                     if (cell.tipo == CELL_NUMERO) {
                         QVERIFY(cell.numero >= static_cast<quint32>(firsts[c]));
                         QVERIFY(cell.numero < static_cast<quint32>(firsts[c + 1]));
@@ -512,9 +508,8 @@ void tst_GeneraCartellaClassica::cellsGetTheirDefaultLook()
     Cartella set(1, 3, 9);
     decorate(*set.pagine[0]);
     QVERIFY(fill(set, {1, 3, 9, 5, 1, 1, 1, 90}));
-    for (int r = 0; r < 3; ++r) {
-        for (int c = 0; c < 9; ++c) {
-            const Cella &cell = set.pagine[0]->blocchi[0].righe[r].celle[c];
+    for (const Riga &row : set.pagine[0]->blocchi[0]) {
+        for (const Cella &cell : row) {
             QVERIFY(cell.font.isCopyOf(defaultCellFont()));
             QCOMPARE(cell.coloreTesto, QColor(Qt::black));
             QCOMPARE(cell.coloreSfondo, QColor(Qt::white));
@@ -527,9 +522,8 @@ void tst_GeneraCartellaClassica::whatACellShowedBeforeStaysUnseen()
     Cartella set(1, 3, 9);
     decorate(*set.pagine[0]);
     QVERIFY(fill(set, {1, 3, 9, 5, 1, 1, 1, 90}));
-    for (int r = 0; r < 3; ++r) {
-        for (int c = 0; c < 9; ++c) {
-            const Cella &cell = set.pagine[0]->blocchi[0].righe[r].celle[c];
+    for (const Riga &row : set.pagine[0]->blocchi[0]) {
+        for (const Cella &cell : row) {
             QCOMPARE(cell.testo == QStringLiteral("old"), cell.tipo != CELL_TESTO);
             QCOMPARE(cell.immagine.width() == 3, cell.tipo != CELL_IMMAGINE);
             QVERIFY(cell.tipo == CELL_NUMERO || cell.numero == 77);

@@ -117,17 +117,15 @@ void tst_Cartella::aNewPageHasItsDefaults()
     QCOMPARE(page.nBlocchi, U8(2));
     QCOMPARE(page.sfondo, QColor(Qt::white));
     QCOMPARE(page.spazioBlocchi, 1.2F);
-    for (int b = 0; b < 2; ++b) {
-        const Blocco &block = page.blocchi[b];
+    for (const Blocco &block : page) {
         QCOMPARE(block.nRighe, U8(3));
         QCOMPARE(block.spessoreLineaEsterna, 1);
         QCOMPARE(block.spessoreLineaInterna, 0);
         QCOMPARE(block.coloreLineaEsterna, QColor(Qt::black));
         QCOMPARE(block.coloreLineaInterna, QColor(Qt::black));
-        for (int r = 0; r < 3; ++r) {
-            QCOMPARE(block.righe[r].nCelle, U8(4));
-            for (int c = 0; c < 4; ++c) {
-                const Cella &cell = block.righe[r].celle[c];
+        for (const Riga &row : block) {
+            QCOMPARE(row.nCelle, U8(4));
+            for (const Cella &cell : row) {
                 QCOMPARE(cell.tipo, CELL_VUOTA);
                 QVERIFY(cell.testo.isEmpty());
                 QVERIFY(cell.immagine.isNull());

@@ -30,7 +30,7 @@ private:
     struct Table
     {
         std::array<quint32, 1000> numbers{};
-        volatile int count = 0;
+        volatile size_t count = 0;
     };
 
     static void *memory()
