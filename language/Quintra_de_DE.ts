@@ -461,6 +461,12 @@ Größe: %5 Bytes (%6 MB)
         <translation>Es gibt keine Seiten.
 %1</translation>
     </message>
+    <message>
+        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+Pagine: %1</source>
+        <translation>Seiten mit zu vielen Feldern kommen nicht vollständig aus der Datei zurück.
+Seiten: %1</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -852,10 +858,6 @@ Fehler beim Hinzufügen der Seite %i.</translation>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
         <translation>Bild des ausgewählten Feldes wählen</translation>
-    </message>
-    <message>
-        <source>Seleziona immagine...</source>
-        <translation>Bild wählen...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
@@ -1267,6 +1269,58 @@ Möchten Sie sie ansehen?</translation>
         <source>Registro salvato.</source>
         <translation>Register gespeichert.</translation>
     </message>
+    <message>
+        <source>L&apos;immagine di base non può essere letta:
+%1
+
+Le celle con immagine resteranno vuote in stampa.</source>
+        <translation>Das Standardbild kann nicht gelesen werden:
+%1
+
+Felder mit Bildern werden leer gedruckt.</translation>
+    </message>
+    <message>
+        <source>Stampa non riuscita!</source>
+        <translation>Drucken fehlgeschlagen!</translation>
+    </message>
+    <message>
+        <source>Pagine non stampate dopo l&apos;ultima modifica: %1.</source>
+        <translation>Seit der letzten Änderung nicht gedruckte Seiten: %1.</translation>
+    </message>
+    <message>
+        <source>Tutte le pagine sono state stampate dopo l&apos;ultima modifica.</source>
+        <translation>Alle Seiten wurden seit der letzten Änderung gedruckt.</translation>
+    </message>
+    <message>
+        <source>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
+Pagine: %1</source>
+        <translation>Der Abstand zwischen den Karten ist zu groß für das Papier: Die Karten ragen über die Seite hinaus.
+Seiten: %1</translation>
+    </message>
+    <message>
+        <source>Il colore delle linee non ha ancora effetto!</source>
+        <translation>Die Farbe der Linien hat noch keine Wirkung!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Bild...</translation>
+    </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Erzeugung der Zahlen:
+Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Die übrigen in einer Meldung zusammenfassen</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Geänderte Werte aus config.ini:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1340,6 +1394,14 @@ Möchten Sie sie ansehen?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Fehler beim Speichern der Datei!</translation>
+    </message>
+    <message>
+        <source>Le modifiche al testo vanno perse.</source>
+        <translation>Die Änderungen am Text gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Il testo non è stato toccato.</source>
+        <translation>Der Text wurde nicht verändert.</translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1482,10 @@ Möchten Sie sie ansehen?</translation>
     <message>
         <source>Quintra - Opzioni</source>
         <translation>Quintra - Optionen</translation>
+    </message>
+    <message>
+        <source>Le impostazioni di config.ini vanno perse.</source>
+        <translation>Die Einstellungen in config.ini gehen verloren.</translation>
     </message>
 </context>
 <context>

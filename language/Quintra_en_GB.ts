@@ -461,6 +461,12 @@ Size: %5 bytes (%6 MB)
         <translation>There are no pages.
 %1</translation>
     </message>
+    <message>
+        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+Pagine: %1</source>
+        <translation>Pages with too many cells will not come back whole from the file.
+Pages: %1</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -852,10 +858,6 @@ Error while adding page %i.</translation>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
         <translation>Choose the picture of the selected cell</translation>
-    </message>
-    <message>
-        <source>Seleziona immagine...</source>
-        <translation>Choose picture...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
@@ -1267,6 +1269,58 @@ Do you want to see them?</translation>
         <source>Registro salvato.</source>
         <translation>Register saved.</translation>
     </message>
+    <message>
+        <source>L&apos;immagine di base non può essere letta:
+%1
+
+Le celle con immagine resteranno vuote in stampa.</source>
+        <translation>The default picture cannot be read:
+%1
+
+Cells with pictures will be printed blank.</translation>
+    </message>
+    <message>
+        <source>Stampa non riuscita!</source>
+        <translation>Printing failed!</translation>
+    </message>
+    <message>
+        <source>Pagine non stampate dopo l&apos;ultima modifica: %1.</source>
+        <translation>Pages not printed since the last change: %1.</translation>
+    </message>
+    <message>
+        <source>Tutte le pagine sono state stampate dopo l&apos;ultima modifica.</source>
+        <translation>All pages have been printed since the last change.</translation>
+    </message>
+    <message>
+        <source>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
+Pagine: %1</source>
+        <translation>The space between the cards is too large for the paper: the cards leave the page.
+Pages: %1</translation>
+    </message>
+    <message>
+        <source>Il colore delle linee non ha ancora effetto!</source>
+        <translation>The colour of the lines has no effect yet!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Picture...</translation>
+    </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Number generation:
+Other pages not generated (counted from 1): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Sum up the others in one message</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Values of config.ini changed:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1340,6 +1394,14 @@ Do you want to see them?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Error while saving the file!</translation>
+    </message>
+    <message>
+        <source>Le modifiche al testo vanno perse.</source>
+        <translation>The changes to the text will be lost.</translation>
+    </message>
+    <message>
+        <source>Il testo non è stato toccato.</source>
+        <translation>The text has not been touched.</translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1482,10 @@ Do you want to see them?</translation>
     <message>
         <source>Quintra - Opzioni</source>
         <translation>Quintra - Options</translation>
+    </message>
+    <message>
+        <source>Le impostazioni di config.ini vanno perse.</source>
+        <translation>The settings in config.ini will be lost.</translation>
     </message>
 </context>
 <context>

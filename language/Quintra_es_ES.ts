@@ -461,6 +461,12 @@ Tamaño: %5 bytes (%6 MB)
         <translation>No hay páginas.
 %1</translation>
     </message>
+    <message>
+        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+Pagine: %1</source>
+        <translation>Las páginas con demasiadas casillas no se recuperarán completas del archivo.
+Páginas: %1</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -852,10 +858,6 @@ Error al añadir la página %i.</translation>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
         <translation>Elegir la imagen de la casilla seleccionada</translation>
-    </message>
-    <message>
-        <source>Seleziona immagine...</source>
-        <translation>Elegir imagen...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
@@ -1267,6 +1269,58 @@ Vuoi visualizzarli?</source>
         <source>Registro salvato.</source>
         <translation>Registro guardado.</translation>
     </message>
+    <message>
+        <source>L&apos;immagine di base non può essere letta:
+%1
+
+Le celle con immagine resteranno vuote in stampa.</source>
+        <translation>No se puede leer la imagen predeterminada:
+%1
+
+Las casillas con imagen se imprimirán vacías.</translation>
+    </message>
+    <message>
+        <source>Stampa non riuscita!</source>
+        <translation>¡La impresión ha fallado!</translation>
+    </message>
+    <message>
+        <source>Pagine non stampate dopo l&apos;ultima modifica: %1.</source>
+        <translation>Páginas no impresas desde el último cambio: %1.</translation>
+    </message>
+    <message>
+        <source>Tutte le pagine sono state stampate dopo l&apos;ultima modifica.</source>
+        <translation>Todas las páginas se han impreso desde el último cambio.</translation>
+    </message>
+    <message>
+        <source>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
+Pagine: %1</source>
+        <translation>El espacio entre los cartones es demasiado grande para el papel: los cartones se salen de la página.
+Páginas: %1</translation>
+    </message>
+    <message>
+        <source>Il colore delle linee non ha ancora effetto!</source>
+        <translation>¡El color de las líneas todavía no tiene efecto!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Imagen...</translation>
+    </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Generación de números:
+Otras páginas no generadas (contadas desde 1): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Resumir las demás en un solo mensaje</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Valores de config.ini cambiados:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1340,6 +1394,14 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>¡Error al guardar el archivo!</translation>
+    </message>
+    <message>
+        <source>Le modifiche al testo vanno perse.</source>
+        <translation>Se perderán los cambios del texto.</translation>
+    </message>
+    <message>
+        <source>Il testo non è stato toccato.</source>
+        <translation>El texto no se ha modificado.</translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1482,10 @@ Vuoi visualizzarli?</source>
     <message>
         <source>Quintra - Opzioni</source>
         <translation>Quintra - Opciones</translation>
+    </message>
+    <message>
+        <source>Le impostazioni di config.ini vanno perse.</source>
+        <translation>Se perderá la configuración de config.ini.</translation>
     </message>
 </context>
 <context>

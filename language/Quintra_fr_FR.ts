@@ -461,6 +461,12 @@ Taille&#xa0;: %5 octets (%6 Mo)
         <translation>Il n&apos;y a aucune page.
 %1</translation>
     </message>
+    <message>
+        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+Pagine: %1</source>
+        <translation>Les pages qui ont trop de cases ne seront pas relues entières depuis le fichier.
+Pages&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -852,10 +858,6 @@ Erreur lors de l&apos;ajout de la page %i.</translation>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
         <translation>Choisir l&apos;image de la case sélectionnée</translation>
-    </message>
-    <message>
-        <source>Seleziona immagine...</source>
-        <translation>Choisir une image...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
@@ -1267,6 +1269,58 @@ Voulez-vous les afficher&#xa0;?</translation>
         <source>Registro salvato.</source>
         <translation>Registre enregistré.</translation>
     </message>
+    <message>
+        <source>L&apos;immagine di base non può essere letta:
+%1
+
+Le celle con immagine resteranno vuote in stampa.</source>
+        <translation>L&apos;image par défaut ne peut pas être lue&#xa0;:
+%1
+
+Les cases avec image resteront vides à l&apos;impression.</translation>
+    </message>
+    <message>
+        <source>Stampa non riuscita!</source>
+        <translation>L&apos;impression a échoué&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Pagine non stampate dopo l&apos;ultima modifica: %1.</source>
+        <translation>Pages non imprimées depuis la dernière modification&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Tutte le pagine sono state stampate dopo l&apos;ultima modifica.</source>
+        <translation>Toutes les pages ont été imprimées depuis la dernière modification.</translation>
+    </message>
+    <message>
+        <source>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
+Pagine: %1</source>
+        <translation>L&apos;espace entre les cartons est trop grand pour la feuille&#xa0;: les cartons sortent de la page.
+Pages&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Il colore delle linee non ha ancora effetto!</source>
+        <translation>La couleur des lignes n&apos;a pas encore d&apos;effet&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Image...</translation>
+    </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Génération des numéros&#xa0;:
+Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Résumer les autres dans un seul message</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Valeurs de config.ini modifiées&#xa0;:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1340,6 +1394,14 @@ Voulez-vous les afficher&#xa0;?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Erreur lors de l&apos;enregistrement du fichier&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Le modifiche al testo vanno perse.</source>
+        <translation>Les modifications du texte seront perdues.</translation>
+    </message>
+    <message>
+        <source>Il testo non è stato toccato.</source>
+        <translation>Le texte n&apos;a pas été modifié.</translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1482,10 @@ Voulez-vous les afficher&#xa0;?</translation>
     <message>
         <source>Quintra - Opzioni</source>
         <translation>Quintra - Options</translation>
+    </message>
+    <message>
+        <source>Le impostazioni di config.ini vanno perse.</source>
+        <translation>Les paramètres de config.ini seront perdus.</translation>
     </message>
 </context>
 <context>

@@ -461,6 +461,12 @@ Dimensione: %5 Bytes (%6 MB)
         <translation>Non vi sono pagine.
 %1</translation>
     </message>
+    <message>
+        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+Pagine: %1</source>
+        <translation>Le pagine con troppe celle non saranno rilette intere dal file.
+Pagine: %1</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -852,10 +858,6 @@ Errore durante l&apos;aggiunta della pagina %i.</translation>
     <message>
         <source>Sceglie l&apos;immagine della cella selezionata</source>
         <translation>Sceglie l&apos;immagine della cella selezionata</translation>
-    </message>
-    <message>
-        <source>Seleziona immagine...</source>
-        <translation>Seleziona immagine...</translation>
     </message>
     <message>
         <source>I comandi di cella agiscono sulle stesse celle di tutte le pagine</source>
@@ -1267,6 +1269,58 @@ Vuoi visualizzarli?</translation>
         <source>Registro salvato.</source>
         <translation>Registro salvato.</translation>
     </message>
+    <message>
+        <source>L&apos;immagine di base non può essere letta:
+%1
+
+Le celle con immagine resteranno vuote in stampa.</source>
+        <translation>L&apos;immagine di base non può essere letta:
+%1
+
+Le celle con immagine resteranno vuote in stampa.</translation>
+    </message>
+    <message>
+        <source>Stampa non riuscita!</source>
+        <translation>Stampa non riuscita!</translation>
+    </message>
+    <message>
+        <source>Pagine non stampate dopo l&apos;ultima modifica: %1.</source>
+        <translation>Pagine non stampate dopo l&apos;ultima modifica: %1.</translation>
+    </message>
+    <message>
+        <source>Tutte le pagine sono state stampate dopo l&apos;ultima modifica.</source>
+        <translation>Tutte le pagine sono state stampate dopo l&apos;ultima modifica.</translation>
+    </message>
+    <message>
+        <source>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
+Pagine: %1</source>
+        <translation>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
+Pagine: %1</translation>
+    </message>
+    <message>
+        <source>Il colore delle linee non ha ancora effetto!</source>
+        <translation>Il colore delle linee non ha ancora effetto!</translation>
+    </message>
+    <message>
+        <source>Immagine...</source>
+        <translation>Immagine...</translation>
+    </message>
+    <message>
+        <source>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</source>
+        <translation>Generazione numeri:
+Altre pagine non generate (contate da 1): %1</translation>
+    </message>
+    <message>
+        <source>Riassumi le altre in un solo messaggio</source>
+        <translation>Riassumi le altre in un solo messaggio</translation>
+    </message>
+    <message>
+        <source>Valori cambiati di config.ini:
+%1</source>
+        <translation>Valori cambiati di config.ini:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -1340,6 +1394,14 @@ Vuoi visualizzarli?</translation>
     <message>
         <source>Errore nel salvataggio del file!</source>
         <translation>Errore nel salvataggio del file!</translation>
+    </message>
+    <message>
+        <source>Le modifiche al testo vanno perse.</source>
+        <translation>Le modifiche al testo vanno perse.</translation>
+    </message>
+    <message>
+        <source>Il testo non è stato toccato.</source>
+        <translation>Il testo non è stato toccato.</translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1482,10 @@ Vuoi visualizzarli?</translation>
     <message>
         <source>Quintra - Opzioni</source>
         <translation>Quintra - Opzioni</translation>
+    </message>
+    <message>
+        <source>Le impostazioni di config.ini vanno perse.</source>
+        <translation>Le impostazioni di config.ini vanno perse.</translation>
     </message>
 </context>
 <context>

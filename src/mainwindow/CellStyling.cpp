@@ -12,6 +12,7 @@ void colourBlock(Blocco &block, const QColor &colour)
         }
     }
 }
+} // namespace
 
 QVector<TablePosition> withCell(Pagina &page, QVector<TablePosition> positions)
 {
@@ -21,7 +22,6 @@ QVector<TablePosition> withCell(Pagina &page, QVector<TablePosition> positions)
     positions.erase(std::remove_if(positions.begin(), positions.end(), isFiller), positions.end());
     return positions;
 }
-} // namespace
 
 QVector<Pagina *> reachedPages(const QVector<Pagina *> &pages, int shown, bool allPages)
 {

@@ -10,6 +10,9 @@
 // The page shown alone, or all pages. None when there is no such page.
 [[nodiscard]] QVector<Pagina *> reachedPages(const QVector<Pagina *> &pages, int shown, bool allPages);
 
+// The places that have a cell on the page.
+[[nodiscard]] QVector<TablePosition> withCell(Pagina &page, QVector<TablePosition> positions);
+
 // Gives the background of every cell of a block, or of all blocks; a page without such a block is left as it is.
 void colourBlocks(const QVector<Pagina *> &pages, int block, bool allBlocks, const QColor &colour);
 

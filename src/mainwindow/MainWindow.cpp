@@ -3,6 +3,7 @@
 
 #include "generation/GUtils.h"
 #include "generation/GeneraCartellaClassica.h"
+#include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
 #include "resources/Resources.h"
 #include "settings/Options.h"
@@ -62,7 +63,8 @@ void MainWindow::setupParameters()
 {
     loadDefaultParameters();
     enableParameters(false);
-    checkParameters(nullptr, false);
+    parameterEdited();
+    showChangedDefaults();
     ui->box_classica_numeropagine->setFocus(); // the first thing to say, to be typed over
     ui->box_classica_numeropagine->selectAll();
 }
@@ -168,9 +170,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->accept();
         return;
     }
-    const auto answer = QMessageBox::question(this, Product::nameText(), tr("Sei sicuro di voler uscire?"),
-                                              QMessageBox::Yes | QMessageBox::No);
-    if (answer != QMessageBox::Yes) {
+    if (!confirmLoss(this, Product::nameText(), tr("Sei sicuro di voler uscire?"), unprintedPages())) {
         event->ignore();
         return;
     }

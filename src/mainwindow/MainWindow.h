@@ -125,6 +125,8 @@ private:
 
     // Parameters.
     void loadDefaultParameters();
+    void parameterEdited();
+    void showChangedDefaults();
     void enableParameters(bool byHand);
     CardParameters parameters() const;
     void showSettingStatus(Verdict verdict, const QString &toolTip);
@@ -132,10 +134,12 @@ private:
     // Generation.
     bool confirmVerdict(int verdict, const QString &message);
     void replaceCardSet(std::unique_ptr<Cartella> cartella);
-    void generateUndisturbed(bool append);
+    bool generateUndisturbed(bool append);
+    void warnOfUnreadableImage();
     void createEmptyPages(const CardParameters &requested);
     bool appendEmptyPages(const CardParameters &requested);
     void fillPages(int first, const CardParameters &requested);
+    bool tellOfFailedPage(int page);
     void showFirstPage();
     void openEditor(bool append);
 
@@ -148,6 +152,9 @@ private:
     bool writeOutputFile(const QString &fileName, QString &report);
     void openPreview();
     void updatePreview();
+    void cardSetChanged();
+    QString unprintedPages() const;
+    void warnOfPagesWithoutRoom();
 
     // The evening.
     void saveRegister();
@@ -155,6 +162,7 @@ private:
 
     // The page table.
     QTableWidget *replaceTable();
+    void reloadPage();
     Pagina *shownPage() const;
     QVector<TablePosition> selectedPositions() const;
     Selezione selection() const;
@@ -167,6 +175,7 @@ private:
 
     // Cell editing.
     Cella askWhatIsTyped(const QString &text);
+    void clearSelectedCells();
     void showContent(const TablePosition &place, bool asTyped);
     const Cella *selectedImageCell() const;
     bool confirmImage(const QString &question, const QImage &image);
@@ -177,6 +186,7 @@ private:
     bool requirePages();
     bool requireSelection();
     bool requireBlock();
+    static QString lineColoursHaveNoEffect();
     void openColourPicker(const QWidget *button, void (MainWindow::*colouringSlot)(QColor));
     void disconnectColourPicker();
     void recolour(const std::function<void()> &change);
@@ -203,6 +213,7 @@ private:
     int m_pagesBeforeEditor = 0;      // page count when the editor was opened
     bool m_leaving = false;           // the user has confirmed leaving
     bool m_generated = false;         // a card set has been generated
+    bool m_unprinted = false;         // it was changed after it was printed
     bool m_manyMessages = false;      // more come than can be read: not every one is painted
     QElapsedTimer m_lastRepaint;      // of the status bar
     bool m_editGuard = false;         // while set, changes of table items are not edits

@@ -100,6 +100,7 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
     const QString text = item->text();
     const WatchedPages::Hold asked(m_watchedPages, page);
     QTableWidget *const table = m_table;
+    const bool keyboardInTable = table->isAncestorOf(QApplication::focusWidget());
     Cella typed;
     {
         const LostMouseRelease release;
@@ -116,8 +117,12 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
     setContent(*cell, typed);
     if (asked.page() == shownPage()) {
         showContent(place, m_table == table && cell->tipo == before && !text.isEmpty());
+        if (keyboardInTable) { // which a question took away
+            m_table->setCurrentCell(place.row, place.column, QItemSelectionModel::NoUpdate);
+            m_table->setFocus();
+        }
     }
-    updatePreview();
+    cardSetChanged();
 }
 
 // Of the page shown. An item that is right as it was typed keeps that.
@@ -131,6 +136,31 @@ void MainWindow::showContent(const TablePosition &place, bool asTyped)
     if (item->isSelected()) {
         tableItemSelectionChanged();
     }
+}
+
+// Delete and Backspace: the selected cells become what nothing typed into them makes them, asked once for all.
+void MainWindow::clearSelectedCells()
+{
+    Pagina *page = shownPage();
+    const QVector<TablePosition> places =
+        page != nullptr ? withCell(*page, selectedPositions()) : QVector<TablePosition>();
+    if (places.isEmpty()) {
+        return;
+    }
+    const WatchedPages::Hold asked(m_watchedPages, page);
+    const Cella typed = askWhatIsTyped(QString());
+    if (asked.page() == nullptr) {
+        return;
+    }
+    for (const TablePosition &place : places) {
+        if (Cella *cell = cellAt(*asked.page(), place.row, place.column)) {
+            setContent(*cell, typed);
+            if (asked.page() == shownPage()) {
+                showContent(place, false);
+            }
+        }
+    }
+    cardSetChanged();
 }
 
 // A number is taken at once; of anything else the user says what it is to be. Only the content of the result counts.
@@ -187,7 +217,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
     Cella *cell = asked.page() != nullptr ? cellAt(*asked.page(), place.row, place.column) : nullptr;
     if (cell != nullptr && cell->tipo == CELL_IMMAGINE) {
         cell->immagine = image;
-        updatePreview();
+        cardSetChanged();
         updateStatusBar(tr("Immagine impostata correttamente."));
     }
 }

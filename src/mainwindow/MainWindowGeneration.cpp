@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
+#include "generation/DefaultCell.h"
 #include "generation/GeneraCartellaClassica.h"
+#include "model/PageNumbers.h"
+#include "msgarea/Confirmation.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/EditPersonale.h"
 #include "ui_MainWindow.h"
 
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QScopeGuard>
 
@@ -25,25 +29,27 @@ QString withShape(const QString &text, const CardParameters &p)
 
 void MainWindow::on_butt_aggiungi_pagine_clicked()
 {
-    generateUndisturbed(m_generated);
+    if (generateUndisturbed(m_generated)) {
+        warnOfUnreadableImage();
+    }
 }
 
 void MainWindow::on_actionCrea_triggered()
 {
-    if (m_generated) {
-        const auto answer = QMessageBox::question(this, boxTitle(),
-                                                  tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
-                                                  QMessageBox::Yes | QMessageBox::No);
-        if (answer != QMessageBox::Yes) {
-            return;
-        }
+    if (m_generated &&
+        !confirmLoss(this, boxTitle(), tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
+                     unprintedPages())) {
+        return;
     }
-    generateUndisturbed(false);
+    const bool generated = generateUndisturbed(false);
     ui->pagina_corrente_spinBox->setValue(0);
+    if (generated) {
+        warnOfUnreadableImage();
+    }
 }
 
 // No second generation and no comparison can start from a box that a generation shows.
-void MainWindow::generateUndisturbed(bool append)
+bool MainWindow::generateUndisturbed(bool append)
 {
     const auto setEnabled = [this](bool enabled) {
         ui->actionConfronta_blocchi->setEnabled(enabled);
@@ -57,7 +63,21 @@ void MainWindow::generateUndisturbed(bool append)
             ui->butt_aggiungi_pagine->setFocus();
         }
     });
-    generate(append);
+    letClosedDialogsDisappear();
+    return generate(append);
+}
+
+// Image cells would be printed blank.
+void MainWindow::warnOfUnreadableImage()
+{
+    const CardParameters p = parameters();
+    if (!p.manual && p.jolly > 0 && DefaultCell::image().isNull()) {
+        QMessageBox::warning(
+            this, boxTitle(),
+            tr("L'immagine di base non può essere letta:\n%1\n\nLe celle con immagine resteranno vuote "
+               "in stampa.")
+                .arg(DefaultCell::imagePath()));
+    }
 }
 
 bool MainWindow::generate(bool append)
@@ -85,7 +105,7 @@ bool MainWindow::generate(bool append)
     fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
     m_generated = true;
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
-    updatePreview();
+    cardSetChanged();
     if (!append || m_pageShown == 0) { // all pages may have been deleted before
         showFirstPage();
     }
@@ -100,8 +120,7 @@ bool MainWindow::confirmVerdict(int verdict, const QString &message)
         warn(tr("Problemi di impostazione parametri: non posso proseguire!"), message);
         return false;
     case Verdict::Warning:
-        return QMessageBox::question(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message),
-                                     QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+        return confirmLoss(this, boxTitle(), tr("%1\n\nVuoi proseguire comunque?").arg(message), unprintedPages());
     case Verdict::Correct:
         return true;
     }
@@ -142,14 +161,35 @@ void MainWindow::fillPages(int first, const CardParameters &p)
         return;
     }
     const WaitCursor wait(this);
+    bool summarise = false;
+    QVector<int> otherFailures;
     for (int page = first; page < m_cartella->getNumPages(); ++page) {
         const U8 columns = m_cartella->getMaxPageColSize(static_cast<quint16>(page));
-        if (!m_generatore->generate(m_cartella->pagine[page], columns, static_cast<U8>(p.drawn),
-                                    static_cast<U8>(p.jolly), static_cast<U8>(p.scritte), p.minimum, p.maximum)) {
-            QMessageBox::critical(this, boxTitle(),
-                                  tr("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(page));
+        const bool filled =
+            m_generatore->generate(m_cartella->pagine[page], columns, static_cast<U8>(p.drawn),
+                                   static_cast<U8>(p.jolly), static_cast<U8>(p.scritte), p.minimum, p.maximum);
+        if (!filled && summarise) {
+            otherFailures.append(page);
+        } else if (!filled) {
+            summarise = tellOfFailedPage(page);
         }
     }
+    if (!otherFailures.isEmpty()) {
+        QMessageBox::critical(this, boxTitle(),
+                              tr("Generazione numeri:\nAltre pagine non generate (contate da 1): %1")
+                                  .arg(pageNumbersText(otherFailures)));
+    }
+}
+
+// Whether the user wants to hear of the other pages (0-based) in one box at the end.
+bool MainWindow::tellOfFailedPage(int page)
+{
+    QMessageBox box(QMessageBox::Critical, boxTitle(),
+                    tr("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(page),
+                    QMessageBox::Ok, this);
+    box.setCheckBox(new QCheckBox(tr("Riassumi le altre in un solo messaggio")));
+    box.exec();
+    return box.checkBox()->isChecked();
 }
 
 void MainWindow::showFirstPage()
@@ -184,6 +224,6 @@ void MainWindow::generatePersDone()
     }
     m_generated = true;
     ui->pagine_lcdNumber->display(pages);
-    updatePreview();
+    cardSetChanged();
     ui->pagina_corrente_spinBox->setValue(m_pageShown + 1);
 }

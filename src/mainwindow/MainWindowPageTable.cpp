@@ -10,6 +10,8 @@
 
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QTableWidget>
 
 namespace {
@@ -89,6 +91,11 @@ QTableWidget *MainWindow::replaceTable()
     m_table->setTabKeyNavigation(false); // else the keyboard cannot leave it
     m_table->setItemDelegate(new ElidedTextTips(m_table));
     setTabOrder(ui->pagina_elimina, m_table);
+    for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+        auto *clear = new QShortcut(key, m_table);
+        clear->setContext(Qt::WidgetShortcut); // the editor of a cell needs these keys itself
+        connect(clear, &QShortcut::activated, this, &MainWindow::clearSelectedCells);
+    }
     return m_table;
 }
 
@@ -116,6 +123,22 @@ void MainWindow::loadPagina(U16 page)
     table->show();
     resetSelectionPanels(shown.nBlocchi);
     updatePreview();
+}
+
+// The same page once more: what is seen of it, and the place of the keyboard, stay. Nothing is selected.
+void MainWindow::reloadPage()
+{
+    const TablePosition current{m_table->currentRow(), m_table->currentColumn()};
+    const QPoint scrolled(m_table->horizontalScrollBar()->value(), m_table->verticalScrollBar()->value());
+    const bool focused = m_table->hasFocus();
+    loadPagina(static_cast<U16>(ui->pagina_corrente_spinBox->value() - 1));
+    m_table->setCurrentCell(current.row, current.column, QItemSelectionModel::NoUpdate);
+    ui->gridLayout->activate(); // the scroll bars need the table's size
+    m_table->horizontalScrollBar()->setValue(scrolled.x());
+    m_table->verticalScrollBar()->setValue(scrolled.y());
+    if (focused) {
+        m_table->setFocus();
+    }
 }
 
 void MainWindow::on_pagina_corrente_spinBox_valueChanged(int value)
@@ -159,7 +182,7 @@ void MainWindow::on_pagina_elimina_clicked()
         resetSelectionPanels(0);
     }
     ui->pagine_lcdNumber->display(pages);
-    updatePreview();
+    cardSetChanged();
     updateStatusBar(tr("Pagina eliminata correttamente."));
 }
 

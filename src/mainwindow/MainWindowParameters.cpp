@@ -74,19 +74,56 @@ void MainWindow::showSettingStatus(Verdict verdict, const QString &toolTip)
     ui->label_settingmessage->setText(toolTip);
 }
 
+void MainWindow::parameterEdited()
+{
+    ui->label_valoricambiati->hide();
+    checkParameters(nullptr, false);
+}
+
+// The boxes and the coupling between them may change what the configuration says.
+void MainWindow::showChangedDefaults()
+{
+    struct Default
+    {
+        const char *key;
+        int configured;
+        const QSpinBox *box;
+    };
+    const Default defaults[] = {
+        {"CLASSIC_NBLOCKS", globalConfig->classicNBlocks, ui->box_classica_numeroblocchi},
+        {"CLASSIC_NCOLS", globalConfig->classicNCols, ui->box_classica_numerocolonne},
+        {"CLASSIC_NDRAWNxROW", globalConfig->classicNDrawnxRow, ui->box_classica_numeroestrazionixriga},
+        {"CLASSIC_NJOLLYxROW", globalConfig->classicNJollyxRow, ui->box_classica_numerojollyxriga},
+        {"CLASSIC_NROWxBLOCK", globalConfig->classicNRowxBlock, ui->box_classica_numerorighexblocco},
+        {"NMIN", globalConfig->nMin, ui->box_classica_numerominimo},
+        {"NMAX", globalConfig->nMax, ui->box_classica_numeromassimo},
+    };
+    QStringList changed;
+    for (const Default &value : defaults) {
+        if (value.box->value() != value.configured) {
+            changed += QStringLiteral("%1: %2 > %3")
+                           .arg(QLatin1String(value.key))
+                           .arg(value.configured)
+                           .arg(value.box->value());
+        }
+    }
+    ui->label_valoricambiati->setText(tr("Valori cambiati di config.ini:\n%1").arg(changed.join(QLatin1Char('\n'))));
+    ui->label_valoricambiati->setVisible(!changed.isEmpty());
+}
+
 void MainWindow::on_box_classica_numeropagine_valueChanged(int)
 {
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numeroblocchi_valueChanged(int)
 {
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numerorighexblocco_valueChanged(int)
 {
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numeroestrazionixriga_valueChanged(int value)
@@ -94,22 +131,22 @@ void MainWindow::on_box_classica_numeroestrazionixriga_valueChanged(int value)
     if (value != advisedDrawn) {
         updateStatusBar(tr("Estrazioni per riga: Per un corretto funzionamento si consiglia il valore 5."));
     }
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numerojollyxriga_valueChanged(int)
 {
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numeroscrittexriga_valueChanged(int)
 {
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numerocolonne_valueChanged(int)
 {
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_box_classica_numerominimo_valueChanged(int value)
@@ -118,7 +155,7 @@ void MainWindow::on_box_classica_numerominimo_valueChanged(int value)
     if (maximum < value) {
         ui->box_classica_numerominimo->setValue(maximum);
     }
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 // Only a number typed to its end comes here: its first digits alone may be below the minimum.
@@ -128,7 +165,7 @@ void MainWindow::on_box_classica_numeromassimo_valueChanged(int value)
     if (minimum > value) {
         ui->box_classica_numeromassimo->setValue(minimum);
     }
-    checkParameters(nullptr, false);
+    parameterEdited();
 }
 
 void MainWindow::on_MappaManuale_toggled(bool checked)
@@ -142,5 +179,8 @@ void MainWindow::on_MappaManuale_toggled(bool checked)
         loadDefaultParameters();
     }
     enableParameters(checked);
-    checkParameters(nullptr, false); // other rules hold now, even where no value changed
+    parameterEdited(); // other rules hold now, even where no value changed
+    if (!checked) {
+        showChangedDefaults();
+    }
 }

@@ -2,10 +2,12 @@
 #include "mainwindow/MainWindow.h"
 
 #include "mainwindow/PagePreview.h"
+#include "model/PageNumbers.h"
 #include "msgarea/MsgArea.h"
 #include "msgarea/Overwriting.h"
 #include "msgarea/WaitCursor.h"
 #include "output/CreateOutputFile.h"
+#include "output/PaperSheet.h"
 #include "settings/Config.h"
 #include "ui_MainWindow.h"
 
@@ -16,7 +18,7 @@
 void MainWindow::on_pagina_formato_currentIndexChanged(int index)
 {
     m_cartella->formato = index;
-    updatePreview();
+    cardSetChanged();
 }
 
 void MainWindow::on_butt_stampa_clicked()
@@ -31,11 +33,15 @@ void MainWindow::on_butt_stampa_clicked()
         updateStatusBar(tr("Creazione file annullata!"));
         return;
     }
+    warnOfPagesWithoutRoom();
+    letClosedDialogsDisappear();
     QString report;
     if (!writeOutputFile(fileName, report)) {
+        updateStatusBar(tr("Stampa non riuscita!"));
         warn(tr("Errore nella creazione del file:\n%1").arg(fileName), report);
         return;
     }
+    m_unprinted = false;
     MsgArea *window = MsgArea::makeFor(this, false);
     window->setText(report, true);
     window->show();
@@ -81,4 +87,34 @@ void MainWindow::updatePreview()
     if (!m_preview.isNull()) {
         m_preview->showPage(m_cartella.get(), ui->pagina_corrente_spinBox->value() - 1);
     }
+}
+
+// To be called after every change of the card set.
+void MainWindow::cardSetChanged()
+{
+    m_unprinted = true;
+    updatePreview();
+}
+
+// What would be lost with the card set; empty when it is empty.
+QString MainWindow::unprintedPages() const
+{
+    const int pages = m_cartella->getNumPages();
+    if (pages == 0) {
+        return QString();
+    }
+    return m_unprinted ? tr("Pagine non stampate dopo l'ultima modifica: %1.").arg(pages)
+                       : tr("Tutte le pagine sono state stampate dopo l'ultima modifica.");
+}
+
+void MainWindow::warnOfPagesWithoutRoom()
+{
+    const QVector<int> pages = pagesWithoutRoom(*m_cartella, printingResolution());
+    if (pages.isEmpty()) {
+        return;
+    }
+    QMessageBox::warning(this, boxTitle(),
+                         tr("Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.\n"
+                            "Pagine: %1")
+                             .arg(pageNumbersText(pages)));
 }

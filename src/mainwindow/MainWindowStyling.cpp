@@ -13,31 +13,18 @@
 #include <QScopedValueRollback>
 #include <QTableWidget>
 
-#include <algorithm>
-
 namespace {
 // More lines of equal blocks than these nobody reads.
 constexpr qint64 mostLines = 100000;
 
-// The font as it is drawn, by the names that the font dialog lists: it chooses just any family or style, such as bold,
-// in place of one that it does not list.
+// The font as it is really drawn, by the names that the font dialog lists: in place of a family or style that it does
+// not list, it chooses just any, such as bold.
 QFont listedFont(QFont font)
 {
-    const QFontDatabase fonts;
-    if (!fonts.families().contains(font.family())) {
+    if (!QFontDatabase().families().contains(font.family())) {
         font.setFamily(QFontInfo(font).family());
     }
-    const QStringList styles = fonts.styles(font.family());
-    if (styles.contains(font.styleName())) {
-        return font;
-    }
-    const auto distance = [&](const QString &style) {
-        const bool otherSlant = fonts.italic(font.family(), style) != font.italic();
-        return std::make_pair(otherSlant, qAbs(fonts.weight(font.family(), style) - font.weight()));
-    };
-    const auto nearest = std::min_element(
-        styles.cbegin(), styles.cend(), [&](const QString &a, const QString &b) { return distance(a) < distance(b); });
-    font.setStyleName(nearest != styles.cend() ? *nearest : QString());
+    font.setStyleName(QFontInfo(font).styleName());
     return font;
 }
 } // namespace
@@ -93,10 +80,12 @@ void MainWindow::disconnectColourPicker()
 void MainWindow::recolour(const std::function<void()> &change)
 {
     const QScopedValueRollback<bool> guard(m_editGuard, true);
+    letClosedDialogsDisappear();
     const WaitCursor waiting(this);
     change();
+    cardSetChanged();
     if (shownPage() != nullptr) {
-        loadPagina(static_cast<U16>(ui->pagina_corrente_spinBox->value() - 1));
+        reloadPage();
     }
 }
 
@@ -139,10 +128,16 @@ void MainWindow::coloraBloccoSfondo(QColor color)
     updateStatusBar(tr("Modifica colore sfondo blocchi applicata."));
 }
 
+QString MainWindow::lineColoursHaveNoEffect()
+{
+    return tr("Il colore delle linee non ha ancora effetto!");
+}
+
 void MainWindow::on_colorabloccolineaesterna_clicked()
 {
     if (requirePages()) {
         openColourPicker(ui->colorabloccolineaesterna, &MainWindow::coloraBloccoLineaEsterna);
+        updateStatusBar(lineColoursHaveNoEffect());
     }
 }
 
@@ -156,6 +151,7 @@ void MainWindow::on_colorabloccolineainterna_clicked()
 {
     if (requirePages()) {
         openColourPicker(ui->colorabloccolineainterna, &MainWindow::coloraBloccoLineaInterna);
+        updateStatusBar(lineColoursHaveNoEffect());
     }
 }
 
@@ -225,7 +221,7 @@ void MainWindow::on_pagina_applica_clicked()
     for (Pagina *page : pagesInRange()) {
         page->spazioBlocchi = static_cast<float>(ui->spazio_blocchi_spin->value());
     }
-    updatePreview();
+    cardSetChanged();
     updateStatusBar(tr("Modifica applicata."));
 }
 
@@ -263,10 +259,11 @@ void MainWindow::on_seleziona_font_button_clicked()
     if (!chosen) {
         return;
     }
+    letClosedDialogsDisappear();
     m_currentFont = font;
     const bool complete = changeSelectedCells([&font](Cella &cell) { cell.font = font; });
     showFont(font);
-    updatePreview();
+    cardSetChanged();
     warnOfSkippedCells(complete);
     updateStatusBar(tr("Font impostato correttamente."));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "msgarea/MsgArea.h"
 
+#include "msgarea/Confirmation.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
 #include "settings/WholeFile.h"
@@ -81,12 +82,18 @@ void MsgArea::setLines(const QStringList &lines)
 void MsgArea::closeEvent(QCloseEvent *event)
 {
     if (m_fileMode && m_modified &&
-        QMessageBox::question(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"),
-                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        !confirmLoss(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"), loss())) {
         event->ignore();
         return;
     }
     event->accept();
+}
+
+// What leaving would lose. A text counts as modified from its loading on, though the user did not touch it.
+QString MsgArea::loss() const
+{
+    return ui->textEdit->document()->isModified() ? tr("Le modifiche al testo vanno perse.")
+                                                  : tr("Il testo non è stato toccato.");
 }
 
 void MsgArea::on_actionSalva_triggered()
@@ -106,6 +113,7 @@ void MsgArea::on_actionSalva_triggered()
     if (m_file && writeWhole(m_file->fileName(), text, QIODevice::Text) == Written::Whole) {
         QMessageBox::information(this, tr("Salva"), tr("File salvato con successo."));
         m_modified = false;
+        ui->textEdit->document()->setModified(false);
     } else {
         QMessageBox::warning(this, tr("Salva"), tr("Errore nel salvataggio del file!"));
     }

@@ -38,6 +38,8 @@ private slots:
     void fileModified();
 
 private:
+    QString loss() const;
+
     std::unique_ptr<Ui::MsgArea> ui;
     bool m_fileMode;
     std::unique_ptr<QFile> m_file; // null in message mode until a save picks one

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QCursor>
+#include <QEventLoop>
 #include <QWidget>
 
 // Shows the wait cursor on a window for as long as it lives, then the cursor from before: the arrow, or the wait cursor
@@ -22,3 +24,9 @@ private:
     QWidget *m_window; // not owned, outlives the guard
     QCursor m_before;
 };
+
+// A dialog that was just closed stays painted until events are handled: to be called before long work begins.
+inline void letClosedDialogsDisappear()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}

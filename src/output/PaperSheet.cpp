@@ -24,3 +24,16 @@ Sheet sheetOf(const QPageLayout &layout, int resolution, const Cartella &set)
             set.margineDestro,
             set.margineInferiore};
 }
+
+QVector<int> pagesWithoutRoom(const Cartella &set, int resolution)
+{
+    const DocumentLayout document = documentLayout(sheetOf(pageLayoutOf(set), resolution, set));
+    QVector<int> pages;
+    for (int page = 0; page < set.getNumPages(); ++page) {
+        const Pagina &asked = *set.pagine.at(page);
+        if (asked.nBlocchi > 0 && pageLayout(document, asked.nBlocchi, asked.spazioBlocchi).blockHeight <= 0.0F) {
+            pages.append(page);
+        }
+    }
+    return pages;
+}

@@ -93,6 +93,7 @@ private:
     QByteArray mappingText();
     QString writeMapping(const QString &fileName);
     void showSaveReport(const QString &fileName);
+    void warnOfPagesThatComeBackCut();
     QString readMapping(const QString &fileName);
     void warn(const QString &text);
     void showPagesOrReason(const QString &whyNone);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "personale/EditPersonale.h"
 
+#include "model/PageNumbers.h"
 #include "msgarea/MsgArea.h"
 #include "msgarea/Overwriting.h"
 #include "msgarea/WaitCursor.h"
@@ -65,6 +66,23 @@ void EditPersonale::on_actionSave_triggered()
     showSaveReport(fileName);
     if (!loss.isEmpty()) {
         warn(tr("Errore nel salvataggio del file:\n%1\n\n%2").arg(fileName, loss));
+    }
+    warnOfPagesThatComeBackCut();
+}
+
+// The file holds at most 255 cells a page.
+void EditPersonale::warnOfPagesThatComeBackCut()
+{
+    QVector<int> cut;
+    for (int page = 0; page < m_pageCount; ++page) {
+        const PaginaPersonale &saved = m_pages[static_cast<size_t>(page)];
+        if (!MappingFile::comesBackWhole({saved.nRighe, saved.nColonne, {}})) {
+            cut.append(page);
+        }
+    }
+    if (!cut.isEmpty()) {
+        warn(tr("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: %1")
+                 .arg(pageNumbersText(cut)));
     }
 }
 

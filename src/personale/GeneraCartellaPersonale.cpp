@@ -2,6 +2,7 @@
 #include "personale/GeneraCartellaPersonale.h"
 
 #include "generation/ColumnLayout.h"
+#include "generation/DefaultCell.h"
 #include "generation/GUtils.h"
 #include "model/Positions.h"
 
@@ -34,13 +35,18 @@ unsigned numberAt(const QVector<unsigned> &numbers, int index)
     return numbers.value(index, 0);
 }
 
-// Gives a ticked cell its type and, as a number cell, the number at the next lower index.
+// Gives a ticked cell its type and what a new cell of that type shows; a number cell, the number at the next lower
+// index.
 void fillCell(Cella &cell, PersonaleChkBox &box, const QVector<unsigned> &numbers, int &remaining)
 {
     cell.tipo = box.tipo;
     if (box.tipo == CELL_NUMERO) {
         cell.numero = numberAt(numbers, --remaining);
         box.setText(QString::number(cell.numero));
+    } else if (box.tipo == CELL_TESTO) {
+        cell.testo = DefaultCell::text();
+    } else if (box.tipo == CELL_IMMAGINE) {
+        cell.immagine = DefaultCell::image();
     }
 }
 

@@ -87,6 +87,12 @@ CellaSchema cellOf(QChar letter)
     return {tipo < 0 ? CELL_VUOTA : static_cast<CELL_VALUE>(tipo), spuntata};
 }
 
+bool comesBackWhole(const SchemaPagina &pagina)
+{
+    constexpr int lastLatin1 = 255;
+    return pagina.nRighe * pagina.nColonne < lengthModulus && pagina.nRighe + rowCountBase <= lastLatin1;
+}
+
 void writePage(QTextStream &stream, const SchemaPagina &pagina)
 {
     QString line(QChar(pagina.nRighe + rowCountBase));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Options.h"
 
+#include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
@@ -51,7 +52,7 @@ void Options::deleteConfig(bool exitAfter)
 
 bool Options::confirm(const QString &question)
 {
-    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    return confirmLoss(this, windowTitle(), question, tr("Le impostazioni di config.ini vanno perse."));
 }
 
 void Options::on_butt_azzeraesci_clicked()

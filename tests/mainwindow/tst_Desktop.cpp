@@ -151,6 +151,7 @@ void tst_Desktop::theNumberOfPagesIsTypedAtOnce()
 {
     const PageWindow page;
     QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    settle();
     onScreen({QStringLiteral("type"), QStringLiteral("50")});
     QCOMPARE(page.find<QSpinBox>("box_classica_numeropagine")->value(), 50);
 }
@@ -162,6 +163,7 @@ void tst_Desktop::escapeClosesTheInformation()
     page.find<QAction>("actionInformazioni")->trigger();
     const QPointer<MsgArea> information = page.window->findChild<MsgArea *>();
     QVERIFY(QTest::qWaitForWindowActive(information));
+    settle();
     onScreen({QStringLiteral("key"), QStringLiteral("Escape")});
     QTRY_VERIFY(information.isNull());
     QVERIFY(page.window->isVisible());

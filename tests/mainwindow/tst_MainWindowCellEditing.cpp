@@ -53,6 +53,14 @@ void showImageCell(PageWindow &w)
     w.select(0, 0);
 }
 
+// A key, pressed in the table.
+void press(PageWindow &w, Qt::Key key)
+{
+    QApplication::setActiveWindow(w.window.get());
+    w.table()->setFocus();
+    QTest::keyClick(w.table(), key);
+}
+
 // The user types a text and, instead of ending the line, clicks elsewhere in the window: the button is released over
 // the question that comes.
 void pressDuringEditing(PageWindow &w, const QPoint &place)
@@ -121,6 +129,11 @@ private slots:
     void anImageNeedsOneItem();
     void anImageNeedsAnImageCell();
     void aFillerTakesNoImage();
+    void deletingSeveralCellsAsksOnce();
+    void backspaceMakesCellsTexts();
+    void deletingNothingOrFillersAsksNothing();
+    void aPageDeletedWhileItsCellsAreDeletedIsNotWritten();
+    void theKeyboardStaysInTheCellAfterItsQuestion();
 };
 
 void tst_MainWindowCellEditing::aNumberIsTakenAtOnce_data()
@@ -486,7 +499,6 @@ void tst_MainWindowCellEditing::theKindOfFilesIsRemembered()
         QCOMPARE(qobject_cast<QFileDialog *>(widget)->selectedNameFilter(), kind);
     });
     w.press("buttSelezionaImmagine");
-    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowCellEditing::aPresentImageIsAskedAbout()
@@ -603,6 +615,73 @@ void tst_MainWindowCellEditing::aFillerTakesNoImage()
     const LogCapture log;
     w.window->on_buttSelezionaImmagine_clicked();
     QCOMPARE(log.warnings(), QStringList{imageCellOnly});
+}
+
+void tst_MainWindowCellEditing::deletingSeveralCellsAsksOnce()
+{
+    PageWindow w;
+    w.showPages({{1, 2, 3}});
+    w.shorten(0, 1, 1);
+    w.window->loadPagina(0);
+    w.cell(0, 0, 0).tipo = CELL_NUMERO;
+    w.table()->selectAll();
+    answerQuestions(w, false, false);
+    press(w, Qt::Key_Delete);
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(w.cell(0, 0, column).tipo, CELL_IMMAGINE);
+        QCOMPARE(w.item(0, column)->text(), QStringLiteral("IMG"));
+    }
+    QCOMPARE(w.cell(0, 1, 0).tipo, CELL_IMMAGINE);
+    QCOMPARE(w.item(1, 1)->text(), QStringLiteral("X"));
+}
+
+void tst_MainWindowCellEditing::backspaceMakesCellsTexts()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    w.table()->selectAll();
+    answerQuestions(w, true, false);
+    press(w, Qt::Key_Backspace);
+    QCOMPARE(w.cell(0, 0, 1).tipo, CELL_TESTO);
+    QCOMPARE(w.item(0, 1)->text(), QStringLiteral("TXT"));
+}
+
+void tst_MainWindowCellEditing::deletingNothingOrFillersAsksNothing()
+{
+    PageWindow w;
+    w.showPages({{1, 2, 2}});
+    w.shorten(0, 1, 1);
+    w.window->loadPagina(0);
+    press(w, Qt::Key_Delete);
+    w.select(1, 1);
+    press(w, Qt::Key_Delete);
+    QCOMPARE(w.item(1, 1)->text(), QStringLiteral("X"));
+}
+
+void tst_MainWindowCellEditing::aPageDeletedWhileItsCellsAreDeletedIsNotWritten()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 2});
+    w.table()->selectAll();
+    w.boxes.expectBox(title, asText, QMessageBox::Yes,
+                      [&w](QMessageBox *) { w.find<QPushButton>("pagina_elimina")->click(); });
+    press(w, Qt::Key_Delete);
+    QCOMPARE(w.set()->getNumPages(), 1);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+}
+
+void tst_MainWindowCellEditing::theKeyboardStaysInTheCellAfterItsQuestion()
+{
+    PageWindow w;
+    w.showPages({{1, 2, 2}});
+    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+    w.table()->setFocus();
+    w.table()->setCurrentCell(1, 1);
+    answerQuestions(w, true, false);
+    w.type(1, 1, QStringLiteral("ciao"));
+    QTRY_COMPARE(w.window->focusWidget(), static_cast<QWidget *>(w.table()));
+    QCOMPARE(w.table()->currentRow(), 1);
+    QCOMPARE(w.table()->currentColumn(), 1);
 }
 
 QTEST_MAIN(tst_MainWindowCellEditing)

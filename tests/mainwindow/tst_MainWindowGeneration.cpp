@@ -136,6 +136,10 @@ private slots:
     void pagesAreAppendedToThoseMadeByHand();
     void pagesMadeByHandAreShownAfterAllWereDeleted();
     void theWindowMayGoWhileTheEditorIsOpen();
+    void anUnreadableDefaultImageIsToldOncePerGeneration();
+    void theMemoryWarningHasNoAsDefault();
+    void failedPagesAreToldInOneBoxWhenWanted();
+    void noSummaryComesWhenNoOtherPageFailed();
 };
 
 void tst_MainWindowGeneration::theFirstPagesMakeACardSetWithoutAsking()
@@ -714,6 +718,79 @@ void tst_MainWindowGeneration::theWindowMayGoWhileTheEditorIsOpen()
     const QPointer<EditPersonale> editor = openEditor(page);
     page.window.reset();
     QVERIFY(editor.isNull());
+}
+
+void tst_MainWindowGeneration::anUnreadableDefaultImageIsToldOncePerGeneration()
+{
+    PageWindow page;
+    const QString missing = QDir::current().filePath(QStringLiteral("manca.png"));
+    globalConfig->defaultCellImage = missing;
+    const QString text =
+        QStringLiteral("L'immagine di base non può essere letta:\n%1\n\nLe celle con immagine resteranno "
+                       "vuote in stampa.")
+            .arg(missing);
+    page.press("butt_aggiungi_pagine"); // without pictures nothing is said
+    set(page, "numerojollyxriga", 1);
+    set(page, "numeropagine", 3);
+    page.boxes.expectBox(boxTitle, text, QMessageBox::Ok, QMessageBox::Warning);
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 4);
+    page.boxes.expectBox(boxTitle, newQuestion, QMessageBox::Yes);
+    page.boxes.expectBox(boxTitle, text, QMessageBox::Ok, [&page](QMessageBox *) {
+        QCOMPARE(page.pageNumber()->value(), 1);
+        QVERIFY(page.enabled("butt_aggiungi_pagine"));
+    });
+    chooseNew(page);
+}
+
+void tst_MainWindowGeneration::theMemoryWarningHasNoAsDefault()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    set(page, "numeropagine", 65000);
+    page.boxes.expectBox(
+        boxTitle,
+        QStringLiteral("Si sconsiglia di proseguire per le seguenti ragioni:\n10530000 -> caselle totali "
+                       "richieste.\n162 -> caselle totali in memoria.\n10000000 -> caselle massime "
+                       "gestibili.\n(eventuale crash del programma)\n\nVuoi proseguire comunque?"),
+        QMessageBox::No, [](QMessageBox *box) {
+            QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+            QCOMPARE(box->informativeText(), QStringLiteral("Pagine non stampate dopo l'ultima modifica: 1."));
+        });
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 1);
+}
+
+void tst_MainWindowGeneration::failedPagesAreToldInOneBoxWhenWanted()
+{
+    PageWindow page;
+    setImpossibleCard(page);
+    set(page, "numeropagine", 4);
+    const auto text = [](int failed) {
+        return QStringLiteral("Generazione numeri:\nErrore durante la generazione della pagina %1.").arg(failed);
+    };
+    page.boxes.expectBox(boxTitle, text(0), QMessageBox::Ok,
+                         [](QMessageBox *box) { QVERIFY(!box->checkBox()->isChecked()); });
+    page.boxes.expectBox(boxTitle, text(1), QMessageBox::Ok, [](QMessageBox *box) {
+        QCOMPARE(box->checkBox()->text(), QStringLiteral("Riassumi le altre in un solo messaggio"));
+        QVERIFY(!box->checkBox()->isChecked());
+        box->checkBox()->click();
+    });
+    page.boxes.expectBox(boxTitle,
+                         QStringLiteral("Generazione numeri:\nAltre pagine non generate (contate da 1): 3, 4"),
+                         QMessageBox::Ok, QMessageBox::Critical);
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 4);
+}
+
+void tst_MainWindowGeneration::noSummaryComesWhenNoOtherPageFailed()
+{
+    PageWindow page;
+    setImpossibleCard(page);
+    page.boxes.expectBox(boxTitle, QStringLiteral("Generazione numeri:\nErrore durante la generazione della pagina 0."),
+                         QMessageBox::Ok, [](QMessageBox *box) { box->checkBox()->click(); });
+    page.press("butt_aggiungi_pagine");
+    QCOMPARE(page.set()->getNumPages(), 1);
 }
 
 QTEST_MAIN(tst_MainWindowGeneration)

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QPixmap>
 
+#include <QScopedValueRollback>
 #include <functional>
 
 namespace {
@@ -82,6 +83,8 @@ private slots:
     void byHandRowsStopAtTheBoxsLimit();
     void byHandOnlyTheSizeIsChecked();
     void leavingTheHandReloadsTheConfiguration();
+    void valuesOfTheConfigurationThatWereChangedAreNamed();
+    void nothingIsSaidOfAConfigurationTakenAsItIs();
 };
 
 void tst_MainWindowParameters::theBoxesHaveTheirRangesAndStartValues_data()
@@ -434,6 +437,31 @@ void tst_MainWindowParameters::leavingTheHandReloadsTheConfiguration()
         QVERIFY2(box(page, name)->isEnabled(), name);
     }
     QCOMPARE(verdictText(page), correct);
+}
+
+void tst_MainWindowParameters::valuesOfTheConfigurationThatWereChangedAreNamed()
+{
+    ScratchFolder folder;
+    folder.write(QStringLiteral("config.ini"), "[General]\nNMIN=101\nNMAX=200\nCLASSIC_NCOLS=500\n");
+    Config config(qApp);
+    const QScopedValueRollback<Config *> global(globalConfig, &config);
+    MainWindow window;
+    const auto *changed = window.findChild<QLabel *>(QStringLiteral("label_valoricambiati"));
+    QVERIFY(!changed->isHidden());
+    QCOMPARE(changed->text(),
+             QStringLiteral("Valori cambiati di config.ini:\nCLASSIC_NCOLS: 500 > 99\nNMIN: 101 > 90"));
+    QCOMPARE(window.findChild<QSpinBox *>(QStringLiteral("box_classica_numerominimo"))->value(), 90);
+    window.findChild<QSpinBox *>(QStringLiteral("box_classica_numeropagine"))->setValue(2);
+    QVERIFY(changed->isHidden());
+}
+
+void tst_MainWindowParameters::nothingIsSaidOfAConfigurationTakenAsItIs()
+{
+    const PageWindow page;
+    QVERIFY(page.find<QLabel>("label_valoricambiati")->isHidden());
+    page.check("MappaManuale");
+    page.check("MappaManuale");
+    QVERIFY(page.find<QLabel>("label_valoricambiati")->isHidden());
 }
 
 QTEST_MAIN(tst_MainWindowParameters)

@@ -2,6 +2,7 @@
 #include "mainwindow/PageWindow.h"
 #include "msgarea/MsgArea.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QTextEdit>
@@ -38,6 +39,11 @@ private slots:
     void anUnknownSuffixIsAnError();
     void aFileThatCannotBeWrittenIsAnError();
     void printingShowsTheWaitCursor();
+    void aFailedPrintIsTheLastThingTheStatusBarSays();
+    void blocksSpacedOffTheSheetAreWarnedOfAndPrinted();
+    void leavingSaysHowManyPagesWereNotPrinted();
+    void aNewSetAsksWithTheSameLineAndNoAsDefault();
+    void aPrintedSetIsUnprintedAfterEveryChange();
 };
 
 void tst_MainWindowPrinting::thePaperFormatIsWrittenIntoTheCardSet()
@@ -263,6 +269,120 @@ void tst_MainWindowPrinting::printingShowsTheWaitCursor()
     page.press("butt_stampa");
     QCOMPARE(cursors, QList<Qt::CursorShape>({Qt::WaitCursor, Qt::WaitCursor}));
     QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_MainWindowPrinting::aFailedPrintIsTheLastThingTheStatusBarSays()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const QString file = QDir::current().filePath(QStringLiteral("cartelle.pdf"));
+    QVERIFY(QDir().mkdir(file));
+    page.boxes.expectFileDialog(saveCaption, file + QStringLiteral("/x.txt"));
+    page.boxes.expectBox(boxTitle,
+                         QStringLiteral("Errore nella creazione del file:\n%1").arg(file + QStringLiteral("/x.txt")),
+                         QMessageBox::Ok);
+    page.press("butt_stampa");
+    QCOMPARE(page.status(), QStringLiteral("Stampa non riuscita!"));
+}
+
+void tst_MainWindowPrinting::blocksSpacedOffTheSheetAreWarnedOfAndPrinted()
+{
+    PageWindow page;
+    page.find<QSpinBox>("box_classica_numeropagine")->setValue(3);
+    page.press("butt_aggiungi_pagine");
+    page.pageNumber()->setValue(2);
+    page.find<QSpinBox>("spazio_blocchi_spin")->setValue(60);
+    page.press("pagina_applica");
+    QCOMPARE(page.status(), QStringLiteral("Modifica applicata."));
+    const QString file = QDir::current().filePath(QStringLiteral("cartelle.pdf"));
+    page.boxes.expectFileDialog(saveCaption, file);
+    page.boxes.expectBox(
+        boxTitle,
+        QStringLiteral("Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla "
+                       "pagina.\nPagine: 2"),
+        QMessageBox::Ok, [&file](QMessageBox *box) {
+            QCOMPARE(box->standardButtons(), QMessageBox::Ok);
+            QVERIFY(!QFile::exists(file));
+        });
+    page.press("butt_stampa");
+    QVERIFY(QFileInfo(file).size() > 0);
+    QVERIFY(page.window->findChild<MsgArea *>() != nullptr);
+}
+
+void tst_MainWindowPrinting::leavingSaysHowManyPagesWereNotPrinted()
+{
+    PageWindow page;
+    const auto expectQuestion = [&page](const QString &loss) {
+        page.boxes.expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"), QMessageBox::No,
+                             [loss](QMessageBox *box) {
+                                 QCOMPARE(box->informativeText(), loss);
+                                 QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+                             });
+        page.window->close();
+    };
+    const QString unprinted = QStringLiteral("Pagine non stampate dopo l'ultima modifica: 2.");
+    const QString printed = QStringLiteral("Tutte le pagine sono state stampate dopo l'ultima modifica.");
+    expectQuestion(QString());
+    page.find<QSpinBox>("box_classica_numeropagine")->setValue(2);
+    page.press("butt_aggiungi_pagine");
+    expectQuestion(unprinted);
+    page.boxes.expectFileDialog(saveCaption, QDir::current().filePath(QStringLiteral("cartelle.pdf")));
+    page.press("butt_stampa");
+    delete page.window->findChild<MsgArea *>();
+    page.pageNumber()->setValue(2);
+    expectQuestion(printed);
+    page.type(0, 0, QStringLiteral("7"));
+    expectQuestion(unprinted);
+}
+
+void tst_MainWindowPrinting::aNewSetAsksWithTheSameLineAndNoAsDefault()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    page.boxes.expectBox(boxTitle, QStringLiteral("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
+                         QMessageBox::No, [](QMessageBox *box) {
+                             QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+                             QCOMPARE(box->informativeText(),
+                                      QStringLiteral("Pagine non stampate dopo l'ultima modifica: 1."));
+                         });
+    page.window->findChild<QAction *>(QStringLiteral("actionCrea"))->trigger();
+}
+
+void tst_MainWindowPrinting::aPrintedSetIsUnprintedAfterEveryChange()
+{
+    PageWindow page;
+    page.showPages(1, {2, 1, 2});
+    const auto print = [&page]() {
+        QFile::remove(QStringLiteral("cartelle.pdf"));
+        page.boxes.expectFileDialog(saveCaption, QDir::current().filePath(QStringLiteral("cartelle.pdf")));
+        page.press("butt_stampa");
+        delete page.window->findChild<MsgArea *>();
+    };
+    const auto isUnprinted = [&page]() {
+        bool unprinted = false;
+        page.boxes.expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"), QMessageBox::No,
+                             [&unprinted](QMessageBox *box) {
+                                 unprinted = box->informativeText().startsWith(QStringLiteral("Pagine non stampate"));
+                             });
+        page.window->close();
+        return unprinted;
+    };
+    print();
+    QVERIFY(!isUnprinted());
+    page.press("colorapaginasfondo");
+    page.choose(Qt::yellow);
+    QVERIFY(isUnprinted());
+    print();
+    page.find<QComboBox>("pagina_formato")->setCurrentIndex(3);
+    QVERIFY(isUnprinted());
+    print();
+    page.press("pagina_applica");
+    QVERIFY(isUnprinted());
+    print();
+    page.select(0, 0);
+    page.boxes.expectFontDialog(QFont(QStringLiteral("Liberation Sans"), 12));
+    page.press("seleziona_font_button");
+    QVERIFY(isUnprinted());
 }
 
 QTEST_MAIN(tst_MainWindowPrinting)

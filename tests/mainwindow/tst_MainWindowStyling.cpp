@@ -5,8 +5,11 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QScopeGuard>
+#include <QScrollBar>
 #include <QTextEdit>
 
 namespace {
@@ -118,6 +121,8 @@ private slots:
     void equalBlocksAreListed();
     void aLongListEndsWithTheRest();
     void theCommandIsDisabledDuringTheCheck();
+    void recolouringKeepsWhatIsSeenAndWhereTheKeyboardIs();
+    void coloursOfLinesSayThatTheyHaveNoEffect();
 };
 
 void tst_MainWindowStyling::withoutPagesEveryCommandSaysSo_data()
@@ -581,29 +586,33 @@ void tst_MainWindowStyling::thePickerSaysWhatItColours()
     QVERIFY(w.picker()->isVisible());
     QCOMPARE(w.picker()->windowTitle(), title);
     w.picker()->reject();
-    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
-// The family of the first font is not installed everywhere.
+// DejaVu Sans, drawn here in place of the first family, calls its regular style "Book".
 void tst_MainWindowStyling::aNewSizeAloneChangesNoWeight()
 {
+    const QString missing = QStringLiteral("Arial");
+    const QString drawn = QStringLiteral("DejaVu Sans");
+    QVERIFY(QFontDatabase().families().contains(drawn));
+    QFont::insertSubstitution(missing, drawn);
+    const auto asBefore = qScopeGuard([missing]() { QFont::removeSubstitutions(missing); });
+
     PageWindow w;
     w.showPages(1, {1, 1, 2});
     w.select(0, 0);
-    const QString drawn = QFontInfo(QFont(QStringLiteral("Arial"), 30)).family();
-    const auto makeLarger = [drawn](QFontDialog *dialog) {
+    w.boxes.expectFontDialog([](QFontDialog *dialog) {
         QLineEdit *size = nullptr;
         for (QLineEdit *edit : dialog->findChildren<QLineEdit *>()) {
             size = edit->text() == QLatin1String("30") ? edit : size;
         }
         QVERIFY(size != nullptr);
         size->setText(QStringLiteral("31"));
-        QCOMPARE(dialog->currentFont().family(), drawn);
-    };
-    w.boxes.expectFontDialog(makeLarger);
+    });
     w.press("seleziona_font_button");
     const QFont chosen = w.cell(0, 0, 0).font;
     QCOMPARE(chosen.pointSize(), 31);
+    QCOMPARE(chosen.family(), drawn);
+    QCOMPARE(chosen.styleName(), QStringLiteral("Book"));
     QCOMPARE(QFontInfo(chosen).weight(), int(QFont::Normal));
     QVERIFY(!QFontInfo(chosen).italic());
     QCOMPARE(w.boxes.problems(), QStringList());
@@ -832,6 +841,39 @@ void tst_MainWindowStyling::theCommandIsDisabledDuringTheCheck()
     command->trigger();
     QCOMPARE(enabled, 0);
     QVERIFY(command->isEnabled());
+}
+
+void tst_MainWindowStyling::recolouringKeepsWhatIsSeenAndWhereTheKeyboardIs()
+{
+    PageWindow page;
+    page.window->resize(800, 500);
+    page.showPages(1, {40, 3, 40});
+    QVERIFY(QTest::qWaitForWindowActive(page.window.get()));
+    page.table()->setFocus();
+    page.table()->setCurrentCell(70, 30);
+    page.table()->scrollToItem(page.item(70, 30), QAbstractItemView::PositionAtCenter);
+    const int down = page.table()->verticalScrollBar()->value();
+    const int right = page.table()->horizontalScrollBar()->value();
+    QVERIFY(down > 0 && right > 0);
+    page.press("colorapaginasfondo");
+    page.choose(Qt::yellow);
+    QCOMPARE(page.table()->verticalScrollBar()->value(), down);
+    QCOMPARE(page.table()->horizontalScrollBar()->value(), right);
+    QCOMPARE(page.table()->currentRow(), 70);
+    QCOMPARE(page.table()->currentColumn(), 30);
+    QVERIFY(page.table()->selectedItems().isEmpty());
+    QCOMPARE(page.text("cella_label"), QStringLiteral("Nessuna selezione"));
+}
+
+void tst_MainWindowStyling::coloursOfLinesSayThatTheyHaveNoEffect()
+{
+    const PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    for (const char *button : {"colorabloccolineaesterna", "colorabloccolineainterna"}) {
+        page.press(button);
+        QCOMPARE(page.status(), QStringLiteral("Il colore delle linee non ha ancora effetto!"));
+        page.picker()->reject();
+    }
 }
 
 QTEST_MAIN(tst_MainWindowStyling)

@@ -58,6 +58,7 @@ void tst_SidePanes::aPaneIsClosedAndComesBackByTheMenu()
     QTest::mouseClick(dock->findChild<QAbstractButton *>(QStringLiteral("qt_dockwidget_closebutton")), Qt::LeftButton);
     QVERIFY(!dock->isVisible());
     QTRY_VERIFY(page.table()->width() > before);
+    const int alone = page.table()->width();
 
     QAction *entry = nullptr;
     for (QAction *action : page.find<QMenu>("menuVisualizza")->actions()) {
@@ -67,7 +68,7 @@ void tst_SidePanes::aPaneIsClosedAndComesBackByTheMenu()
     QVERIFY(!entry->isChecked());
     entry->trigger();
     QVERIFY(dock->isVisible());
-    QTRY_COMPARE(page.table()->width(), before);
+    QTRY_VERIFY(page.table()->width() < alone);
 }
 
 void tst_SidePanes::aPaneIsDrawnNarrower()

@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QtTest>
@@ -100,6 +101,7 @@ private slots:
     void anEmptyTextThatCannotBeWrittenIsReported();
     void aFullDeviceIsReported();
     void aWindowWithoutAFileReportsTheSave();
+    void leavingSaysWhetherTheTextWasTouched();
 
 private:
     std::unique_ptr<ScratchFolder> m_folder;
@@ -537,6 +539,28 @@ void tst_MsgArea::aWindowWithoutAFileReportsTheSave()
     const Shown area(true);
     area.type(QStringLiteral("x"));
     area.save();
+}
+
+void tst_MsgArea::leavingSaysWhetherTheTextWasTouched()
+{
+    m_folder->write(QStringLiteral("a.txt"), "text");
+    const auto expectLine = [](BoxScript &boxes, const QString &line) {
+        boxes.expectBox(unsavedTitle, unsavedText, QMessageBox::No, [line](QMessageBox *box) {
+            QCOMPARE(box->informativeText(), line);
+            QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+        });
+    };
+    BoxScript boxes;
+    expectLine(boxes, QStringLiteral("Il testo non è stato toccato."));
+    expectLine(boxes, QStringLiteral("Le modifiche al testo vanno perse."));
+    boxes.expectBox(unsavedTitle, unsavedText, QMessageBox::Yes);
+    const Shown area(true);
+    area.window->setText(m_folder->path(QStringLiteral("a.txt")), true);
+    area.window->close();
+    area.type(QStringLiteral("x"));
+    area.window->close();
+    area.window->close();
+    QVERIFY(area.isClosed());
 }
 
 QTEST_MAIN(tst_MsgArea)

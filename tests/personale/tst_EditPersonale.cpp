@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EditorUnderTest.h"
+#include "model/Positions.h"
 #include "support/FatalMessage.h"
 
 #include <QMenu>
@@ -105,6 +106,7 @@ private slots:
     void eighteenRowsOfNineFitWithoutScrolling();
     void largerPagesScrollToTheFocusedCell();
     void openingAndClosingFiftyTimes();
+    void textAndImageCellsGetTheDefaultTextAndImage();
 };
 
 void tst_EditPersonale::theWindowOpensOnPageOne()
@@ -955,6 +957,25 @@ void tst_EditPersonale::openingAndClosingFiftyTimes()
         if (round % 4 < 2) {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
+    }
+}
+
+void tst_EditPersonale::textAndImageCellsGetTheDefaultTextAndImage()
+{
+    EditorUnderTest t(1, 3, 1);
+    t.folder.writePicture(QStringLiteral("default.png"), QSize(5, 4), Qt::red);
+    t.tick(0, 0, CELL_TESTO);
+    t.tick(0, 1, CELL_IMMAGINE);
+    t.expectCreated();
+    t.click("creapagineButton");
+    t.button("checkBox_ordinaNumxColonne")->click();
+    t.expectCreated();
+    t.click("creapagineButton");
+    QCOMPARE(t.cartella.getNumPages(), 2);
+    for (const Pagina *page : t.cartella.pagine) {
+        QCOMPARE(cellAt(*page, 0, 0)->testo, QStringLiteral("TXT"));
+        QCOMPARE(cellAt(*page, 0, 1)->immagine.size(), QSize(5, 4));
+        QCOMPARE(cellAt(*page, 0, 2)->testo, QString());
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EditorUnderTest.h"
 #include "msgarea/MsgArea.h"
+#include "settings/WholeFile.h"
 #include "support/FileFaults.h"
 #include "support/LogCapture.h"
 
@@ -84,6 +85,8 @@ private slots:
 
     void aFileThatCannotBeOpenedIsOnlyLogged();
     void aLostMappingIsToldBesideTheReport();
+    void afterAnyFaultTheOldMappingOrTheNewOneIsWhole_data();
+    void afterAnyFaultTheOldMappingOrTheNewOneIsWhole();
     void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data();
     void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted();
 
@@ -113,6 +116,7 @@ private slots:
     void copyingToAPageOfAnotherSizeRebuildsIt();
     void ticksOfARebuiltPageAreCounted();
     void loadedPagesAreCreated();
+    void pagesThatComeBackCutAreNamed();
 };
 
 void tst_EditPersonaleFile::savingWritesEveryPage()
@@ -307,6 +311,51 @@ void tst_EditPersonaleFile::aLostMappingIsToldBesideTheReport()
     }
     reportMatches(t, QStringLiteral("out"), 1, "what was there");
     QCOMPARE(t.folder.read(QStringLiteral("out.QcF")), QByteArray("what was there"));
+}
+
+void tst_EditPersonaleFile::afterAnyFaultTheOldMappingOrTheNewOneIsWhole_data()
+{
+    QTest::addColumn<FileFaults::Effect>("effect");
+    QTest::newRow("one error") << FileFaults::Effect::Error;
+    QTest::newRow("lasting errors") << FileFaults::Effect::LastingError;
+}
+
+void tst_EditPersonaleFile::afterAnyFaultTheOldMappingOrTheNewOneIsWhole()
+{
+    QFETCH(FileFaults::Effect, effect);
+    const QByteArray before = "what was there";
+    const QByteArray after = "!o\n";
+    EditorUnderTest t(1, 1, 1);
+    const QString path = t.folder.path(QStringLiteral("out.QcF"));
+    const auto faultAt = [&](int call) {
+        t.folder.write(QStringLiteral("out.QcF"), before);
+        return std::make_unique<FileFaults>(path, FileFaults::Calls::Changes, call, effect);
+    };
+    const auto save = [&](const QString &loss) {
+        t.expectSave(path);
+        t.boxes.expectBox(QStringLiteral("Salva le cartelle su file"),
+                          QStringLiteral("out.QcF already exists.\nDo you want to replace it?"), QMessageBox::Yes);
+        if (!loss.isEmpty()) {
+            t.boxes.expectBox(editorTitle, QStringLiteral("Errore nel salvataggio del file:\n%1\n\n%2").arg(path, loss),
+                              QMessageBox::Ok);
+        }
+        t.trigger("actionSave");
+    };
+    bool reached = true;
+    int call = 1;
+    for (; reached; ++call) {
+        QString loss; // of the same writing, without a window
+        {
+            const auto fault = faultAt(call);
+            writeWhole(path, after, QIODevice::Text, &loss);
+            reached = FileFaults::seen() >= call;
+        }
+        const auto fault = faultAt(call);
+        save(loss);
+        const QByteArray found = t.folder.read(QStringLiteral("out.QcF"));
+        QVERIFY2(found == after || (reached && found == before), qPrintable(QString::number(call)));
+    }
+    QVERIFY(call > 4);
 }
 
 void tst_EditPersonaleFile::aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data()
@@ -593,6 +642,9 @@ void tst_EditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
     t.selectAll(true);
     t.click("riempiButton");
     t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: 1"),
+                      QMessageBox::Ok);
     t.trigger("actionSave");
     t.expectOpen(t.folder.path(QStringLiteral("out.QcF")));
     t.trigger("actionOpen");
@@ -761,6 +813,16 @@ void tst_EditPersonaleFile::loadedPagesAreCreated()
     QCOMPARE(t.cartella.getMaxPageColSize(1), U8(2));
     QCOMPARE(t.cartella.pagine[1]->blocchi[0].righe[0].celle[1].tipo, CELL_IMMAGINE);
     QCOMPARE(t.box(0, 0)->text(), QString::number(t.cartella.pagine[0]->blocchi[0].righe[0].celle[0].numero));
+}
+
+void tst_EditPersonaleFile::pagesThatComeBackCutAreNamed()
+{
+    EditorUnderTest t(29, 9, 2);
+    t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: 1, 2"),
+                      QMessageBox::Ok, [&t](QMessageBox *) { QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor); });
+    t.trigger("actionSave");
 }
 
 QTEST_MAIN(tst_EditPersonaleFile)

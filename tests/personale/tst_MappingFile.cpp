@@ -104,6 +104,7 @@ private slots:
     void aLongListOfSkippedLinesIsCut();
     void aDeviceThatFailsEndsTheReading_data();
     void aDeviceThatFailsEndsTheReading();
+    void onlyPagesOfAtMost255CellsComeBackWhole();
 };
 
 void tst_MappingFile::everyTypeHasItsLetter_data()
@@ -379,6 +380,17 @@ void tst_MappingFile::aDeviceThatFailsEndsTheReading()
     QCOMPARE(static_cast<int>(reading.pagine.size()), pages);
     QCOMPARE(told, pages);
     QVERIFY(reading.saltate.empty());
+}
+
+void tst_MappingFile::onlyPagesOfAtMost255CellsComeBackWhole()
+{
+    const auto whole = [](U8 rows, U8 columns) { return MappingFile::comesBackWhole({rows, columns, {}}); };
+    QVERIFY(whole(3, 9));
+    QVERIFY(whole(1, 255));
+    QVERIFY(whole(223, 1));
+    QVERIFY(!whole(224, 1)); // its row count is no character of Latin-1
+    QVERIFY(!whole(16, 16));
+    QVERIFY(!whole(30, 9));
 }
 
 QTEST_GUILESS_MAIN(tst_MappingFile)

@@ -70,6 +70,7 @@ private slots:
 
     void theConfigurationOpensInAnEditor();
     void theEditorAsksBeforeItCloses();
+    void bothResetsHaveNoAsDefaultAndSayWhatIsLost();
 
 private:
     void click(const char *button) const;
@@ -353,6 +354,19 @@ void tst_Options::theEditorAsksBeforeItCloses()
     editor->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(editor.isNull());
+}
+
+void tst_Options::bothResetsHaveNoAsDefaultAndSayWhatIsLost()
+{
+    BoxScript boxes;
+    for (const QString &question : {resetQuestion, exitQuestion}) {
+        boxes.expectBox(title, question, QMessageBox::No, [](QMessageBox *box) {
+            QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+            QCOMPARE(box->informativeText(), QStringLiteral("Le impostazioni di config.ini vanno perse."));
+        });
+    }
+    click("butt_azzeracontinua");
+    click("butt_azzeraesci");
 }
 
 QTEST_MAIN(tst_Options)
