@@ -1358,6 +1358,21 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     </message>
 </context>
 <context>
+    <name>MemoryQuestion</name>
+    <message>
+        <source>La memoria libera potrebbe non bastare, e il programma chiudersi.
+MB necessari: %1
+MB liberi: %2
+
+Vuoi proseguire comunque?</source>
+        <translation>Der freie Speicher reicht vielleicht nicht, und das Programm könnte sich beenden.
+Benötigte MB: %1
+Freie MB: %2
+
+Möchten Sie trotzdem fortfahren?</translation>
+    </message>
+</context>
+<context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>

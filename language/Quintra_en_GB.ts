@@ -1358,6 +1358,21 @@ Other pages not generated (counted from 1): %1</translation>
     </message>
 </context>
 <context>
+    <name>MemoryQuestion</name>
+    <message>
+        <source>La memoria libera potrebbe non bastare, e il programma chiudersi.
+MB necessari: %1
+MB liberi: %2
+
+Vuoi proseguire comunque?</source>
+        <translation>The free memory may not be enough, and the program may close.
+MB needed: %1
+MB free: %2
+
+Do you want to continue anyway?</translation>
+    </message>
+</context>
+<context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>

@@ -1358,6 +1358,21 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     </message>
 </context>
 <context>
+    <name>MemoryQuestion</name>
+    <message>
+        <source>La memoria libera potrebbe non bastare, e il programma chiudersi.
+MB necessari: %1
+MB liberi: %2
+
+Vuoi proseguire comunque?</source>
+        <translation>Puede que la memoria libre no baste y que el programa se cierre.
+MB necesarios: %1
+MB libres: %2
+
+¿Desea continuar de todos modos?</translation>
+    </message>
+</context>
+<context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>

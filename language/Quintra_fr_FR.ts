@@ -1358,6 +1358,21 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     </message>
 </context>
 <context>
+    <name>MemoryQuestion</name>
+    <message>
+        <source>La memoria libera potrebbe non bastare, e il programma chiudersi.
+MB necessari: %1
+MB liberi: %2
+
+Vuoi proseguire comunque?</source>
+        <translation>La mémoire libre pourrait ne pas suffire, et le programme s&apos;arrêter.
+Mo nécessaires&#xa0;: %1
+Mo libres&#xa0;: %2
+
+Voulez-vous continuer quand même&#xa0;?</translation>
+    </message>
+</context>
+<context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>

@@ -1358,6 +1358,21 @@ Altre pagine non generate (contate da 1): %1</translation>
     </message>
 </context>
 <context>
+    <name>MemoryQuestion</name>
+    <message>
+        <source>La memoria libera potrebbe non bastare, e il programma chiudersi.
+MB necessari: %1
+MB liberi: %2
+
+Vuoi proseguire comunque?</source>
+        <translation>La memoria libera potrebbe non bastare, e il programma chiudersi.
+MB necessari: %1
+MB liberi: %2
+
+Vuoi proseguire comunque?</translation>
+    </message>
+</context>
+<context>
     <name>MsgArea</name>
     <message>
         <source>Area messaggi</source>

@@ -4,5 +4,6 @@
 #include <QImage>
 #include <QString>
 
-// The picture of a file, turned upright as its camera recorded. A null image when it cannot be read.
+// The picture of a file, turned upright as its camera recorded. One of more than 10000 pixels a side is read at that
+// size. A null image when it cannot be read.
 QImage loadCellImage(const QString &path);

@@ -141,7 +141,7 @@ private:
     void fillPages(int first, const CardParameters &requested);
     bool tellOfFailedPage(int page);
     void showFirstPage();
-    void openEditor(bool append);
+    bool openEditor(bool append);
 
     // Boxes.
     static QString boxTitle();

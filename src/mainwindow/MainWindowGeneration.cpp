@@ -5,8 +5,10 @@
 #include "generation/GeneraCartellaClassica.h"
 #include "model/PageNumbers.h"
 #include "msgarea/Confirmation.h"
+#include "msgarea/MemoryQuestion.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/EditPersonale.h"
+#include "personale/PersonaleChkBox.h"
 #include "ui_MainWindow.h"
 
 #include <QCheckBox>
@@ -84,11 +86,11 @@ bool MainWindow::generate(bool append)
 {
     ui->box_classica_numeromassimo->interpretText(); // it may still be being typed
     if (ui->MappaManuale->isChecked()) {
-        openEditor(append);
-        return true;
+        return openEditor(append);
     }
     QString message;
-    if (!confirmVerdict(checkParameters(&message, append), message)) {
+    if (!confirmVerdict(checkParameters(&message, append), message) ||
+        !confirmMemory(this, boxTitle(), ParameterRules::bytesRequested(parameters()), unprintedPages())) {
         updateStatusBar(tr("Creazione annullata."));
         return false;
     }
@@ -201,8 +203,14 @@ void MainWindow::showFirstPage()
     }
 }
 
-void MainWindow::openEditor(bool append)
+// False when the user did not want to take the memory for it.
+bool MainWindow::openEditor(bool append)
 {
+    const double cells = static_cast<double>(ParameterRules::cellsRequested(parameters()));
+    if (!confirmMemory(this, boxTitle(), cells * PersonaleChkBox::bytes, unprintedPages())) {
+        updateStatusBar(tr("Creazione annullata."));
+        return false;
+    }
     updateStatusBar(tr("Sto creando l'ambiente per la mappatura manuale, attendere..."));
     m_pagesBeforeEditor = m_cartella->getNumPages();
     {
@@ -214,6 +222,7 @@ void MainWindow::openEditor(bool append)
     }
     updateStatusBar(tr("Ambiente per la mappatura manuale creato."));
     m_editor->setWindowModality(Qt::ApplicationModal); // the editor was so already when it showed itself
+    return true;
 }
 
 void MainWindow::generatePersDone()

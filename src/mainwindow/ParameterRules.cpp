@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/ParameterRules.h"
 
+#include "model/Cartella.h"
+
 #include <QCoreApplication>
 
 namespace ParameterRules {
@@ -90,3 +92,14 @@ quint64 cellsRequested(const CardParameters &p)
 }
 
 } // namespace ParameterRules
+
+double ParameterRules::bytesRequested(const CardParameters &p)
+{
+    constexpr double perArray = 32; // what the allocator adds
+    const double pages = p.pages;
+    const double blocks = pages * p.blocks;
+    const double rows = blocks * p.rows;
+    const double cells = rows * p.columns;
+    return pages * (sizeof(Pagina) + 2 * perArray) + blocks * (sizeof(Blocco) + perArray) +
+           rows * (sizeof(Riga) + perArray) + cells * sizeof(Cella);
+}

@@ -45,5 +45,7 @@ constexpr quint64 maxCells = 10000000; // above it the user is warned
 [[nodiscard]] QString outcome(const CardParameters &parameters);
 // pages x blocks x rows x columns; it does not fit 32 bits at the upper end of the ranges.
 [[nodiscard]] quint64 cellsRequested(const CardParameters &parameters);
+// What the pages take in memory, rather too much than too little.
+[[nodiscard]] double bytesRequested(const CardParameters &parameters);
 
 } // namespace ParameterRules

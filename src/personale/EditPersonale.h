@@ -96,6 +96,7 @@ private:
     void warnOfPagesThatComeBackCut();
     QString readMapping(const QString &fileName);
     void warn(const QString &text);
+    bool confirmPages(const std::vector<MappingFile::SchemaPagina> &pages);
     void showPagesOrReason(const QString &whyNone);
     void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);
     void loadPage(PaginaPersonale &page, const MappingFile::SchemaPagina &scheme);

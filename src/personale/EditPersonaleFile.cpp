@@ -2,6 +2,7 @@
 #include "personale/EditPersonale.h"
 
 #include "model/PageNumbers.h"
+#include "msgarea/MemoryQuestion.h"
 #include "msgarea/MsgArea.h"
 #include "msgarea/Overwriting.h"
 #include "msgarea/WaitCursor.h"
@@ -181,6 +182,10 @@ QString EditPersonale::readMapping(const QString &fileName)
     const MappingFile::Lettura reading = MappingFile::read(
         stream, [this](int lines) { ui->statusBar->showMessage(tr("Sto leggendo la pagina %1").arg(lines)); });
     const QString failure = file.error() != QFile::NoError ? file.errorString() : QString();
+    if (!confirmPages(reading.pagine)) {
+        ui->statusBar->showMessage(tr("Apertura file annullata!"));
+        return QString();
+    }
     replacePages(reading.pagine);
     showPagesOrReason(!failure.isEmpty() ? failure : tr("Nessuna riga del file descrive una pagina."));
     ui->statusBar->showMessage(tr("Apertura completata!"));
@@ -188,6 +193,16 @@ QString EditPersonale::readMapping(const QString &fileName)
         showReport(MappingFile::describe(reading.saltate));
     }
     return opened ? failure : QString();
+}
+
+// Whether the boxes of such pages may be made: they take much more memory than the file.
+bool EditPersonale::confirmPages(const std::vector<MappingFile::SchemaPagina> &pages)
+{
+    double cells = 0;
+    for (const MappingFile::SchemaPagina &page : pages) {
+        cells += static_cast<double>(page.celle.size());
+    }
+    return confirmMemory(this, Product::titleFor(tr("Mappatura manuale")), cells * PersonaleChkBox::bytes, QString());
 }
 
 void EditPersonale::showPagesOrReason(const QString &whyNone)

@@ -12,6 +12,9 @@ class PersonaleChkBox final : public QCheckBox
     Q_OBJECT
 
 public:
+    // What one takes in memory, with its private parts and its connections: rather too much than too little.
+    static constexpr double bytes = 1600;
+
     PersonaleChkBox();
 
     // Stores another type and names it in the status tip. A value outside the enumeration stops the program.

@@ -49,6 +49,8 @@ private slots:
     void aPictureLyingOnItsSideIsTurnedUpright();
     void whatIsNoPictureIsANullImage();
     void aPipeIsNoPicture();
+    void aPictureThatIsTooLargeIsReadSmaller();
+    void aPictureWhoseHeaderLiesCostsNothing();
 };
 
 void tst_CellImage::aPictureIsRead()
@@ -87,6 +89,33 @@ void tst_CellImage::aPipeIsNoPicture()
     const QString pipe = folder.path(QStringLiteral("pipe.png"));
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR), 0);
     QVERIFY(loadCellImage(pipe).isNull());
+}
+
+void tst_CellImage::aPictureThatIsTooLargeIsReadSmaller()
+{
+    const ScratchFolder folder;
+    QImage wide(12000, 6, QImage::Format_RGB32);
+    wide.fill(Qt::red);
+    QVERIFY(wide.save(folder.path(QStringLiteral("wide.png"))));
+    QCOMPARE(loadCellImage(folder.path(QStringLiteral("wide.png"))).size(), QSize(10000, 5));
+    folder.writePicture(QStringLiteral("largest.png"), QSize(10000, 2), Qt::red);
+    QCOMPARE(loadCellImage(folder.path(QStringLiteral("largest.png"))).size(), QSize(10000, 2));
+}
+
+void tst_CellImage::aPictureWhoseHeaderLiesCostsNothing()
+{
+    const ScratchFolder folder;
+    folder.writePicture(QStringLiteral("small.bmp"), QSize(4, 4), Qt::red);
+    QImage small(4, 4, QImage::Format_RGB32);
+    small.fill(Qt::red);
+    QVERIFY(small.save(folder.path(QStringLiteral("lying.bmp")), "BMP"));
+    QFile file(folder.path(QStringLiteral("lying.bmp")));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.seek(18); // width and height
+    file.write(QByteArray("\xff\xff\0\0\xff\xff\0\0", 8));
+    file.close();
+    const QImage read = loadCellImage(folder.path(QStringLiteral("lying.bmp")));
+    QVERIFY(read.width() <= 10000 && read.height() <= 10000);
 }
 
 QTEST_GUILESS_MAIN(tst_CellImage)

@@ -140,6 +140,8 @@ private slots:
     void theMemoryWarningHasNoAsDefault();
     void failedPagesAreToldInOneBoxWhenWanted();
     void noSummaryComesWhenNoOtherPageFailed();
+    void aSetThatDoesNotFitTheMemoryIsAskedAbout();
+    void anEditorThatDoesNotFitTheMemoryIsAskedAbout();
 };
 
 void tst_MainWindowGeneration::theFirstPagesMakeACardSetWithoutAsking()
@@ -791,6 +793,46 @@ void tst_MainWindowGeneration::noSummaryComesWhenNoOtherPageFailed()
                          QMessageBox::Ok, [](QMessageBox *box) { box->checkBox()->click(); });
     page.press("butt_aggiungi_pagine");
     QCOMPARE(page.set()->getNumPages(), 1);
+}
+
+void tst_MainWindowGeneration::aSetThatDoesNotFitTheMemoryIsAskedAbout()
+{
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const Pagina *before = page.page(0);
+    set(page, "numeromassimo", 999999);
+    set(page, "numeropagine", 65535);
+    set(page, "numeroblocchi", 99);
+    set(page, "numerorighexblocco", 99);
+    set(page, "numerocolonne", 99);
+    const auto isMemoryQuestion = [](QMessageBox *box) {
+        QVERIFY(box->text().startsWith(
+            QStringLiteral("La memoria libera potrebbe non bastare, e il programma chiudersi.\nMB necessari: ")));
+        QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+    };
+    page.boxes.expectBox(boxTitle, QMessageBox::Yes, [](QMessageBox *box) {
+        QVERIFY(box->text().startsWith(QStringLiteral("Si sconsiglia di proseguire")));
+    });
+    page.boxes.expectBox(boxTitle, QMessageBox::No, isMemoryQuestion);
+    QVERIFY(!page.window->generate(false));
+    QCOMPARE(page.status(), cancelled);
+    QCOMPARE(page.set()->getNumPages(), 1);
+    QCOMPARE(page.page(0), before);
+}
+
+void tst_MainWindowGeneration::anEditorThatDoesNotFitTheMemoryIsAskedAbout()
+{
+    PageWindow page;
+    page.check("MappaManuale");
+    set(page, "numeropagine", 65535);
+    set(page, "numerorighexblocco", 99);
+    set(page, "numerocolonne", 99);
+    page.boxes.expectBox(boxTitle, QMessageBox::No, [](QMessageBox *box) {
+        QVERIFY(box->text().startsWith(QStringLiteral("La memoria libera potrebbe non bastare")));
+    });
+    QVERIFY(!page.window->generate(false));
+    QCOMPARE(page.status(), cancelled);
+    QVERIFY(page.window->findChild<EditPersonale *>() == nullptr);
 }
 
 QTEST_MAIN(tst_MainWindowGeneration)

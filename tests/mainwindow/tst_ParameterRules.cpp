@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/ParameterRules.h"
+#include "model/Cartella.h"
 
 #include <QtTest>
 
@@ -45,6 +46,7 @@ private slots:
     void manyCellsAreAWarning();
     void cellsThatDoNotFit32BitsAreAWarningToo();
     void whatNewMakesIsCountedWithoutOverflow();
+    void bytesRequestedAreAtLeastThoseOfTheRecords();
 };
 
 void tst_ParameterRules::theClassicCardIsCorrect()
@@ -251,6 +253,18 @@ void tst_ParameterRules::whatNewMakesIsCountedWithoutOverflow()
     QCOMPARE(ParameterRules::outcome(p), QStringLiteral("Nuova: 65535 pagine × 99 blocchi = 6487965 blocchi"));
     p.manual = true;
     QCOMPARE(ParameterRules::outcome(p), QStringLiteral("Nuova: si apre l'editor della mappatura manuale"));
+}
+
+void tst_ParameterRules::bytesRequestedAreAtLeastThoseOfTheRecords()
+{
+    CardParameters p;
+    p.pages = 10;
+    const double cells = 10.0 * 6 * 3 * 9;
+    QVERIFY(ParameterRules::bytesRequested(p) > cells * sizeof(Cella));
+    QVERIFY(ParameterRules::bytesRequested(p) < cells * sizeof(Cella) * 1.5);
+    const double once = ParameterRules::bytesRequested(p);
+    p.pages = 20;
+    QCOMPARE(ParameterRules::bytesRequested(p), once * 2);
 }
 
 QTEST_GUILESS_MAIN(tst_ParameterRules)

@@ -85,6 +85,20 @@ void BoxScript::expectBox(const QString &title, const QString &text, QMessageBox
     m_steps.push_back({QStringLiteral("box [%1] %2").arg(title, text), play});
 }
 
+void BoxScript::expectBox(const QString &title, QMessageBox::StandardButton answer,
+                          std::function<void(QMessageBox *)> look)
+{
+    const auto play = [=](QWidget *dialog) {
+        auto *box = qobject_cast<QMessageBox *>(dialog);
+        if (box == nullptr || box->windowTitle() != title) {
+            return QStringLiteral("is not the one expected");
+        }
+        look(box);
+        return press(box, answer);
+    };
+    m_steps.push_back({QStringLiteral("box [%1]").arg(title), play});
+}
+
 void BoxScript::expectFileDialog(const QString &caption, const QString &path)
 {
     expectFileDialog(caption, path, [](QWidget *) {});

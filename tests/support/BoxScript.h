@@ -33,6 +33,8 @@ public:
     // A message box of which `look` examines more: it is called before the answer is given.
     void expectBox(const QString &title, const QString &text, QMessageBox::StandardButton answer,
                    std::function<void(QMessageBox *)> look);
+    // As above, of a box whose text is not known beforehand.
+    void expectBox(const QString &title, QMessageBox::StandardButton answer, std::function<void(QMessageBox *)> look);
     // A file dialog with this caption; `path` is chosen, an empty one cancels.
     void expectFileDialog(const QString &caption, const QString &path);
     // As above; `look` is given the dialog first.
