@@ -1144,7 +1144,7 @@ void tst_Serata::killedAtAnyMomentTheEveningGoesOn()
         const Numbers found = e.saved();
         size_t next = 0;
         for (const quint32 number : found) { // some numbers reached the disk and no eye
-            next += next < shown.size() && shown[next] == number ? 1 : 0;
+            next += next < shown.size() && shown[next] == number ? 1U : 0U;
         }
         QCOMPARE(next, shown.size());
         QVERIFY(found.size() <= shown.size() + size_t(kills));
