@@ -1568,6 +1568,13 @@ Replace it?</translation>
     </message>
 </context>
 <context>
+    <name>PageTable</name>
+    <message>
+        <source>L&apos;immagine di base non può essere letta.</source>
+        <translation>The default picture cannot be read.</translation>
+    </message>
+</context>
+<context>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>

@@ -1568,6 +1568,13 @@ Le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>PageTable</name>
+    <message>
+        <source>L&apos;immagine di base non può essere letta.</source>
+        <translation>L&apos;image par défaut ne peut pas être lue.</translation>
+    </message>
+</context>
+<context>
     <name>ParameterRules</name>
     <message>
         <source>Non posso creare %1 celle piene con solo %2 numeri.</source>

@@ -129,9 +129,13 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
 void MainWindow::showContent(const TablePosition &place, bool asTyped)
 {
     QTableWidgetItem *item = m_table->item(place.row, place.column);
-    if (!asTyped) {
+    const Cella &cell = *cellAt(*shownPage(), place.row, place.column);
+    {
         const QScopedValueRollback<bool> guard(m_editGuard, true);
-        item->setText(cellText(*cellAt(*shownPage(), place.row, place.column), DefaultCell::text()));
+        item->setToolTip(cellTip(cell));
+        if (!asTyped) {
+            item->setText(cellText(cell, DefaultCell::text()));
+        }
     }
     if (item->isSelected()) {
         tableItemSelectionChanged();
@@ -217,6 +221,9 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
     Cella *cell = asked.page() != nullptr ? cellAt(*asked.page(), place.row, place.column) : nullptr;
     if (cell != nullptr && cell->tipo == CELL_IMMAGINE) {
         cell->immagine = image;
+        if (asked.page() == shownPage()) {
+            showContent(place, true);
+        }
         cardSetChanged();
         updateStatusBar(tr("Immagine impostata correttamente."));
     }

@@ -6,6 +6,7 @@
 #include "model/Types.h"
 
 #include <QBrush>
+#include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QTableWidgetItem>
@@ -13,6 +14,11 @@
 #include <algorithm>
 
 namespace {
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PageTable)
+};
+
 QTableWidgetItem fillerItem()
 {
     QTableWidgetItem filler(QStringLiteral("X"));
@@ -44,6 +50,10 @@ public:
         const QString text = cellText(cell, m_emptyText);
         if (!text.isEmpty()) {
             item->setText(text);
+        }
+        const QString tip = cellTip(cell);
+        if (!tip.isEmpty()) {
+            item->setToolTip(tip);
         }
         return item;
     }
@@ -77,6 +87,12 @@ QString cellText(const Cella &cell, const QString &emptyText)
         return QString();
     }
     qFatal("MainWindow::loadPagina() - CELL_VALUE type unknown ERROR!");
+}
+
+QString cellTip(const Cella &cell)
+{
+    const bool withoutPicture = cell.tipo == CELL_IMMAGINE && cell.immagine.isNull();
+    return withoutPicture ? Text::tr("L'immagine di base non può essere letta.") : QString();
 }
 
 std::optional<quint32> typedNumber(const QString &text)

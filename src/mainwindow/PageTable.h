@@ -12,6 +12,9 @@ class QTableWidget;
 // What the table shows for a cell; `emptyText` stands for a text cell without text. An unknown type stops the program.
 [[nodiscard]] QString cellText(const Cella &cell, const QString &emptyText);
 
+// What the tool tip of a cell says: why its picture will be missing; mostly empty.
+[[nodiscard]] QString cellTip(const Cella &cell);
+
 // The number that a text stands for: one to six decimal digits and nothing else.
 [[nodiscard]] std::optional<quint32> typedNumber(const QString &text);
 

@@ -21,6 +21,7 @@ const QString oneItemOnly =
     QStringLiteral("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE ONLY ONE ITEM SELECTED!!!");
 const QString imageCellOnly =
     QStringLiteral("MainWindow::on_buttSelezionaImmagine_clicked() REQUIRE A CELL-IMAGE TYPE!!!");
+const QString missingPicture = QStringLiteral("L'immagine di base non può essere letta.");
 const QString noFile = QStringLiteral("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");
 
 void answerQuestions(PageWindow &w, bool text, bool empty)
@@ -119,6 +120,8 @@ private slots:
     void aClickThatEndsTheEditingPressesAButton();
 
     void anImageIsChosen();
+    void aMissingPictureIsToldUntilThereIsOne();
+    void aMissingPictureIsToldUntilTheCellIsAnother();
     void theKindOfFilesIsRemembered();
     void aPresentImageIsAskedAbout();
     void noKeepsThePresentImage();
@@ -480,6 +483,33 @@ void tst_MainWindowCellEditing::anImageIsChosen()
     QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(20, 10));
     QCOMPARE(w.cell(0, 0, 0).immagine.pixelColor(3, 3), QColor(Qt::blue));
     QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+}
+
+void tst_MainWindowCellEditing::aMissingPictureIsToldUntilThereIsOne()
+{
+    PageWindow w;
+    showImageCell(w);
+    QCOMPARE(w.item(0, 0)->toolTip(), missingPicture);
+    w.boxes.expectFileDialog(openCaption, QDir::currentPath() + QStringLiteral("/default.png"));
+    w.boxes.expectBox(title, imageBox, QMessageBox::Yes);
+    w.press("buttSelezionaImmagine");
+    QCOMPARE(w.item(0, 0)->toolTip(), QString());
+    QCOMPARE(w.item(0, 0)->text(), QStringLiteral("IMG"));
+    QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+}
+
+void tst_MainWindowCellEditing::aMissingPictureIsToldUntilTheCellIsAnother()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    globalConfig->defaultCellImage = QStringLiteral("missing.png");
+    answerQuestions(w, false, false);
+    w.type(0, 0, QStringLiteral("abc"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_IMMAGINE);
+    QCOMPARE(w.item(0, 0)->toolTip(), missingPicture);
+    w.type(0, 0, QStringLiteral("7"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_NUMERO);
+    QCOMPARE(w.item(0, 0)->toolTip(), QString());
 }
 
 void tst_MainWindowCellEditing::theKindOfFilesIsRemembered()

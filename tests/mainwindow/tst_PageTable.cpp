@@ -49,6 +49,7 @@ private slots:
     void textIsReadableOnItsBackground();
     void itemsShowTextColoursAndAlignmentOfTheirCells();
     void itemsOfEqualLookDoNotShareChanges();
+    void aMissingPictureIsToldInTheToolTip();
     void shorterRowsAreFilledUpWithGreyItems();
     void aPageWithoutRowsGivesAnEmptyTable();
     void nothingIsToldWhileTheTableIsFilled();
@@ -168,6 +169,22 @@ void tst_PageTable::itemsOfEqualLookDoNotShareChanges()
     table.item(0, 0)->setBackground(QColor(Qt::green));
     QCOMPARE(table.item(0, 1)->text(), QString());
     QCOMPARE(table.item(0, 1)->background().color(), QColor(Qt::white));
+}
+
+void tst_PageTable::aMissingPictureIsToldInTheToolTip()
+{
+    const auto page = pageOfBlocks({1});
+    cellAt(*page, 0, 0)->tipo = CELL_IMMAGINE;
+    cellAt(*page, 0, 1)->tipo = CELL_IMMAGINE;
+    cellAt(*page, 0, 1)->immagine = QImage(2, 2, QImage::Format_RGB32);
+    cellAt(*page, 0, 2)->tipo = CELL_NUMERO;
+    QTableWidget table;
+    fillTable(&table, *page, 4, QString());
+    QCOMPARE(table.item(0, 0)->text(), QStringLiteral("IMG"));
+    QCOMPARE(table.item(0, 0)->toolTip(), QStringLiteral("L'immagine di base non può essere letta."));
+    for (const int column : {1, 2, 3}) {
+        QCOMPARE(table.item(0, column)->toolTip(), QString());
+    }
 }
 
 void tst_PageTable::shorterRowsAreFilledUpWithGreyItems()
