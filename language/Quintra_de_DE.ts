@@ -467,6 +467,12 @@ Pagine: %1</source>
         <translation>Seiten mit zu vielen Feldern kommen nicht vollständig aus der Datei zurück.
 Seiten: %1</translation>
     </message>
+    <message>
+        <source>Le pagine totali richieste (%1)
+eccedono il massimo consentito (%2).</source>
+        <translation>Die gewünschte Gesamtzahl der Seiten (%1)
+übersteigt das erlaubte Maximum (%2).</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

@@ -467,6 +467,12 @@ Pagine: %1</source>
         <translation>Pages with too many cells will not come back whole from the file.
 Pages: %1</translation>
     </message>
+    <message>
+        <source>Le pagine totali richieste (%1)
+eccedono il massimo consentito (%2).</source>
+        <translation>The total number of pages requested (%1)
+exceeds the maximum allowed (%2).</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

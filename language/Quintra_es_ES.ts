@@ -467,6 +467,12 @@ Pagine: %1</source>
         <translation>Las páginas con demasiadas casillas no se recuperarán completas del archivo.
 Páginas: %1</translation>
     </message>
+    <message>
+        <source>Le pagine totali richieste (%1)
+eccedono il massimo consentito (%2).</source>
+        <translation>El total de páginas solicitadas (%1)
+supera el máximo permitido (%2).</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

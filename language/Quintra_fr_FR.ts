@@ -467,6 +467,12 @@ Pagine: %1</source>
         <translation>Les pages qui ont trop de cases ne seront pas relues entières depuis le fichier.
 Pages&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Le pagine totali richieste (%1)
+eccedono il massimo consentito (%2).</source>
+        <translation>Le nombre total de pages demandé (%1)
+dépasse le maximum autorisé (%2).</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

@@ -467,6 +467,12 @@ Pagine: %1</source>
         <translation>Le pagine con troppe celle non saranno rilette intere dal file.
 Pagine: %1</translation>
     </message>
+    <message>
+        <source>Le pagine totali richieste (%1)
+eccedono il massimo consentito (%2).</source>
+        <translation>Le pagine totali richieste (%1)
+eccedono il massimo consentito (%2).</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

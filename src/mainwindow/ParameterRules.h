@@ -36,7 +36,6 @@ struct Result
     QString message; // of an error or a warning, translated
 };
 
-constexpr int maxPages = 65535;        // of a card set
 constexpr quint64 maxCells = 10000000; // above it the user is warned
 
 // The first rule that is broken decides.

@@ -8,6 +8,9 @@ using U8 = quint8;
 // Counts and indices of pages: at most 65535.
 using U16 = quint16;
 
+// Of a card set.
+constexpr int maxPages = 65535;
+
 // The highest number that the parameters allow and that is read as a number when it is typed into a cell.
 constexpr quint32 highestNumber = 999999;
 

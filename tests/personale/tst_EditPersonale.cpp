@@ -34,6 +34,14 @@ private:
     QWidget *m_window; // not owned
     QVector<int> m_shapes;
 };
+
+// Appends pages of one empty cell.
+void growTo(Cartella &set, int pages)
+{
+    while (set.getNumPages() < pages) {
+        QVERIFY(set.generateBlock(1, 1, 1));
+    }
+}
 } // namespace
 
 class tst_EditPersonale final : public QObject
@@ -91,6 +99,9 @@ private slots:
     void creatingAddsThePagesAndShowsTheNumbers();
     void theMenuCreatesToo();
     void aFailedCreationTellsWhy();
+    void aSetThatWouldGrowTooLargeIsRefused_data();
+    void aSetThatWouldGrowTooLargeIsRefused();
+    void theLargestSetIsReached();
     void warningsOfASuccessAreNotShown();
     void anImpossibleOtherPageGetsZeros();
 
@@ -755,6 +766,39 @@ void tst_EditPersonale::aFailedCreationTellsWhy()
         QMessageBox::Ok, QMessageBox::Warning);
     t.click("creapagineButton");
     QCOMPARE(t.cartella.getNumPages(), 1); // added before the failure
+}
+
+void tst_EditPersonale::aSetThatWouldGrowTooLargeIsRefused_data()
+{
+    QTest::addColumn<int>("present");
+    QTest::addColumn<QString>("total");
+    QTest::newRow("by one") << 65533 << QStringLiteral("65536");
+    QTest::newRow("a full set") << 65535 << QStringLiteral("65538");
+}
+
+void tst_EditPersonale::aSetThatWouldGrowTooLargeIsRefused()
+{
+    QFETCH(int, present);
+    QFETCH(QString, total);
+    EditorUnderTest t(1, 1, 3);
+    growTo(t.cartella, present);
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Errore durante la creazione delle pagine!\n\nLe pagine totali richieste "
+                                     "(%1)\neccedono il massimo consentito (65535).")
+                          .arg(total),
+                      QMessageBox::Ok, QMessageBox::Warning);
+    t.click("creapagineButton");
+    QCOMPARE(t.cartella.getNumPages(), present); // not one was added
+    QVERIFY(t.canCreate());
+}
+
+void tst_EditPersonale::theLargestSetIsReached()
+{
+    EditorUnderTest t(1, 1, 3);
+    growTo(t.cartella, 65532);
+    t.expectCreated();
+    t.trigger("actionCreaPagine");
+    QCOMPARE(t.cartella.getNumPages(), 65535);
 }
 
 void tst_EditPersonale::warningsOfASuccessAreNotShown()
