@@ -468,6 +468,14 @@ Pagine: %1</source>
 Seiten: %1</translation>
     </message>
     <message>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Die angekreuzten und die verfügbaren Zahlen. Auf einer anderen Seite wird weitergezählt, bis ein Typ geändert oder eine Belegung kopiert wird.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Numeri: %1 di %2</source>
+        <translation>Zahlen: %1 von %2</translation>
+    </message>
+    <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
         <translation>Die gewünschte Gesamtzahl der Seiten (%1)

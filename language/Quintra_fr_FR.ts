@@ -468,6 +468,18 @@ Pagine: %1</source>
 Pages&#xa0;: %1</translation>
     </message>
     <message>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Les numéros cochés et ceux qui sont disponibles. Sur une autre page, le compte continue à partir du précédent, jusqu&apos;à ce qu&apos;un type soit changé ou une disposition copiée.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Un clic o la barra spaziatrice mette o toglie la spunta; trascinando il mouse con il tasto sinistro premuto si spuntano le celle attraversate.&lt;/p&gt;&lt;p&gt;Il tasto destro del mouse o il tasto T passa al tipo successivo, tranne che nelle pagine lette da un file.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Un clic ou la barre d&apos;espace coche ou décoche une case&#xa0;; en glissant avec le bouton gauche de la souris, on coche les cases traversées.&lt;/p&gt;&lt;p&gt;Le bouton droit de la souris ou la touche T passe au type suivant, sauf sur les pages lues dans un fichier.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Numeri: %1 di %2</source>
+        <translation>Numéros&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
         <source>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</source>
         <translation>Le nombre total de pages demandé (%1)

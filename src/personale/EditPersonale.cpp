@@ -202,6 +202,7 @@ void EditPersonale::recountNumbers()
 // Runs for every single tick: the icon is only loaded when the verdict changes.
 void EditPersonale::checkSettings()
 {
+    ui->numeri_text->setText(tr("Numeri: %1 di %2").arg(m_tickedNumbers).arg(m_available));
     const Verdict verdict = m_tickedNumbers <= m_available ? Verdict::Correct : Verdict::Warning;
     if (verdict == Verdict::Warning) {
         showReason(tr("I numeri da generare (%1) sono maggiori di quelli disponibili (%2).")

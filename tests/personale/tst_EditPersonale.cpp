@@ -86,6 +86,8 @@ private slots:
     void tooManyNumbersForbidTheCreation();
     void textCellsAreNotCounted();
     void theCountIsKeptWhenThePageIsSwitched();
+    void theCountIsShownWhileDrawing();
+    void theCountShownIsKeptWhenThePageIsSwitched();
     void ticksOutsideThePageAreNotCounted();
 
     void theCopyRangeIsClamped();
@@ -584,6 +586,39 @@ void tst_EditPersonale::theCountIsKeptWhenThePageIsSwitched()
     QVERIFY(t.canCreate());
     t.showPage(1);
     QVERIFY(t.canCreate());
+}
+
+void tst_EditPersonale::theCountIsShownWhileDrawing()
+{
+    EditorUnderTest t(1, 3, 1, 11, 12);
+    const auto *count = t.find<QLabel>("numeri_text");
+    QVERIFY(count->isVisible());
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 0 di 2"));
+    t.tick(0, 0, CELL_NUMERO);
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 1 di 2"));
+    t.tick(0, 1, CELL_TESTO);
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 1 di 2"));
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 3 di 2"));
+    t.click("svuotaButton");
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 0 di 2"));
+    t.open("!Nn\n#NNNooo\n");
+    QCOMPARE(count->text(), QStringLiteral("Numeri: %1 di 2").arg(t.drawn().count(QLatin1Char('N'))));
+}
+
+void tst_EditPersonale::theCountShownIsKeptWhenThePageIsSwitched()
+{
+    EditorUnderTest t(1, 3, 2, 1, 90);
+    t.tick(0, 0, CELL_NUMERO);
+    t.showPage(2);
+    const auto *count = t.find<QLabel>("numeri_text");
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 1 di 90"));
+    t.tick(0, 0, CELL_NUMERO);
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 2 di 90"));
+    QTest::mouseClick(t.box(0, 1), Qt::RightButton); // counts anew
+    QCOMPARE(count->text(), QStringLiteral("Numeri: 1 di 90"));
 }
 
 void tst_EditPersonale::ticksOutsideThePageAreNotCounted()
