@@ -472,6 +472,10 @@ Seiten: %1</translation>
         <translation>&lt;p&gt;Die angekreuzten und die verfügbaren Zahlen. Auf einer anderen Seite wird weitergezählt, bis ein Typ geändert oder eine Belegung kopiert wird.&lt;/p&gt;</translation>
     </message>
     <message>
+        <source>&lt;p&gt;Un clic o la barra spaziatrice mette o toglie la spunta; trascinando il mouse con il tasto sinistro premuto si spuntano le celle attraversate.&lt;/p&gt;&lt;p&gt;Il tasto destro del mouse o il tasto T passa al tipo successivo, tranne che nelle pagine lette da un file.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Ein Klick oder die Leertaste kreuzt ein Feld an oder entfernt das Kreuz; beim Ziehen mit der linken Maustaste werden die überstrichenen Felder angekreuzt.&lt;/p&gt;&lt;p&gt;Die rechte Maustaste oder die Taste T wechselt zum nächsten Typ, außer auf Seiten, die aus einer Datei gelesen wurden.&lt;/p&gt;</translation>
+    </message>
+    <message>
         <source>Numeri: %1 di %2</source>
         <translation>Zahlen: %1 von %2</translation>
     </message>

@@ -472,6 +472,10 @@ Pages: %1</translation>
         <translation>&lt;p&gt;The numbers ticked, and those available. On another page the count goes on from the one before, until a type is changed or a layout is copied.&lt;/p&gt;</translation>
     </message>
     <message>
+        <source>&lt;p&gt;Un clic o la barra spaziatrice mette o toglie la spunta; trascinando il mouse con il tasto sinistro premuto si spuntano le celle attraversate.&lt;/p&gt;&lt;p&gt;Il tasto destro del mouse o il tasto T passa al tipo successivo, tranne che nelle pagine lette da un file.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;A click or the space bar ticks or unticks a cell; dragging with the left mouse button ticks the cells on the way.&lt;/p&gt;&lt;p&gt;The right mouse button or the T key changes to the next type, except on pages read from a file.&lt;/p&gt;</translation>
+    </message>
+    <message>
         <source>Numeri: %1 di %2</source>
         <translation>Numbers: %1 of %2</translation>
     </message>

@@ -472,6 +472,10 @@ Páginas: %1</translation>
         <translation>&lt;p&gt;Los números marcados y los disponibles. Al cambiar de página la cuenta sigue desde la anterior, hasta que se cambia un tipo o se copia un diseño.&lt;/p&gt;</translation>
     </message>
     <message>
+        <source>&lt;p&gt;Un clic o la barra spaziatrice mette o toglie la spunta; trascinando il mouse con il tasto sinistro premuto si spuntano le celle attraversate.&lt;/p&gt;&lt;p&gt;Il tasto destro del mouse o il tasto T passa al tipo successivo, tranne che nelle pagine lette da un file.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Un clic o la barra espaciadora marca o desmarca una casilla; al arrastrar con el botón izquierdo del ratón se marcan las casillas por las que se pasa.&lt;/p&gt;&lt;p&gt;El botón derecho del ratón o la tecla T pasa al tipo siguiente, salvo en las páginas leídas de un archivo.&lt;/p&gt;</translation>
+    </message>
+    <message>
         <source>Numeri: %1 di %2</source>
         <translation>Números: %1 de %2</translation>
     </message>

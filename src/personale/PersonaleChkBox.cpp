@@ -127,7 +127,45 @@ void PersonaleChkBox::mousePressEvent(QMouseEvent *event)
         emit rclicked(riga, colonna);
         return;
     }
+    m_dragging = false;
+    m_pointer = mapToParent(event->pos());
     QCheckBox::mousePressEvent(event);
+}
+
+// On one cell the left button is that of a plain check box.
+void PersonaleChkBox::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isDown() && event->buttons().testFlag(Qt::LeftButton) && !rect().contains(event->pos())) {
+        m_dragging = true;
+        setDown(false); // the release does not click any more
+    }
+    if (!m_dragging) {
+        QCheckBox::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint pointer = mapToParent(event->pos());
+    tickOnTheWay(m_pointer, pointer);
+    m_pointer = pointer;
+}
+
+void PersonaleChkBox::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_dragging = m_dragging && event->button() != Qt::LeftButton;
+    QCheckBox::mouseReleaseEvent(event);
+}
+
+// A quick mouse tells of few points: those between them count as well. Cells scrolled out of sight do not.
+void PersonaleChkBox::tickOnTheWay(const QPoint &from, const QPoint &to)
+{
+    const QWidget *page = parentWidget();
+    const int steps = 1 + (to - from).manhattanLength() / qMax(1, qMin(width(), height()) / 2);
+    for (int step = 0; page != nullptr && step <= steps; ++step) {
+        const QPoint point = from + (to - from) * step / steps;
+        auto *box = qobject_cast<PersonaleChkBox *>(page->childAt(point));
+        if (box != nullptr && box->visibleRegion().contains(box->mapFromParent(point))) {
+            box->setChecked(true);
+        }
+    }
 }
 
 void PersonaleChkBox::keyPressEvent(QKeyEvent *event)
@@ -141,9 +179,16 @@ void PersonaleChkBox::keyPressEvent(QKeyEvent *event)
         return moveFocus(0, -1);
     case Qt::Key_Right:
         return moveFocus(0, 1);
+    case Qt::Key_T:
+        if (event->modifiers() == Qt::NoModifier && !event->isAutoRepeat()) {
+            emit rclicked(riga, colonna);
+            return;
+        }
+        break;
     default:
-        QCheckBox::keyPressEvent(event);
+        break;
     }
+    QCheckBox::keyPressEvent(event);
 }
 
 // At an edge of the grid the focus stays.

@@ -6,7 +6,8 @@
 #include <QCheckBox>
 
 // One cell of a hand-drawn page: the tick says whether it is filled, `tipo` with what. Its colour and the first letter
-// of its type show at a glance what it is; arrow keys move to the neighbours of the grid that holds it.
+// of its type show at a glance what it is. In the grid that holds it arrow keys move to the neighbours, and the left
+// button, once it has left the cell it was pressed on, ticks the cells that it is drawn over.
 class PersonaleChkBox final : public QCheckBox
 {
     Q_OBJECT
@@ -33,6 +34,7 @@ public:
 signals:
     // Every change of the tick, by the user or by program.
     void schecked(U8 riga, U8 colonna, bool checked);
+    // A right click, or the key T.
     void rclicked(U8 riga, U8 colonna);
 
 public slots:
@@ -40,6 +42,8 @@ public slots:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     // The whole cell can be clicked.
@@ -48,4 +52,8 @@ protected:
 private:
     static QString typeName(CELL_VALUE value);
     void moveFocus(int rows, int columns);
+    void tickOnTheWay(const QPoint &from, const QPoint &to);
+
+    bool m_dragging = false; // with the left button, since it has left the cell
+    QPoint m_pointer;        // where it was last with the left button down, in the parent's coordinates
 };

@@ -80,6 +80,10 @@ private slots:
     void withoutAChosenTypeCellsBecomeEmpty();
 
     void rightClicksCycleTheType();
+    void theKeyTCyclesTheType();
+    void theKeyTDoesNothingOnPagesOfAFile();
+    void aDragTicksCells();
+    void theWhatsThisNamesTheKey();
     void anUnknownTypeBecomesEmptyByRightClick();
     void anUnknownTypeStopsACopy();
 
@@ -512,6 +516,56 @@ void tst_EditPersonale::rightClicksCycleTheType()
         QCOMPARE(t.status(), QStringLiteral("Tipo cambiato in: ") + names[i]);
         QCOMPARE(t.box(0, 1)->statusTip().toLower(), names[i]);
     }
+}
+
+void tst_EditPersonale::theKeyTCyclesTheType()
+{
+    EditorUnderTest t(1, 2);
+    t.box(0, 1)->setChecked(true);
+    t.box(0, 1)->setFocus();
+    const QStringList drawn{QStringLiteral("oN"), QStringLiteral("oS"), QStringLiteral("oI"), QStringLiteral("oO")};
+    const QStringList names{QStringLiteral("numero"), QStringLiteral("testo"), QStringLiteral("immagine"),
+                            QStringLiteral("vuota")};
+    for (int i = 0; i < 4; ++i) {
+        QTest::keyClick(t.box(0, 1), Qt::Key_T);
+        QCOMPARE(t.drawn(), drawn[i]);
+        QCOMPARE(t.status(), QStringLiteral("Tipo cambiato in: %1").arg(names[i]));
+    }
+}
+
+void tst_EditPersonale::theKeyTDoesNothingOnPagesOfAFile()
+{
+    EditorUnderTest t;
+    t.open("!Nn\n");
+    const QString drawn = t.drawn();
+    const QString status = t.status();
+    QVERIFY(!drawn.isEmpty());
+    QTest::keyClick(t.box(0, 0), Qt::Key_T);
+    QTest::mouseClick(t.box(0, 0), Qt::RightButton);
+    QCOMPARE(t.drawn(), drawn);
+    QCOMPARE(t.status(), status);
+}
+
+void tst_EditPersonale::aDragTicksCells()
+{
+    EditorUnderTest t(3, 9);
+    QVERIFY(QTest::qWaitForWindowExposed(t.editor));
+    const auto centre = [&t](int row, int column) {
+        return t.box(row, column)->mapTo(t.editor, t.box(row, column)->rect().center());
+    };
+    QWindow *window = t.editor->windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, centre(1, 2));
+    QTest::mouseMove(window, centre(1, 5));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, centre(1, 5));
+    QCOMPARE(t.drawn(), QStringLiteral("ooooooooo ooOOOOooo ooooooooo"));
+}
+
+void tst_EditPersonale::theWhatsThisNamesTheKey()
+{
+    EditorUnderTest t(1, 1);
+    QVERIFY(t.box(0, 0)->parentWidget()->whatsThis().contains(QStringLiteral("il tasto T passa al tipo successivo")));
+    QCOMPARE(t.box(0, 0)->toolTip(), QStringLiteral("1,1"));
+    QCOMPARE(t.box(0, 0)->statusTip(), QStringLiteral("Vuota"));
 }
 
 void tst_EditPersonale::anUnknownTypeBecomesEmptyByRightClick()

@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QMouseEvent>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -44,6 +45,26 @@ struct Grid
     }
     Q_DISABLE_COPY_MOVE(Grid)
     PersonaleChkBox &at(size_t row, size_t column) { return boxes[row * 4 + column]; }
+    QPoint centre(size_t row, size_t column) { return at(row, column).geometry().center(); }
+    void press(const QPoint &where, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mousePress(window.windowHandle(), button, Qt::NoModifier, where);
+    }
+    void moveTo(const QPoint &where) const { QTest::mouseMove(window.windowHandle(), where); }
+    void release(const QPoint &where, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mouseRelease(window.windowHandle(), button, Qt::NoModifier, where);
+    }
+    // An x for a tick, rows separated by a blank.
+    QString ticks() const
+    {
+        QString text;
+        for (size_t i = 0; i < 12; ++i) {
+            text += QLatin1String(i > 0 && i % 4 == 0 ? " " : "");
+            text += QLatin1Char(boxes[i].isChecked() ? 'x' : '-');
+        }
+        return text;
+    }
 
     QWidget window;
     QGridLayout *layout;
@@ -87,6 +108,16 @@ private slots:
     void arrowsMoveToTheNeighbours();
     void arrowsStayAtTheEdges();
     void spaceTicks();
+    void theKeyTIsARightClick();
+    void otherKeysAreNoRightClick();
+    void aDragTicksTheCellsOnItsWay();
+    void aDragIsReportedByEveryCellItTicks();
+    void aDragUnticksNothing();
+    void aMouseThatStaysOnItsCellClicks();
+    void aDragThatComesBackClicksNothing();
+    void onlyTheLeftButtonDrags();
+    void cellsOutOfSightAreNotDraggedOver();
+    void theNextClickAfterADragIsAClick();
     void typeAndTickAreSeen_data();
     void typeAndTickAreSeen();
     void aNumberIsPaintedAsItsText();
@@ -257,6 +288,146 @@ void tst_PersonaleChkBox::spaceTicks()
     grid.at(1, 1).setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     QVERIFY(grid.at(1, 1).isChecked());
+}
+
+void tst_PersonaleChkBox::theKeyTIsARightClick()
+{
+    for (const bool ticked : {true, false}) {
+        Grid grid;
+        grid.at(1, 2).setChecked(ticked);
+        grid.at(1, 2).setFocus();
+        const QSignalSpy clicks(&grid.at(1, 2), &PersonaleChkBox::rclicked);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_T);
+        QCOMPARE(clicks.size(), 1);
+        QCOMPARE(clicks[0][0].value<U8>(), U8(1));
+        QCOMPARE(clicks[0][1].value<U8>(), U8(2));
+        QCOMPARE(grid.at(1, 2).isChecked(), ticked);
+    }
+}
+
+void tst_PersonaleChkBox::otherKeysAreNoRightClick()
+{
+    PersonaleChkBox box;
+    const QSignalSpy clicks(&box, &PersonaleChkBox::rclicked);
+    QTest::keyClick(&box, Qt::Key_R);
+    QTest::keyClick(&box, Qt::Key_Space);
+    QTest::keyClick(&box, Qt::Key_T, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_T, Qt::AltModifier);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_T, Qt::NoModifier, QStringLiteral("t"), true);
+    QCoreApplication::sendEvent(&box, &held);
+    QCOMPARE(clicks.size(), 0);
+}
+
+void tst_PersonaleChkBox::aDragTicksTheCellsOnItsWay()
+{
+    Grid grid;
+    grid.press(grid.centre(0, 0));
+    QCOMPARE(grid.ticks(), QStringLiteral("---- ---- ----"));
+    grid.moveTo(grid.centre(0, 3)); // at once: the mouse is quick
+    QCOMPARE(grid.ticks(), QStringLiteral("xxxx ---- ----"));
+    grid.moveTo(grid.centre(2, 3));
+    grid.release(grid.centre(2, 3));
+    QCOMPARE(grid.ticks(), QStringLiteral("xxxx ---x ---x"));
+    grid.moveTo(grid.centre(2, 0));
+    QCOMPARE(grid.ticks(), QStringLiteral("xxxx ---x ---x"));
+}
+
+void tst_PersonaleChkBox::aDragIsReportedByEveryCellItTicks()
+{
+    Grid grid;
+    grid.at(1, 1).setChecked(true);
+    const QSignalSpy first(&grid.at(1, 0), &PersonaleChkBox::schecked);
+    const QSignalSpy ticked(&grid.at(1, 1), &PersonaleChkBox::schecked);
+    const QSignalSpy last(&grid.at(1, 2), &PersonaleChkBox::schecked);
+    grid.press(grid.centre(1, 0));
+    grid.moveTo(grid.centre(1, 2));
+    grid.moveTo(grid.centre(1, 0));
+    grid.release(grid.centre(1, 0));
+    QCOMPARE(first.size(), 1);
+    QCOMPARE(ticked.size(), 0);
+    QCOMPARE(last.size(), 1);
+    QCOMPARE(last[0][1].value<U8>(), U8(2));
+    QVERIFY(last[0][2].toBool());
+}
+
+void tst_PersonaleChkBox::aDragUnticksNothing()
+{
+    Grid grid;
+    grid.at(0, 0).setChecked(true);
+    grid.at(0, 1).setChecked(true);
+    grid.press(grid.centre(0, 0));
+    grid.moveTo(grid.centre(0, 2));
+    grid.release(grid.centre(0, 2));
+    QCOMPARE(grid.ticks(), QStringLiteral("xxx- ---- ----"));
+}
+
+void tst_PersonaleChkBox::aMouseThatStaysOnItsCellClicks()
+{
+    Grid grid;
+    const QRect cell = grid.at(1, 1).geometry();
+    for (const QString &expected : {QStringLiteral("---- -x-- ----"), QStringLiteral("---- ---- ----")}) {
+        grid.press(cell.center());
+        grid.moveTo(cell.topLeft());
+        grid.moveTo(cell.bottomRight());
+        grid.release(cell.bottomRight());
+        QCOMPARE(grid.ticks(), expected);
+    }
+}
+
+void tst_PersonaleChkBox::aDragThatComesBackClicksNothing()
+{
+    Grid grid;
+    grid.press(grid.centre(0, 0));
+    grid.moveTo(grid.centre(0, 1));
+    grid.moveTo(grid.centre(0, 0));
+    QVERIFY(!grid.at(0, 0).isDown());
+    grid.release(grid.centre(0, 0));
+    QCOMPARE(grid.ticks(), QStringLiteral("xx-- ---- ----"));
+}
+
+void tst_PersonaleChkBox::onlyTheLeftButtonDrags()
+{
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        Grid grid;
+        grid.press(grid.centre(0, 0), button);
+        grid.moveTo(grid.centre(0, 2));
+        grid.release(grid.centre(0, 2), button);
+        QCOMPARE(grid.ticks(), QStringLiteral("---- ---- ----"));
+    }
+}
+
+void tst_PersonaleChkBox::cellsOutOfSightAreNotDraggedOver()
+{
+    QScrollArea area;
+    auto *page = new QWidget;
+    const auto boxes = std::make_unique<PersonaleChkBox[]>(2);
+    for (size_t i = 0; i < 2; ++i) {
+        boxes[i].setParent(page);
+        boxes[i].setGeometry(0, static_cast<int>(i) * 300, 60, 30);
+    }
+    page->resize(60, 330);
+    area.setWidget(page);
+    area.resize(100, 100);
+    area.show();
+    const QPoint start = boxes[0].mapTo(&area, QPoint(5, 5));
+    QTest::mousePress(area.windowHandle(), Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(area.windowHandle(), start + QPoint(0, 300));
+    QTest::mouseRelease(area.windowHandle(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 300));
+    QVERIFY(boxes[0].isChecked());
+    QVERIFY(!boxes[1].isChecked());
+    boxes[0].setParent(nullptr);
+    boxes[1].setParent(nullptr);
+}
+
+void tst_PersonaleChkBox::theNextClickAfterADragIsAClick()
+{
+    Grid grid;
+    grid.press(grid.centre(0, 0));
+    grid.moveTo(grid.centre(0, 1));
+    grid.release(grid.centre(0, 1));
+    QTest::mouseClick(&grid.at(0, 0), Qt::LeftButton);
+    grid.moveTo(grid.centre(2, 2));
+    QCOMPARE(grid.ticks(), QStringLiteral("-x-- ---- ----"));
 }
 
 void tst_PersonaleChkBox::typeAndTickAreSeen_data()
