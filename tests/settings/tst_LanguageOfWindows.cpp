@@ -121,7 +121,7 @@ bool isToolkitsOwn(const QWidget *widget)
 // The text is none of the translation file: it is put together from one and numbers.
 bool holdsNumbers(const QWidget *widget)
 {
-    return widget->objectName() == QLatin1String("label_nuova");
+    return widget->objectName() == QLatin1String("label_nuova") || widget->objectName() == QLatin1String("numeri_text");
 }
 
 QString textOf(const QWidget *widget)
