@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <ctime>
 #include <map>
@@ -83,24 +84,41 @@ private:
 
 bool within(const Announced &ratio, double value)
 {
-    return ratio.bound == Ratio::Bound::AtMost ? value <= ratio.limit : value >= ratio.limit;
+    switch (ratio.bound) {
+    case Ratio::Bound::AtMost:
+        return value <= ratio.limit;
+    case Ratio::Bound::AtLeast:
+        return value >= ratio.limit;
+    case Ratio::Bound::None:
+        break;
+    }
+    return true;
+}
+
+std::string limitText(const Announced &ratio)
+{
+    if (ratio.bound == Ratio::Bound::None) {
+        return "-";
+    }
+    std::array<char, 40> text{};
+    std::snprintf(text.data(), text.size(), "%s %.4g", ratio.bound == Ratio::Bound::AtMost ? "<=" : ">=", ratio.limit);
+    return text.data();
 }
 
 // Whether one repetition at least was within the bound.
 bool print(const Announced &ratio, const std::vector<double> &sorted)
 {
-    const char *sign = ratio.bound == Ratio::Bound::AtMost ? "<=" : ">=";
     if (sorted.empty()) {
-        std::printf("%-66s %32s %2s %8.4g\n", ratio.what.c_str(), "not run", sign, ratio.limit);
+        std::printf("%-66s %9s %22s %9s\n", ratio.what.c_str(), "not run", "", limitText(ratio).c_str());
         return true;
     }
     const double median = sorted[sorted.size() / 2];
     const bool reached = within(ratio, sorted.front()) || within(ratio, sorted.back());
-    std::printf("%-66s %9.4g %10.4g -%10.4g %2s %8.4g%s\n", ratio.what.c_str(), median, sorted.front(), sorted.back(),
-                sign, ratio.limit,
-                !reached                ? " NOT REACHED"
+    std::printf("%-66s %9.4g %10.4g -%10.4g %9s %s\n", ratio.what.c_str(), median, sorted.front(), sorted.back(),
+                limitText(ratio).c_str(),
+                !reached                ? "NOT REACHED"
                 : within(ratio, median) ? ""
-                                        : " at the edge");
+                                        : "at the edge");
     return reached;
 }
 } // namespace
@@ -147,7 +165,7 @@ int runBenchmarksAndPrintRatios()
     KeepingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
-    std::printf("\n%-66s %9s %22s %11s\n", "ratio", "median", "spread", "to reach");
+    std::printf("\n%-66s %9s %22s %9s\n", "ratio", "median", "spread", "to reach");
     bool allReached = true;
     for (const Announced &ratio : announced()) {
         allReached = print(ratio, reporter.sortedRatios(ratio.what)) && allReached;

@@ -24,7 +24,7 @@ Quantity constant(double value);
 // A file of benchmarks announces its ratios before main() by static objects.
 struct Ratio
 {
-    enum class Bound { AtMost, AtLeast };
+    enum class Bound { AtMost, AtLeast, None };
 
     Ratio(const char *what, Quantity measured, Quantity baseline, Bound bound, double limit, int repetitions = 9);
 };
