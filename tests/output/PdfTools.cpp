@@ -30,6 +30,11 @@ QRegularExpressionMatch infoLine(const QString &file, const QString &pattern)
     return line.match(textOf("pdfinfo", {file}));
 }
 
+QStringList wordsOf(const QString &text)
+{
+    return text.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+}
+
 QString number(int value)
 {
     return QString::number(value);
@@ -69,7 +74,12 @@ QString PdfTools::text(const QString &file)
 
 QStringList PdfTools::words(const QString &file)
 {
-    return text(file).split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    return wordsOf(text(file));
+}
+
+QStringList PdfTools::wordsAsWritten(const QString &file)
+{
+    return wordsOf(textOf("pdftotext", {QStringLiteral("-raw"), file, QStringLiteral("-")}));
 }
 
 bool PdfTools::PlacedWord::operator==(const PlacedWord &other) const

@@ -21,6 +21,8 @@ bool isSound(const QString &file);
 QString text(const QString &file);
 // The words of text().
 QStringList words(const QString &file);
+// The same words in the order in which the file writes them.
+QStringList wordsAsWritten(const QString &file);
 // A word and the box it stands in, in points from the upper left corner of its page.
 struct PlacedWord
 {
