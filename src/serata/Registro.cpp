@@ -25,7 +25,7 @@ constexpr int escapedDigits = 4; // hexadecimal, after \u
 constexpr int hexadecimal = 16;
 constexpr size_t longestCell = 11;     // bytes of a number of 32 bits and a separator
 constexpr size_t longestCharacter = 6; // bytes of an escaped one
-constexpr int longestLine = 1 << 22;   // bytes: far more than 255 rows of 255 cells need
+constexpr int longestLine = 1 << 20;   // bytes: more than 255 rows of 255 cells need
 constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
 constexpr size_t mostEntriesDescribed = 500;
 
