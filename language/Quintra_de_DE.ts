@@ -2000,5 +2000,9 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und dieser wird beiseitegelegt.</
         <source>&amp;Visualizza</source>
         <translation>&amp;Ansicht</translation>
     </message>
+    <message>
+        <source>Righe illeggibili nel file delle chiamate: %1!</source>
+        <translation>Unlesbare Zeilen in der Datei der Züge: %1!</translation>
+    </message>
 </context>
 </TS>

@@ -2000,5 +2000,9 @@ Continue that one? With No a new one begins, and that one is put aside.</transla
         <source>&amp;Visualizza</source>
         <translation>&amp;View</translation>
     </message>
+    <message>
+        <source>Righe illeggibili nel file delle chiamate: %1!</source>
+        <translation>Unreadable lines in the file of the calls: %1!</translation>
+    </message>
 </context>
 </TS>

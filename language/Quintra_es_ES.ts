@@ -2000,5 +2000,9 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
         <source>&amp;Visualizza</source>
         <translation>&amp;Ver</translation>
     </message>
+    <message>
+        <source>Righe illeggibili nel file delle chiamate: %1!</source>
+        <translation>Líneas ilegibles en el archivo de bolas: %1!</translation>
+    </message>
 </context>
 </TS>

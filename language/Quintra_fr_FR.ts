@@ -2000,5 +2000,9 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et celle-là est mise
         <source>&amp;Visualizza</source>
         <translation>Affic&amp;hage</translation>
     </message>
+    <message>
+        <source>Righe illeggibili nel file delle chiamate: %1!</source>
+        <translation>Lignes illisibles dans le fichier des tirages : %1 !</translation>
+    </message>
 </context>
 </TS>

@@ -2000,5 +2000,9 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
         <source>&amp;Visualizza</source>
         <translation>&amp;Visualizza</translation>
     </message>
+    <message>
+        <source>Righe illeggibili nel file delle chiamate: %1!</source>
+        <translation>Righe illeggibili nel file delle chiamate: %1!</translation>
+    </message>
 </context>
 </TS>

@@ -172,6 +172,7 @@ void Serata::resizeEvent(QResizeEvent *event)
     QMainWindow::resizeEvent(event);
     setFontSize(ui->ultimo_label, height() / lastNumberPart);
     setFontSize(ui->precedenti_label, height() / numbersBeforePart);
+    ui->ultimo_label->setMinimumHeight(ui->ultimo_label->fontMetrics().height()); // also without a number
 }
 
 void Serata::startGame()
@@ -276,7 +277,7 @@ void Serata::showCalls()
 {
     const Partita &partita = m_serata->partita();
     const std::vector<quint32> &chiamate = partita.chiamate();
-    ui->ultimo_label->setText(chiamate.empty() ? QStringLiteral("-") : QString::number(chiamate.back()));
+    ui->ultimo_label->setText(chiamate.empty() ? QString() : QString::number(chiamate.back()));
     ui->precedenti_label->setText(numbersBefore(chiamate));
     ui->chiamate_label->setText(
         tr("Numeri chiamati: %1 di %2").arg(chiamate.size()).arg(partita.numeri().a - partita.numeri().da + 1));

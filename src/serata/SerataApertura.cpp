@@ -142,6 +142,9 @@ bool Serata::goOn(std::unique_ptr<SerataSalvata> serata)
         return refuse(tr("La serata non può continuare."), serata->errorString());
     }
     adopt(std::move(serata));
+    if (m_serata->skippedLines() > 0) {
+        say(tr("Righe illeggibili nel file delle chiamate: %1!").arg(m_serata->skippedLines()));
+    }
     return true;
 }
 

@@ -40,3 +40,15 @@ private:
 
     Table *m_table;
 };
+
+// Whether all of `some` are in `all`, in the same order.
+inline bool containsInOrder(const std::vector<quint32> &all, const std::vector<quint32> &some)
+{
+    auto next = some.begin();
+    for (const quint32 number : all) {
+        if (next != some.end() && *next == number) {
+            ++next;
+        }
+    }
+    return next == some.end();
+}
