@@ -118,6 +118,7 @@ std::vector<ColumnRange> rangesByTens(int columns)
 {
     constexpr int ten = 10;
     std::vector<ColumnRange> ranges;
+    ranges.reserve(size_t(columns));
     for (int c = 0; c < columns; ++c) {
         ranges.push_back({ten * c, ten * c + ten - 1});
     }

@@ -42,6 +42,7 @@ public:
     ~LostMouseRelease()
     {
         if (!m_pressed.isNull() && QGuiApplication::mouseButtons() == Qt::NoButton) {
+            // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): without memory for an event the program ends anyway
             QCoreApplication::postEvent(m_pressed, new QMouseEvent(QEvent::MouseButtonRelease,
                                                                    m_pressed->mapFromGlobal(m_position), m_position,
                                                                    Qt::LeftButton, Qt::NoButton, Qt::NoModifier));

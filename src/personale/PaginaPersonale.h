@@ -18,7 +18,7 @@ struct PaginaPersonale
 
     size_t cellCount() const { return size_t{nRighe} * nColonne; }
     bool hasCell(int row, int column) const { return row < nRighe && column < nColonne; }
-    PersonaleChkBox &cell(int row, int column) const { return chk[static_cast<size_t>(row * nColonne + column)]; }
+    PersonaleChkBox &cell(int row, int column) const { return chk[size_t(row) * nColonne + size_t(column)]; }
     PersonaleChkBox *begin() const { return chk.get(); }
     PersonaleChkBox *end() const { return begin() + cellCount(); }
     int tickedNumbers() const
