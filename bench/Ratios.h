@@ -26,7 +26,7 @@ struct Ratio
 {
     enum class Bound { AtMost, AtLeast, None };
 
-    Ratio(const char *what, Quantity measured, Quantity baseline, Bound bound, double limit, int repetitions = 9);
+    Ratio(const char *what, Quantity measured, Quantity baseline, Bound bound, double limit, int repetitions = 7);
 };
 
 // Runs the ratios that the command line selects, then prints their table. 0 when none misses its bound, else 1.

@@ -162,10 +162,10 @@ double creatingClassic()
 }
 
 const Ratio opening("opening the editor, 1000 pages of 18 x 9 / bare check boxes", openingEditor, creatingBare,
-                    Ratio::Bound::AtMost, 3);
-const Ratio closing("closing it / deleting bare check boxes", closingEditor, deletingBare, Ratio::Bound::AtMost, 3);
+                    Ratio::Bound::AtMost, 3, 5);
+const Ratio closing("closing it / deleting bare check boxes", closingEditor, deletingBare, Ratio::Bound::AtMost, 3, 5);
 const Ratio switching("switching pages, 1000 / 2 pages", switchingPages(manyPages), switchingPages(2),
-                      Ratio::Bound::AtMost, 1.5);
+                      Ratio::Bound::AtMost, 1.5, 5);
 const Ratio creating("creating 1000 pages per column / classic, told to bare boxes", creatingPerColumn, creatingClassic,
-                     Ratio::Bound::AtMost, 2);
+                     Ratio::Bound::AtMost, 2, 5);
 } // namespace

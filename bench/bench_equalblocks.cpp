@@ -27,8 +27,8 @@ std::vector<QString> signaturesOf(const Cartella &set)
 {
     std::vector<QString> signatures;
     for (const Pagina *page : set.pagine) {
-        for (int b = 0; b < page->nBlocchi; ++b) {
-            signatures.push_back(blockSignature(page->blocchi[b]));
+        for (const Blocco &block : *page) {
+            signatures.push_back(blockSignature(block));
         }
     }
     return signatures;
@@ -41,7 +41,7 @@ void comparePairByPair(const Cartella &set)
     for (size_t later = 0; later < signatures.size(); ++later) {
         const size_t ofEarlierPages = later - later % blocks;
         for (size_t earlier = 0; earlier < ofEarlierPages; ++earlier) {
-            equal += signatures[later] == signatures[earlier] ? 1 : 0;
+            equal += signatures[later] == signatures[earlier] ? 1U : 0U;
         }
     }
     benchmark::DoNotOptimize(equal);
