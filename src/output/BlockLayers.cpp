@@ -120,12 +120,16 @@ bool mayBeLayered(const Blocco &block, const BlockLayout &layout, TextShapes &sh
     });
 }
 
-bool areApart(const Blocco &upper, const Blocco &lower, float spacing)
+Neighbours neighboursAt(float spacing, const Blocco &upper, const Blocco &lower)
 {
     const auto overhang = [](const Blocco &block) {
         return std::max(block.spessoreLineaEsterna, block.spessoreLineaInterna) / 2.0;
     };
-    return static_cast<qreal>(spacing) >= overhang(upper) + overhang(lower) + clearance;
+    const qreal room = static_cast<qreal>(spacing) - clearance;
+    if (overhang(upper) + overhang(lower) <= room) {
+        return Neighbours::Apart;
+    }
+    return std::max(overhang(upper), overhang(lower)) <= room ? Neighbours::LinesMeet : Neighbours::LinesReachCells;
 }
 
 void addBlock(PageLayers &layers, const Blocco &block, const BlockLayout &layout, const QColor &pageColor,

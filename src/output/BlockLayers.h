@@ -16,8 +16,9 @@ struct Blocco;
 // its lines: the separators are opaque and lie over the borders of all cells, and no text leaves its cell.
 [[nodiscard]] bool mayBeLayered(const Blocco &block, const BlockLayout &layout, TextShapes &shapes);
 
-// Whether the lines of two blocks with that many device pixels between them do not meet.
-[[nodiscard]] bool areApart(const Blocco &upper, const Blocco &lower, float spacing);
+// How far the lines of two blocks with that many device pixels between them reach.
+enum class Neighbours { Apart, LinesMeet, LinesReachCells };
+[[nodiscard]] Neighbours neighboursAt(float spacing, const Blocco &upper, const Blocco &lower);
 
 // Adds all that is to be painted of a block that may be layered. Cells of the page's color have no background.
 void addBlock(PageLayers &layers, const Blocco &block, const BlockLayout &layout, const QColor &pageColor,

@@ -50,12 +50,22 @@ void PageLayers::addText(const TextShape &shape, const QPointF &corner, const QC
 
 void PageLayers::addSeparator(const QLineF &line, const QPen &pen)
 {
-    itemsOf(m_separators, pen).append(line);
+    itemsOf(uppermostLines().separators, pen).append(line);
 }
 
 void PageLayers::addOutline(const QRectF &block, const QPen &pen)
 {
-    itemsOf(m_outlines, pen).append(block);
+    itemsOf(uppermostLines().outlines, pen).append(block);
+}
+
+void PageLayers::coverLines()
+{
+    m_lines.emplace_back();
+}
+
+PageLayers::Lines &PageLayers::uppermostLines()
+{
+    return m_lines.empty() ? m_lines.emplace_back() : m_lines.back();
 }
 
 void PageLayers::paint(QPainter &painter)
@@ -65,14 +75,7 @@ void PageLayers::paint(QPainter &painter)
         painter.drawImage(picture.rect, picture.image, QRectF(picture.image.rect()));
     }
     paintTexts(painter);
-    for (const auto &separators : m_separators) {
-        painter.setPen(separators.style);
-        painter.drawLines(separators.items);
-    }
-    for (const auto &outlines : m_outlines) {
-        painter.setPen(outlines.style);
-        painter.drawRects(outlines.items);
-    }
+    paintLines(painter);
     *this = PageLayers();
 }
 
@@ -107,5 +110,19 @@ void PageLayers::paintTexts(QPainter &painter) const
         run.setPositions(positions);
         painter.setPen(text.style.color);
         painter.drawGlyphRun(QPointF(), run);
+    }
+}
+
+void PageLayers::paintLines(QPainter &painter) const
+{
+    for (const Lines &lines : m_lines) {
+        for (const auto &separators : lines.separators) {
+            painter.setPen(separators.style);
+            painter.drawLines(separators.items);
+        }
+        for (const auto &outlines : lines.outlines) {
+            painter.setPen(outlines.style);
+            painter.drawRects(outlines.items);
+        }
     }
 }

@@ -14,8 +14,9 @@
 class QPainter;
 struct TextShape;
 
-// What is to be painted, gathered in layers: backgrounds, then pictures, texts, separators, outlines. Within a layer
-// everything of one style is painted in one go: most of the time of painting goes into changes of style.
+// What is to be painted, gathered in layers: backgrounds, then pictures, texts, lines, of which separators come before
+// outlines. Within a layer everything of one style is painted in one go: most of the time of painting goes into changes
+// of style.
 class PageLayers final
 {
 public:
@@ -25,6 +26,8 @@ public:
     void addText(const TextShape &shape, const QPointF &corner, const QColor &color);
     void addSeparator(const QLineF &line, const QPen &pen);
     void addOutline(const QRectF &block, const QPen &pen);
+    // The lines added from now on lie over those added before.
+    void coverLines();
 
     // Paints everything, and is empty then.
     void paint(QPainter &painter);
@@ -51,6 +54,11 @@ private:
 
         bool operator==(const TextStyle &other) const { return font == other.font && color == other.color; }
     };
+    struct Lines
+    {
+        Layer<QPen, QLineF> separators;
+        Layer<QPen, QRectF> outlines;
+    };
     struct Glyph
     {
         quint32 index;
@@ -63,10 +71,11 @@ private:
 
     void paintBackgrounds(QPainter &painter) const;
     void paintTexts(QPainter &painter) const;
+    void paintLines(QPainter &painter) const;
+    Lines &uppermostLines();
 
     Layer<QColor, QRectF> m_backgrounds;
     std::vector<Picture> m_pictures;
     Layer<TextStyle, Glyph> m_texts;
-    Layer<QPen, QLineF> m_separators;
-    Layer<QPen, QRectF> m_outlines;
+    std::vector<Lines> m_lines;
 };

@@ -23,8 +23,8 @@ void PagePainter::paintPage(const Pagina &page) const
     int index = 0;
     for (const Blocco &block : page) {
         const BlockLayout place = blockLayout(layout, index++, block.nRighe);
-        if (above != nullptr && !areApart(*above, block, layout.spacing)) {
-            layers.paint(*m_painter);
+        if (above != nullptr) {
+            separate(layers, neighboursAt(layout.spacing, *above, block));
         }
         if (mayBeLayered(block, place, m_shapes)) {
             addBlock(layers, block, place, page.sfondo, m_shapes);
@@ -35,6 +35,21 @@ void PagePainter::paintPage(const Pagina &page) const
         above = &block;
     }
     layers.paint(*m_painter);
+}
+
+// The next block may have to lie over what has been added so far.
+void PagePainter::separate(PageLayers &layers, Neighbours neighbours) const
+{
+    switch (neighbours) {
+    case Neighbours::Apart:
+        break;
+    case Neighbours::LinesMeet:
+        layers.coverLines();
+        break;
+    case Neighbours::LinesReachCells:
+        layers.paint(*m_painter);
+        break;
+    }
 }
 
 // Cell by cell.

@@ -4,12 +4,14 @@
 #include "output/PdfGeometry.h"
 #include "output/TextShapes.h"
 
+class PageLayers;
 class QColor;
 class QPainter;
 struct Blocco;
 struct Cella;
 struct Pagina;
 struct Riga;
+enum class Neighbours;
 
 // Paints the pages of a card set, whatever the painter paints on. The painter is not owned and must be active.
 //
@@ -24,6 +26,7 @@ public:
     void paintPage(const Pagina &page) const;
 
 private:
+    void separate(PageLayers &layers, Neighbours neighbours) const;
     void paintBlock(const Blocco &block, const BlockLayout &layout, const QColor &pageColor) const;
     void paintRow(const Riga &row, const RowLayout &layout, const Blocco &block, const QColor &pageColor) const;
     void paintCell(const Cella &cell, const QRectF &rect, const QColor &pageColor) const;

@@ -22,6 +22,7 @@ using Change = std::function<void(Cartella &)>;
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(Neighbours)
 
 class tst_BlockLayers final : public QObject
 {
@@ -33,8 +34,8 @@ private slots:
     void notLayeredWhereTheOrderCouldBeSeen_data();
     void notLayeredWhereTheOrderCouldBeSeen();
     void notLayeredWithoutRoom();
-    void blocksAreApartWhenTheirLinesAre_data();
-    void blocksAreApartWhenTheirLinesAre();
+    void linesOfNeighboursMayMeet_data();
+    void linesOfNeighboursMayMeet();
     void allPartsOfABlockAreAdded();
 
 private:
@@ -118,23 +119,26 @@ void tst_BlockLayers::notLayeredWithoutRoom()
     QVERIFY(!isLayered(*set, {5.0F, 5.0F, 0.0F, 0.0F, 2}));
 }
 
-void tst_BlockLayers::blocksAreApartWhenTheirLinesAre_data()
+void tst_BlockLayers::linesOfNeighboursMayMeet_data()
 {
     QTest::addColumn<int>("outline");
     QTest::addColumn<int>("neighboursOutline");
     QTest::addColumn<int>("neighboursSeparators");
     QTest::addColumn<float>("spacing");
-    QTest::addColumn<bool>("apart");
-    QTest::newRow("thinnest lines") << 0 << 0 << 0 << 1.0F << true;
-    QTest::newRow("touching") << 0 << 0 << 0 << 0.0F << false;
-    QTest::newRow("overlapping") << 0 << 0 << 0 << -3.0F << false;
-    QTest::newRow("usual lines") << 1 << 1 << 0 << 2.0F << true;
-    QTest::newRow("room for thick outlines") << 5 << 10 << 0 << 8.5F << true;
-    QTest::newRow("no room for thick outlines") << 5 << 10 << 0 << 8.4F << false;
-    QTest::newRow("no room for thick separators") << 5 << 1 << 10 << 8.4F << false;
+    QTest::addColumn<Neighbours>("neighbours");
+    QTest::newRow("thinnest lines") << 0 << 0 << 0 << 1.0F << Neighbours::Apart;
+    QTest::newRow("touching") << 0 << 0 << 0 << 0.0F << Neighbours::LinesReachCells;
+    QTest::newRow("overlapping") << 0 << 0 << 0 << -3.0F << Neighbours::LinesReachCells;
+    QTest::newRow("usual lines") << 1 << 1 << 0 << 2.0F << Neighbours::Apart;
+    QTest::newRow("room for thick outlines") << 5 << 10 << 0 << 8.5F << Neighbours::Apart;
+    QTest::newRow("room for one of them") << 5 << 10 << 0 << 8.4F << Neighbours::LinesMeet;
+    QTest::newRow("just room for one of them") << 5 << 10 << 0 << 6.0F << Neighbours::LinesMeet;
+    QTest::newRow("room for none of them") << 5 << 10 << 0 << 5.9F << Neighbours::LinesReachCells;
+    QTest::newRow("room for thick separators") << 5 << 1 << 10 << 8.5F << Neighbours::Apart;
+    QTest::newRow("no room for thick separators") << 5 << 1 << 10 << 5.9F << Neighbours::LinesReachCells;
 }
 
-void tst_BlockLayers::blocksAreApartWhenTheirLinesAre()
+void tst_BlockLayers::linesOfNeighboursMayMeet()
 {
     QFETCH(int, outline);
     QFETCH(int, neighboursOutline);
@@ -145,8 +149,8 @@ void tst_BlockLayers::blocksAreApartWhenTheirLinesAre()
     Blocco neighbour;
     neighbour.spessoreLineaEsterna = neighboursOutline;
     neighbour.spessoreLineaInterna = neighboursSeparators;
-    QTEST(areApart(block, neighbour, spacing), "apart");
-    QTEST(areApart(neighbour, block, spacing), "apart");
+    QTEST(neighboursAt(spacing, block, neighbour), "neighbours");
+    QTEST(neighboursAt(spacing, neighbour, block), "neighbours");
 }
 
 void tst_BlockLayers::allPartsOfABlockAreAdded()

@@ -15,6 +15,7 @@ class tst_PageLayers final : public QObject
 private slots:
     void init();
     void outlinesLieOverSeparators();
+    void laterLinesCoverEarlierOnes();
     void separatorsLieOverTexts();
     void textsLieOverPictures();
     void picturesLieOverBackgrounds();
@@ -63,6 +64,17 @@ void tst_PageLayers::outlinesLieOverSeparators()
     paint(layers);
     QCOMPARE(m_page.pixelColor(50, 10), QColor(Qt::blue));
     QCOMPARE(m_page.pixelColor(4, 10), QColor(Qt::green));
+}
+
+void tst_PageLayers::laterLinesCoverEarlierOnes()
+{
+    PageLayers layers;
+    layers.addOutline(m_area, QPen(Qt::blue, 4));
+    layers.coverLines();
+    layers.addSeparator({0, 10, 50, 10}, QPen(Qt::green, 4));
+    paint(layers);
+    QCOMPARE(m_page.pixelColor(30, 10), QColor(Qt::green));
+    QCOMPARE(m_page.pixelColor(70, 10), QColor(Qt::blue));
 }
 
 void tst_PageLayers::separatorsLieOverTexts()

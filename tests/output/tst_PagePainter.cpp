@@ -196,6 +196,12 @@ private slots:
         });
         QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
         QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
+        QTest::newRow("outlines that reach those of the next block") << classicSet([](Cartella &set) {
+            for (int b = 0; b < SampleSets::blocks; ++b) {
+                block(set, b).spessoreLineaEsterna = 6;
+                block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::yellow;
+            }
+        });
         QTest::newRow("outlines that reach the next block") << classicSet([](Cartella &set) {
             for (int b = 0; b < SampleSets::blocks; ++b) {
                 block(set, b).spessoreLineaInterna = 3;
