@@ -1339,6 +1339,18 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
         <translation>Geänderte Werte aus config.ini:
 %1</translation>
     </message>
+    <message>
+        <source>Numera i blocchi in stampa</source>
+        <translation>Karten beim Drucken nummerieren</translation>
+    </message>
+    <message>
+        <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
+        <translation>Neben jede Karte ihre Nummer drucken, zum Beispiel 12.3</translation>
+    </message>
+    <message>
+        <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
+        <translation>Aus Platzmangel nicht gedruckte Kartennummern: %1.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

@@ -1339,6 +1339,18 @@ Other pages not generated (counted from 1): %1</translation>
         <translation>Values of config.ini changed:
 %1</translation>
     </message>
+    <message>
+        <source>Numera i blocchi in stampa</source>
+        <translation>Number the cards when printing</translation>
+    </message>
+    <message>
+        <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
+        <translation>Prints its number beside each card, for example 12.3</translation>
+    </message>
+    <message>
+        <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
+        <translation>Card numbers not printed for want of room: %1.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

@@ -1339,6 +1339,18 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
         <translation>Valores de config.ini cambiados:
 %1</translation>
     </message>
+    <message>
+        <source>Numera i blocchi in stampa</source>
+        <translation>Numerar los cartones al imprimir</translation>
+    </message>
+    <message>
+        <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
+        <translation>Imprime junto a cada cartón su número, por ejemplo 12.3</translation>
+    </message>
+    <message>
+        <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
+        <translation>Números de cartón no impresos por falta de espacio: %1.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

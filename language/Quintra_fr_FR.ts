@@ -1339,6 +1339,18 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
         <translation>Valeurs de config.ini modifiées&#xa0;:
 %1</translation>
     </message>
+    <message>
+        <source>Numera i blocchi in stampa</source>
+        <translation>Numéroter les cartons à l&apos;impression</translation>
+    </message>
+    <message>
+        <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
+        <translation>Imprime à côté de chaque carton son numéro, par exemple 12.3</translation>
+    </message>
+    <message>
+        <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
+        <translation>Numéros de carton non imprimés faute de place : %1.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>
@@ -2002,7 +2014,7 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et celle-là est mise
     </message>
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
-        <translation>Lignes illisibles dans le fichier des tirages : %1 !</translation>
+        <translation>Lignes illisibles dans le fichier des tirages&#xa0;: %1&#xa0;!</translation>
     </message>
 </context>
 </TS>

@@ -1339,6 +1339,18 @@ Altre pagine non generate (contate da 1): %1</translation>
         <translation>Valori cambiati di config.ini:
 %1</translation>
     </message>
+    <message>
+        <source>Numera i blocchi in stampa</source>
+        <translation>Numera i blocchi in stampa</translation>
+    </message>
+    <message>
+        <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
+        <translation>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</translation>
+    </message>
+    <message>
+        <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
+        <translation>Numeri di blocco non stampati per mancanza di posto: %1.</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

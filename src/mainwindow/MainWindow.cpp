@@ -50,6 +50,7 @@ void MainWindow::setupShortcuts()
 void MainWindow::connectCommands()
 {
     connect(ui->actionAnteprima, &QAction::triggered, this, &MainWindow::openPreview);
+    connect(ui->actionNumeraBlocchi, &QAction::toggled, this, &MainWindow::updatePreview);
     connect(ui->actionSalvaRegistro, &QAction::triggered, this, &MainWindow::saveRegister);
     connect(ui->actionSerata, &QAction::triggered, this, &MainWindow::openEvening);
 }

@@ -149,7 +149,7 @@ private:
 
     // Printing.
     QString askFileName(const QString &caption, const QString &format);
-    bool writeOutputFile(const QString &fileName, QString &report);
+    bool writeOutputFile(const QString &fileName, QString &report, int &numbersLeftOut);
     void openPreview();
     void updatePreview();
     void cardSetChanged();

@@ -36,7 +36,8 @@ void MainWindow::on_butt_stampa_clicked()
     warnOfPagesWithoutRoom();
     letClosedDialogsDisappear();
     QString report;
-    if (!writeOutputFile(fileName, report)) {
+    int numbersLeftOut = 0;
+    if (!writeOutputFile(fileName, report, numbersLeftOut)) {
         updateStatusBar(tr("Stampa non riuscita!"));
         warn(tr("Errore nella creazione del file:\n%1").arg(fileName), report);
         return;
@@ -45,6 +46,10 @@ void MainWindow::on_butt_stampa_clicked()
     MsgArea *window = MsgArea::makeFor(this, false);
     window->setText(report, true);
     window->show();
+    if (numbersLeftOut > 0) {
+        QMessageBox::warning(window, boxTitle(),
+                             tr("Numeri di blocco non stampati per mancanza di posto: %1.").arg(numbersLeftOut));
+    }
 }
 
 // The file to write, with the suffix of its format; empty when the user gave none that can be. The folder is
@@ -60,12 +65,13 @@ QString MainWindow::askFileName(const QString &caption, const QString &format)
     return !chosen.isEmpty() && sure && globalConfig->rememberFolder(chosen) ? fileName : QString();
 }
 
-bool MainWindow::writeOutputFile(const QString &fileName, QString &report)
+bool MainWindow::writeOutputFile(const QString &fileName, QString &report, int &numbersLeftOut)
 {
     const WaitCursor wait(this);
     CreateOutputFile output(this);
     connect(&output, &CreateOutputFile::status, this, &MainWindow::updateStatusBar);
-    return output.create(fileName, m_cartella.get(), report) >= 0;
+    int *const numbered = ui->actionNumeraBlocchi->isChecked() ? &numbersLeftOut : nullptr;
+    return output.create(fileName, m_cartella.get(), report, numbered) >= 0;
 }
 
 void MainWindow::openPreview()
@@ -85,7 +91,8 @@ void MainWindow::openPreview()
 void MainWindow::updatePreview()
 {
     if (!m_preview.isNull()) {
-        m_preview->showPage(m_cartella.get(), ui->pagina_corrente_spinBox->value() - 1);
+        m_preview->showPage(m_cartella.get(), ui->pagina_corrente_spinBox->value() - 1,
+                            ui->actionNumeraBlocchi->isChecked());
     }
 }
 

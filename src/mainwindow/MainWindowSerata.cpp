@@ -16,6 +16,7 @@ void MainWindow::saveRegister()
         updateStatusBar(tr("Creazione file annullata!"));
         return;
     }
+    letClosedDialogsDisappear();
     const WaitCursor wait(this);
     QString reason;
     if (!Registro::save(fileName, *m_cartella, reason)) {

@@ -19,10 +19,11 @@ public:
     using QWidget::QWidget;
 
     // Null for no page.
-    void showPage(const Cartella *set, int page)
+    void showPage(const Cartella *set, int page, bool numbered)
     {
         m_set = set;
         m_page = page;
+        m_numbered = numbered;
         m_image = QImage();
         update();
     }
@@ -38,7 +39,7 @@ protected:
         }
         const QSize pixels = size() * devicePixelRatioF();
         if (m_image.size() != pixels) {
-            m_image = pageImage(*m_set, m_page, pixels, m_resolution);
+            m_image = pageImage(*m_set, m_page, pixels, m_resolution, m_numbered);
         }
         QPainter(this).drawImage(rect(), m_image);
     }
@@ -47,6 +48,7 @@ private:
     const int m_resolution = printingResolution();
     QPointer<const Cartella> m_set;
     int m_page = -1;
+    bool m_numbered = false;
     QImage m_image;
 };
 
@@ -67,12 +69,12 @@ PagePreview::PagePreview(QWidget *parent)
 
 PagePreview::~PagePreview() = default;
 
-void PagePreview::showPage(const Cartella *set, int page)
+void PagePreview::showPage(const Cartella *set, int page, bool numbered)
 {
     const bool exists = set != nullptr && page >= 0 && page < set->getNumPages();
     m_set = exists ? set : nullptr;
     m_page = exists ? page : -1;
-    m_sheet->showPage(m_set, m_page);
+    m_sheet->showPage(m_set, m_page, numbered);
     showTexts();
     fitSheet();
 }

@@ -24,8 +24,9 @@ public:
     ~PagePreview() override;
 
     // Shows a page (0-based) of the set as it is now; call it again after every change. The set is not owned and may go
-    // at any time. Without such a page the window says that there is none.
-    void showPage(const Cartella *set, int page);
+    // at any time. Without such a page the window says that there is none. A `numbered` page has the number of each
+    // block beside it.
+    void showPage(const Cartella *set, int page, bool numbered = false);
 
 signals:
     // The user wants to see another page (0-based) of the set.

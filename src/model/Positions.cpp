@@ -43,3 +43,8 @@ const Cella *cellAt(const Pagina &page, int tableRow, int column)
     const Riga &row = begin(begin(page)[position->block])[position->row];
     return column >= 0 && column < row.nCelle ? begin(row) + column : nullptr;
 }
+
+QString cardNumber(int page, int block)
+{
+    return QStringLiteral("%1.%2").arg(page).arg(block);
+}

@@ -31,3 +31,6 @@ struct RowPosition
 // The cell at a place of the table; null where there is none.
 [[nodiscard]] Cella *cellAt(Pagina &page, int tableRow, int column);
 [[nodiscard]] const Cella *cellAt(const Pagina &page, int tableRow, int column);
+
+// The number of a block in its set, as players know it: "12.3" is the third block of page 12, both counted from 1.
+[[nodiscard]] QString cardNumber(int page, int block);

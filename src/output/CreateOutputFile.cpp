@@ -3,6 +3,7 @@
 
 #include "generation/GUtils.h"
 #include "model/Cartella.h"
+#include "output/CardNumbers.h"
 #include "output/Megabytes.h"
 #include "output/PagePainter.h"
 #include "output/PaperSheet.h"
@@ -48,7 +49,7 @@ CreateOutputFile::CreateOutputFile(QObject *parent)
 {
 }
 
-int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QString &report)
+int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QString &report, int *numbersLeftOut)
 {
     fileName = outputFileName;
     cartella = set;
@@ -63,10 +64,10 @@ int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QStri
         report += tr("Formato %1 non disponibile. Creazione annullata.").arg(globalConfig->formatName(id));
         return 0;
     }
-    return printPdf(report);
+    return printPdf(report, numbersLeftOut);
 }
 
-int CreateOutputFile::printPdf(QString &report)
+int CreateOutputFile::printPdf(QString &report, int *numbersLeftOut)
 {
     WholeFile file(fileName);
     const bool created = file.create();
@@ -77,7 +78,7 @@ int CreateOutputFile::printPdf(QString &report)
         report += tr("Impossibile scrivere sul file!");
         return failure;
     }
-    if (!printInto(file, painter, printer)) {
+    if (!printInto(file, painter, printer, numbersLeftOut)) {
         report += tr("Impossibile continuare a scrivere sul file!");
         return failure;
     }
@@ -87,23 +88,31 @@ int CreateOutputFile::printPdf(QString &report)
     return static_cast<int>(bytes);
 }
 
-bool CreateOutputFile::printInto(WholeFile &file, QPainter &painter, QPrinter &printer)
+bool CreateOutputFile::printInto(WholeFile &file, QPainter &painter, QPrinter &printer, int *numbersLeftOut)
 {
-    const PagePainter pages(&painter, documentLayout(sheetOf(printer.pageLayout(), printer.resolution(), *cartella)));
-    if (!printPages(pages, printer)) {
+    const DocumentLayout document = documentLayout(sheetOf(printer.pageLayout(), printer.resolution(), *cartella));
+    const PagePainter pages(&painter, document);
+    CardNumbers numbers(&painter, document);
+    if (!printPages(pages, numbersLeftOut != nullptr ? &numbers : nullptr, printer)) {
         painter.end();
         file.leaveIncomplete();
         return false;
     }
+    if (numbersLeftOut != nullptr) {
+        *numbersLeftOut = numbers.leftOut();
+    }
     return painter.end() && isComplete(file.writtenName()) && file.commit();
 }
 
-bool CreateOutputFile::printPages(const PagePainter &painter, QPrinter &printer)
+bool CreateOutputFile::printPages(const PagePainter &painter, CardNumbers *numbers, QPrinter &printer)
 {
     const int count = cartella->getNumPages();
     for (int p = 0; p < count; ++p) {
         emit status(tr("PDF: Stampa pagina %1 di %2 (%3%) in corso...").arg(p + 1).arg(count).arg(p * 100 / count));
         painter.paintPage(*cartella->pagine.at(p));
+        if (numbers != nullptr) {
+            numbers->paint(*cartella->pagine.at(p), p + 1);
+        }
         const bool last = p == count - 1;
         if (!last && !printer.newPage()) {
             return false;

@@ -2,6 +2,7 @@
 #include "output/PageImage.h"
 
 #include "model/Cartella.h"
+#include "output/CardNumbers.h"
 #include "output/PagePainter.h"
 #include "output/PaperSheet.h"
 
@@ -17,7 +18,7 @@ QSize sheetSize(const Cartella &set, int resolution)
     return pageLayoutOf(set).fullRectPixels(resolution).size();
 }
 
-QImage pageImage(const Cartella &set, int page, const QSize &size, int resolution)
+QImage pageImage(const Cartella &set, int page, const QSize &size, int resolution, bool numbered)
 {
     if (page < 0 || page >= set.getNumPages()) {
         return QImage();
@@ -38,5 +39,8 @@ QImage pageImage(const Cartella &set, int page, const QSize &size, int resolutio
     // A printer's origin lies inside the margins.
     painter.translate(layout.paintRectPixels(resolution).topLeft());
     PagePainter(&painter, documentLayout(sheet)).paintPage(*set.pagine.at(page));
+    if (numbered) {
+        CardNumbers(&painter, documentLayout(sheet)).paint(*set.pagine.at(page), page + 1);
+    }
     return image;
 }

@@ -13,5 +13,5 @@ class Cartella;
 [[nodiscard]] QSize sheetSize(const Cartella &set, int resolution);
 
 // A page (0-based) as it will be printed, its sheet drawn as large as `size` (pixels). Null when the set has no such
-// page or the picture does not fit the memory.
-[[nodiscard]] QImage pageImage(const Cartella &set, int page, const QSize &size, int resolution);
+// page or the picture does not fit the memory. `numbered` pages have the number of each block beside it.
+[[nodiscard]] QImage pageImage(const Cartella &set, int page, const QSize &size, int resolution, bool numbered = false);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "serata/Scheda.h"
 
+#include "model/Positions.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -144,7 +146,7 @@ std::vector<quint32> numbersOf(const Scheda &scheda)
 
 QString positionText(Posizione posizione)
 {
-    return QStringLiteral("%1.%2").arg(posizione.pagina).arg(posizione.blocco);
+    return cardNumber(posizione.pagina, posizione.blocco);
 }
 
 std::optional<Posizione> parsePosition(const QString &text)

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "mainwindow/PagePreview.h"
 #include "mainwindow/PageWindow.h"
+#include "msgarea/MsgArea.h"
+#include "output/CreateOutputFile.h"
+#include "output/PageImage.h"
+#include "output/PdfTools.h"
 #include "serata/Registro.h"
 #include "serata/Serata.h"
 #include "support/FileFaults.h"
@@ -7,6 +12,9 @@
 #include <QAction>
 #include <QFile>
 #include <QMenu>
+#include <QScrollArea>
+
+#include <functional>
 
 class tst_MainWindowSerata final : public QObject
 {
@@ -14,6 +22,9 @@ class tst_MainWindowSerata final : public QObject
 
 private slots:
     void theCommandsStandTogetherInTheirMenu();
+    void blocksAreNumberedOnlyWhenAsked();
+    void numbersWithoutRoomAreToldOfAfterTheReport();
+    void thePreviewShowsTheNumbers();
     void aSetIsSavedAsARegister();
     void aNameWithoutSuffixGetsOne();
     void withoutPagesNoRegisterIsSaved();
@@ -27,6 +38,9 @@ private slots:
 private:
     // A window with cards of numbers, whose save folder is its own.
     static void generate(PageWindow &page);
+    // Prints to cartelle.pdf; `expectMore` tells what comes after the report.
+    static void print(
+        PageWindow &page, const std::function<void()> &expectMore = []() {});
 };
 
 void tst_MainWindowSerata::generate(PageWindow &page)
@@ -36,16 +50,83 @@ void tst_MainWindowSerata::generate(PageWindow &page)
     QVERIFY(page.window->generate(false));
 }
 
+void tst_MainWindowSerata::print(PageWindow &page, const std::function<void()> &expectMore)
+{
+    const QString path = QDir::current().filePath(QStringLiteral("cartelle.pdf"));
+    QFile::remove(path);
+    page.boxes.expectFileDialog(QStringLiteral("Salva le cartelle su file"), path);
+    expectMore();
+    page.press("butt_stampa");
+    QCOMPARE(page.boxes.problems(), QStringList());
+    QPointer<MsgArea> report = page.window->findChild<MsgArea *>();
+    QVERIFY(!report.isNull());
+    report->close();
+    QTRY_VERIFY(report.isNull());
+}
+
 void tst_MainWindowSerata::theCommandsStandTogetherInTheirMenu()
 {
     const PageWindow page;
     const QList<QAction *> actions = page.find<QMenu>("menuStrumenti")->actions();
-    const int first = actions.indexOf(page.find<QAction>("actionSalvaRegistro"));
-    QVERIFY(first > 0);
-    QCOMPARE(actions.at(first)->text(), QStringLiteral("Salva registro..."));
-    QCOMPARE(actions.at(first + 1)->objectName(), QStringLiteral("actionSerata"));
-    QCOMPARE(actions.at(first + 1)->text(), QStringLiteral("Serata..."));
-    QVERIFY(actions.indexOf(page.find<QAction>("actionAnteprima")) < first);
+    const int preview = actions.indexOf(page.find<QAction>("actionAnteprima"));
+    QVERIFY(preview > 0);
+    QVERIFY(actions.at(preview + 1)->isSeparator());
+    QCOMPARE(actions.at(preview + 2)->text(), QStringLiteral("Numera i blocchi in stampa"));
+    QCOMPARE(actions.at(preview + 3)->text(), QStringLiteral("Salva registro..."));
+    QCOMPARE(actions.at(preview + 4)->text(), QStringLiteral("Serata..."));
+}
+
+void tst_MainWindowSerata::blocksAreNumberedOnlyWhenAsked()
+{
+    PageWindow page;
+    generate(page);
+    auto *numbering = page.find<QAction>("actionNumeraBlocchi");
+    QVERIFY(numbering->isCheckable());
+    QVERIFY(!numbering->isChecked());
+    for (const bool numbered : {false, true, false}) {
+        numbering->setChecked(numbered);
+        print(page);
+        const QStringList words = PdfTools::words(QStringLiteral("cartelle.pdf"));
+        for (const char *number : {"1.1", "2.6", "3.3"}) {
+            QCOMPARE(words.contains(QString::fromLatin1(number)), numbered);
+        }
+    }
+}
+
+void tst_MainWindowSerata::numbersWithoutRoomAreToldOfAfterTheReport()
+{
+    PageWindow page;
+    generate(page);
+    page.set()->margineSinistro = 0.0;
+    print(page); // no number was asked for
+    page.find<QAction>("actionNumeraBlocchi")->setChecked(true);
+    print(page, [&page]() {
+        page.boxes.expectBox(QStringLiteral("Quintra - Cartella classica"),
+                             QStringLiteral("Numeri di blocco non stampati per mancanza di posto: 18."),
+                             QMessageBox::Ok, [&page](QMessageBox *) {
+                                 const auto *report = page.window->findChild<MsgArea *>();
+                                 QVERIFY(report != nullptr && report->isVisible());
+                             });
+    });
+}
+
+void tst_MainWindowSerata::thePreviewShowsTheNumbers()
+{
+    PageWindow page;
+    generate(page);
+    page.find<QAction>("actionAnteprima")->trigger();
+    const auto *preview = page.window->findChild<PagePreview *>();
+    auto *sheet = preview->findChild<QScrollArea *>(QStringLiteral("foglio_scrollArea"))->widget();
+    const auto seen = [sheet]() { return sheet->grab().toImage().convertToFormat(QImage::Format_RGB32); };
+    const auto printed = [&page, &seen](bool numbered) {
+        return pageImage(*page.set(), 0, seen().size(), printingResolution(), numbered);
+    };
+    QVERIFY(printed(true) != printed(false));
+    QCOMPARE(seen(), printed(false));
+    page.find<QAction>("actionNumeraBlocchi")->setChecked(true);
+    QCOMPARE(seen(), printed(true));
+    page.find<QAction>("actionNumeraBlocchi")->setChecked(false);
+    QCOMPARE(seen(), printed(false));
 }
 
 void tst_MainWindowSerata::aSetIsSavedAsARegister()
