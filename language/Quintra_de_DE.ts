@@ -1351,6 +1351,61 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
         <translation>Aus Platzmangel nicht gedruckte Kartennummern: %1.</translation>
     </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Wie man das Programm benutzt, Schritt für Schritt</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>Das Handbuch ist nicht in %1!</translation>
+    </message>
+</context>
+<context>
+    <name>Manuale</name>
+    <message>
+        <source>Torna dove si leggeva prima</source>
+        <translation>Zurück zu der Stelle, die Sie vorher gelesen haben</translation>
+    </message>
+    <message>
+        <source>Indietro</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Mostra l&apos;indice del manuale</source>
+        <translation>Zeigt das Inhaltsverzeichnis des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Indice</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Cerca:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>Testo da cercare nel manuale: Invio va al prossimo</source>
+        <translation>Text, der im Handbuch gesucht wird: Die Eingabetaste springt zum nächsten</translation>
+    </message>
+    <message>
+        <source>Testo del manuale</source>
+        <translation>Text des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Cerca</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Testo non trovato!</source>
+        <translation>Text nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Quintra - Manuale</source>
+        <translation>Quintra - Handbuch</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

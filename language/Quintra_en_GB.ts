@@ -1351,6 +1351,61 @@ Other pages not generated (counted from 1): %1</translation>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
         <translation>Card numbers not printed for want of room: %1.</translation>
     </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>How to use the program, step by step</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>The manual is not in %1!</translation>
+    </message>
+</context>
+<context>
+    <name>Manuale</name>
+    <message>
+        <source>Torna dove si leggeva prima</source>
+        <translation>Back to where you were reading before</translation>
+    </message>
+    <message>
+        <source>Indietro</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Mostra l&apos;indice del manuale</source>
+        <translation>Shows the contents of the manual</translation>
+    </message>
+    <message>
+        <source>Indice</source>
+        <translation>Contents</translation>
+    </message>
+    <message>
+        <source>Cerca:</source>
+        <translation>Search:</translation>
+    </message>
+    <message>
+        <source>Testo da cercare nel manuale: Invio va al prossimo</source>
+        <translation>Text to search for in the manual: Enter goes to the next one</translation>
+    </message>
+    <message>
+        <source>Testo del manuale</source>
+        <translation>Text of the manual</translation>
+    </message>
+    <message>
+        <source>Cerca</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Testo non trovato!</source>
+        <translation>Text not found!</translation>
+    </message>
+    <message>
+        <source>Quintra - Manuale</source>
+        <translation>Quintra - Manual</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

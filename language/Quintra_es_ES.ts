@@ -1351,6 +1351,61 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
         <translation>Números de cartón no impresos por falta de espacio: %1.</translation>
     </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Cómo se usa el programa, paso a paso</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>¡El manual no está en %1!</translation>
+    </message>
+</context>
+<context>
+    <name>Manuale</name>
+    <message>
+        <source>Torna dove si leggeva prima</source>
+        <translation>Vuelve a donde se leía antes</translation>
+    </message>
+    <message>
+        <source>Indietro</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Mostra l&apos;indice del manuale</source>
+        <translation>Muestra el índice del manual</translation>
+    </message>
+    <message>
+        <source>Indice</source>
+        <translation>Índice</translation>
+    </message>
+    <message>
+        <source>Cerca:</source>
+        <translation>Buscar:</translation>
+    </message>
+    <message>
+        <source>Testo da cercare nel manuale: Invio va al prossimo</source>
+        <translation>Texto que buscar en el manual: Intro va al siguiente</translation>
+    </message>
+    <message>
+        <source>Testo del manuale</source>
+        <translation>Texto del manual</translation>
+    </message>
+    <message>
+        <source>Cerca</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Testo non trovato!</source>
+        <translation>¡Texto no encontrado!</translation>
+    </message>
+    <message>
+        <source>Quintra - Manuale</source>
+        <translation>Quintra - Manual</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

@@ -1349,7 +1349,62 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     </message>
     <message>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
-        <translation>Numéros de carton non imprimés faute de place : %1.</translation>
+        <translation>Numéros de carton non imprimés faute de place&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Comment utiliser le programme, pas à pas</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>Le manuel n&apos;est pas dans %1&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>Manuale</name>
+    <message>
+        <source>Torna dove si leggeva prima</source>
+        <translation>Revient à l&apos;endroit lu auparavant</translation>
+    </message>
+    <message>
+        <source>Indietro</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Mostra l&apos;indice del manuale</source>
+        <translation>Affiche le sommaire du manuel</translation>
+    </message>
+    <message>
+        <source>Indice</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Cerca:</source>
+        <translation>Rechercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Testo da cercare nel manuale: Invio va al prossimo</source>
+        <translation>Texte à chercher dans le manuel&#xa0;: Entrée va au suivant</translation>
+    </message>
+    <message>
+        <source>Testo del manuale</source>
+        <translation>Texte du manuel</translation>
+    </message>
+    <message>
+        <source>Cerca</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Testo non trovato!</source>
+        <translation>Texte introuvable&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Quintra - Manuale</source>
+        <translation>Quintra - Manuel</translation>
     </message>
 </context>
 <context>

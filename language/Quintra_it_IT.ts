@@ -1351,6 +1351,61 @@ Altre pagine non generate (contate da 1): %1</translation>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
         <translation>Numeri di blocco non stampati per mancanza di posto: %1.</translation>
     </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manuale</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Come si usa il programma, passo per passo</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>Il manuale non è in %1!</translation>
+    </message>
+</context>
+<context>
+    <name>Manuale</name>
+    <message>
+        <source>Torna dove si leggeva prima</source>
+        <translation>Torna dove si leggeva prima</translation>
+    </message>
+    <message>
+        <source>Indietro</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Mostra l&apos;indice del manuale</source>
+        <translation>Mostra l&apos;indice del manuale</translation>
+    </message>
+    <message>
+        <source>Indice</source>
+        <translation>Indice</translation>
+    </message>
+    <message>
+        <source>Cerca:</source>
+        <translation>Cerca:</translation>
+    </message>
+    <message>
+        <source>Testo da cercare nel manuale: Invio va al prossimo</source>
+        <translation>Testo da cercare nel manuale: Invio va al prossimo</translation>
+    </message>
+    <message>
+        <source>Testo del manuale</source>
+        <translation>Testo del manuale</translation>
+    </message>
+    <message>
+        <source>Cerca</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Testo non trovato!</source>
+        <translation>Testo non trovato!</translation>
+    </message>
+    <message>
+        <source>Quintra - Manuale</source>
+        <translation>Quintra - Manuale</translation>
+    </message>
 </context>
 <context>
     <name>MappingFile</name>

@@ -23,6 +23,8 @@ public:
     // toolkit's translations folder and from language/ in the current folder. Whether the program's was installed;
     // without a file the Italian source texts are shown.
     bool loadTranslations(const QString &locale);
+    // Locale of the program's texts (such as it_IT), as the file of the translation names it; empty when that does not.
+    QString shownLanguage() const;
 
     // `count` different numbers of the inclusive range between the bounds (given in either order), in the order drawn.
     // Empty when the range has fewer numbers, or when count is 0.
@@ -58,3 +60,6 @@ void seedRandom(unsigned seed);
 
 // Set by the start-up routine, which owns the object.
 extern GUtils *globalUtils;
+
+// That of globalUtils; Italian without it.
+QString shownLanguage();

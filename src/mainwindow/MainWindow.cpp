@@ -3,6 +3,8 @@
 
 #include "generation/GUtils.h"
 #include "generation/GeneraCartellaClassica.h"
+#include "manuale/ManualFile.h"
+#include "manuale/Manuale.h"
 #include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
 #include "resources/Resources.h"
@@ -12,6 +14,7 @@
 
 #include <QCloseEvent>
 #include <QColorDialog>
+#include <QDir>
 #include <QMessageBox>
 #include <QTableWidget>
 
@@ -53,6 +56,7 @@ void MainWindow::connectCommands()
     connect(ui->actionNumeraBlocchi, &QAction::toggled, this, &MainWindow::updatePreview);
     connect(ui->actionSalvaRegistro, &QAction::triggered, this, &MainWindow::saveRegister);
     connect(ui->actionSerata, &QAction::triggered, this, &MainWindow::openEvening);
+    connect(ui->actionManuale, &QAction::triggered, this, &MainWindow::openManual);
 }
 
 void MainWindow::welcome()
@@ -193,6 +197,19 @@ void MainWindow::on_actionOpzioni_triggered()
 void MainWindow::on_actionOpen_triggered() {}
 
 void MainWindow::on_actionSave_triggered() {}
+
+void MainWindow::openManual()
+{
+    const QString file = manualFile(shownLanguage());
+    if (file.isEmpty()) {
+        updateStatusBar(tr("Il manuale non è in %1!").arg(QDir::toNativeSeparators(manualFolder())));
+        return;
+    }
+    if (m_manual == nullptr) {
+        m_manual = new Manuale(this);
+    }
+    m_manual->showFile(file);
+}
 
 void MainWindow::on_actionInformazioni_triggered()
 {

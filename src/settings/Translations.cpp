@@ -10,6 +10,7 @@
 namespace {
 const QString delimiters = QStringLiteral("_");
 const QString suffix = QStringLiteral(".qm");
+const QString sourceLanguage = QStringLiteral("it_IT");
 
 // An empty translator, which translates nothing, when no file is found.
 std::unique_ptr<QTranslator> loaded(const QString &baseName, const QString &folder)
@@ -33,4 +34,14 @@ bool GUtils::loadTranslations(const QString &locale)
     m_programTranslator =
         loaded(Product::nameText() + delimiters + locale, QDir::currentPath() + QStringLiteral("/language/"));
     return QCoreApplication::installTranslator(m_programTranslator.get());
+}
+
+QString GUtils::shownLanguage() const
+{
+    return m_programTranslator->isEmpty() ? sourceLanguage : m_programTranslator->language();
+}
+
+QString shownLanguage()
+{
+    return globalUtils == nullptr ? sourceLanguage : globalUtils->shownLanguage();
 }

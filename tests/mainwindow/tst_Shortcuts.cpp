@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Every shortcut of every window, pressed; those of a message window are pressed in its own test.
+// Every shortcut of every window, pressed; those of a message window and of the manual are pressed in their own
+// tests.
 #include "mainwindow/PagePreview.h"
 #include "mainwindow/PageWindow.h"
+#include "manuale/Manuale.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
 #include "settings/FormatSelection.h"
@@ -90,7 +92,7 @@ private slots:
     void ctrlBComparesBlocks();
     void ctrlCommaOpensTheOptions();
     void ctrlShiftPOpensThePreview();
-    void f1InformsAboutTheProgram();
+    void f1OpensTheManual();
     void ctrlQAsksToLeave();
 
     void ctrlOOpensAMapping();
@@ -116,6 +118,7 @@ void tst_Shortcuts::noWindowHasOthers()
         QCOMPARE(shortcutsOf(MsgArea(nullptr, fileMode)),
                  (QStringList{QStringLiteral("Ctrl+Q"), QStringLiteral("Ctrl+S")}));
     }
+    QCOMPARE(shortcutsOf(Manuale()), (QStringList{QStringLiteral("Alt+Home"), QStringLiteral("Ctrl+F")}));
     QCOMPARE(shortcutsOf(Options(nullptr)), QStringList());
     QCOMPARE(shortcutsOf(FormatSelection(nullptr)), QStringList());
 }
@@ -168,12 +171,14 @@ void tst_Shortcuts::ctrlShiftPOpensThePreview()
     QVERIFY(preview != nullptr && preview->isVisible());
 }
 
-void tst_Shortcuts::f1InformsAboutTheProgram()
+void tst_Shortcuts::f1OpensTheManual()
 {
     const GeneratedWindow t;
+    QVERIFY(QDir::current().mkpath(QStringLiteral("manual")));
+    QVERIFY(QFile(QStringLiteral("manual/manual_it.html")).open(QIODevice::WriteOnly));
     press(t.window(), Qt::Key_F1, Qt::NoModifier);
-    const auto information = t.child<MsgArea>();
-    QVERIFY(information != nullptr && information->isVisible());
+    const auto manual = t.child<Manuale>();
+    QVERIFY(manual != nullptr && manual->isVisible());
 }
 
 void tst_Shortcuts::ctrlQAsksToLeave()

@@ -39,6 +39,7 @@ starts_in() {
 
 links_are_ours_in() {
     is "$(readlink "$1/language")" "$shared/language"
+    is "$(readlink "$1/manual")" "$shared/manual"
     is "$(readlink "$1/default.png")" "$shared/default.png"
 }
 
@@ -168,6 +169,14 @@ links_of_the_users_own() {
     starts_in "$HOME/Quintra"
     is "$(readlink "$HOME/Quintra/default.png")" ../picture
     is "$(readlink "$HOME/Quintra/language")" ../translations
+}
+
+manual_of_the_users_own() {
+    mkdir -p "$HOME/Quintra/manual"
+    echo mine >"$HOME/Quintra/manual/manual_it.html"
+    starts_in "$HOME/Quintra"
+    is "$(ls "$HOME/Quintra/manual")" manual_it.html
+    is "$(cat "$HOME/Quintra/manual/manual_it.html")" mine
 }
 
 # From an installation that is gone, and from one that is still there.
@@ -320,7 +329,7 @@ the_program_is_a_stub
 [ $# -gt 0 ] || set -- documents_folder no_documents_folder documents_folder_that_is_gone folder_of_an_earlier_release \
     folder_of_an_earlier_release_elsewhere documents_folder_of_another_name folder_thrown_away \
     untouched_copy_of_the_picture picture_cut_off_by_a_full_disk picture_of_the_users_own \
-    translations_of_the_users_own links_of_the_users_own upgrade missing_home read_only_home \
+    translations_of_the_users_own manual_of_the_users_own links_of_the_users_own upgrade missing_home read_only_home \
     read_only_folder_with_settings read_only_folder_without_settings documents_folder_that_is_closed \
     message_on_the_screen message_without_a_screen message_in_the_users_language the_program_itself
 failed=0

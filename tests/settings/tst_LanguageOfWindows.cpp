@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generation/GUtils.h"
 #include "mainwindow/MainWindow.h"
+#include "manuale/Manuale.h"
 #include "model/Cartella.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
@@ -84,7 +85,7 @@ public:
     BoxScript boxes;
 };
 
-enum Window { Main, FirstStart, Settings, Mapping, Evening, NewGame, Messages };
+enum Window { Main, FirstStart, Settings, Mapping, Evening, NewGame, Manual, Messages };
 
 std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
 {
@@ -106,6 +107,8 @@ std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
         return std::make_unique<Serata>();
     case NewGame:
         return std::make_unique<NuovaPartita>(Intervallo(), 0);
+    case Manual:
+        return std::make_unique<Manuale>();
     default:
         return std::make_unique<MsgArea>(nullptr, true);
     }
@@ -333,6 +336,7 @@ private slots:
     void noMnemonicIsTwiceInAMenu_data();
     void noMnemonicIsTwiceInAMenu();
     void aMnemonicTwiceInAMenuIsFound();
+    void theShownLanguageIsKnown();
     void theKindsOfCellsHaveDifferentInitials_data();
     void theKindsOfCellsHaveDifferentInitials();
 
@@ -359,7 +363,7 @@ void tst_LanguageOfWindows::addWindows()
     const Row rows[] = {{Main, QLatin1String("MainWindow")},  {FirstStart, QLatin1String("FormatSelection")},
                         {Settings, QLatin1String("Options")}, {Mapping, QLatin1String("EditPersonale")},
                         {Evening, QLatin1String("Serata")},   {NewGame, QLatin1String("NuovaPartita")},
-                        {Messages, QLatin1String("MsgArea")}};
+                        {Manual, QLatin1String("Manuale")},   {Messages, QLatin1String("MsgArea")}};
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("window");
     QTest::addColumn<QString>("className");
@@ -534,7 +538,8 @@ void tst_LanguageOfWindows::noMnemonicIsTwiceInAMenu()
     QVERIFY(program.speak(language));
     const std::unique_ptr<QWidget> shown = makeWindow(window, &cartella);
     const auto *withMenus = qobject_cast<QMainWindow *>(shown.get());
-    QCOMPARE(withMenus == nullptr, window == FirstStart || window == Settings || window == NewGame);
+    const QSet<int> dialogs = {FirstStart, Settings, NewGame, Manual};
+    QCOMPARE(withMenus == nullptr, dialogs.contains(window));
     if (withMenus != nullptr) {
         QVERIFY(!withMenus->menuWidget()->findChildren<QMenu *>().isEmpty());
         for (const QAction *menu : withMenus->menuWidget()->actions()) {
@@ -558,6 +563,24 @@ void tst_LanguageOfWindows::aMnemonicTwiceInAMenuIsFound()
     QVERIFY(program.speak(QStringLiteral("ma_DE")));
     const MainWindow window;
     QCOMPARE(repeatedMnemonics(window), QStringList({QStringLiteral("Tw&o"), QStringLiteral("Eigh&t")}));
+}
+
+void tst_LanguageOfWindows::theShownLanguageIsKnown()
+{
+    QCOMPARE(shownLanguage(), sourceLanguage);
+    Program program;
+    for (const QString &language : languages) {
+        QVERIFY(program.speak(language));
+        QCOMPARE(shownLanguage(), language);
+    }
+    program.speak(QStringLiteral("it_CH"));
+    QCOMPARE(shownLanguage(), sourceLanguage);
+    QVERIFY(!program.speak(QStringLiteral("xx_XX")));
+    QCOMPARE(shownLanguage(), sourceLanguage);
+    program.folder.write(QStringLiteral("language/Quintra_ma_DE.qm"),
+                         madeTranslation({{QStringLiteral("Manuale"), QStringLiteral("Cerca"), QStringLiteral("x")}}));
+    QVERIFY(program.speak(QStringLiteral("ma_DE")));
+    QVERIFY(shownLanguage() != sourceLanguage); // its texts are in a language that it does not tell
 }
 
 void tst_LanguageOfWindows::theKindsOfCellsHaveDifferentInitials_data()

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "manuale/Manuale.h"
+
+#include "resources/Resources.h"
+#include "ui_Manuale.h"
+
+#include <QScrollBar>
+
+namespace {
+constexpr int pageMargin = 16;     // pixels
+constexpr int darkLightness = 128; // of a background, below it
+
+// The toolkit's blue is not readable on dark palettes, which mostly leave it as it is.
+QString linkColour(const QPalette &palette)
+{
+    return palette.color(QPalette::Base).lightness() < darkLightness ? QStringLiteral("#8ab4f8")
+                                                                     : QStringLiteral("#0b57d0");
+}
+} // namespace
+
+Manuale::Manuale(QWidget *parent)
+    : QDialog(parent)
+    , ui(std::make_unique<Ui::Manuale>())
+{
+    initQuintraResources();
+    ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    ui->testo_browser->document()->setDocumentMargin(pageMargin);
+    colourLinks();
+    connectCommands();
+}
+
+Manuale::~Manuale() = default;
+
+void Manuale::connectCommands()
+{
+    ui->indietro_button->setShortcut(QKeySequence(QStringLiteral("Alt+Left")));
+    ui->indice_button->setShortcut(QKeySequence(QStringLiteral("Alt+Home")));
+    addAction(ui->actionCerca);
+    connect(ui->indietro_button, &QPushButton::clicked, ui->testo_browser, &QTextBrowser::backward);
+    connect(ui->testo_browser, &QTextBrowser::backwardAvailable, ui->indietro_button, &QPushButton::setEnabled);
+    connect(ui->indice_button, &QPushButton::clicked, ui->testo_browser, &QTextBrowser::home);
+    connect(ui->actionCerca, &QAction::triggered, ui->cerca_edit, qOverload<>(&QWidget::setFocus));
+    connect(ui->actionCerca, &QAction::triggered, ui->cerca_edit, &QLineEdit::selectAll);
+    connect(ui->cerca_edit, &QLineEdit::returnPressed, this, &Manuale::findNext);
+    connect(ui->cerca_edit, &QLineEdit::textChanged, ui->esito_label, &QLabel::clear);
+}
+
+void Manuale::showFile(const QString &fileName)
+{
+    const QUrl url = QUrl::fromLocalFile(fileName);
+    if (ui->testo_browser->source().adjusted(QUrl::RemoveFragment) != url) {
+        ui->testo_browser->setSource(url);
+        ui->testo_browser->clearHistory();
+        ui->testo_browser->setFocus();
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+// From the place shown on, and after the end from the beginning.
+void Manuale::findNext()
+{
+    const QString text = ui->cerca_edit->text();
+    if (text.isEmpty() || ui->testo_browser->find(text)) {
+        return;
+    }
+    const QTextCursor before = ui->testo_browser->textCursor();
+    ui->testo_browser->moveCursor(QTextCursor::Start);
+    if (!ui->testo_browser->find(text)) {
+        ui->testo_browser->setTextCursor(before);
+        ui->esito_label->setText(tr("Testo non trovato!"));
+    }
+}
+
+// Takes effect with the next loading.
+void Manuale::colourLinks()
+{
+    ui->testo_browser->document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(linkColour(palette())));
+}
+
+void Manuale::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) {
+        return;
+    }
+    const int place = ui->testo_browser->verticalScrollBar()->value();
+    colourLinks();
+    ui->testo_browser->reload();
+    ui->testo_browser->verticalScrollBar()->setValue(place);
+}
