@@ -211,6 +211,15 @@ read_only_folder_with_settings() {
     starts_in "$HOME/Quintra"
 }
 
+read_only_folder_of_an_earlier_release() {
+    starts_in "$HOME/Quintra"
+    echo settings >"$HOME/Quintra/config.ini"
+    rm "$HOME/Quintra/manual"
+    chmod a-w "$HOME/Quintra"
+    starts_in "$HOME/Quintra"
+    [ ! -e "$HOME/Quintra/manual" ]
+}
+
 read_only_folder_without_settings() {
     starts_in "$HOME/Quintra"
     chmod a-w "$HOME/Quintra"
@@ -330,7 +339,8 @@ the_program_is_a_stub
     folder_of_an_earlier_release_elsewhere documents_folder_of_another_name folder_thrown_away \
     untouched_copy_of_the_picture picture_cut_off_by_a_full_disk picture_of_the_users_own \
     translations_of_the_users_own manual_of_the_users_own links_of_the_users_own upgrade missing_home read_only_home \
-    read_only_folder_with_settings read_only_folder_without_settings documents_folder_that_is_closed \
+    read_only_folder_with_settings read_only_folder_of_an_earlier_release read_only_folder_without_settings \
+    documents_folder_that_is_closed \
     message_on_the_screen message_without_a_screen message_in_the_users_language the_program_itself
 failed=0
 set +e # in the condition of || it would hold for the case too
