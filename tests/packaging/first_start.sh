@@ -30,6 +30,7 @@ wait_for visible >"$HOME/dialog"
 dialog=$(cat "$HOME/dialog")
 grep -q "^;Zahlen" "$HOME/Quintra/config.ini"
 [ -s "$HOME/Quintra/default.png" ]
+[ -s "$HOME/Quintra/manual/manual_en.html" ]
 xdotool windowactivate --sync "$dialog" key --window "$dialog" Return
 wait_for other_than "$dialog"
 xprop -id "$main" WM_CLASS | grep -q '"quintra", "Quintra"'

@@ -41,6 +41,10 @@ for file in changelog.Debian.gz changelog.gz copyright; do
     [ -s "$root/usr/share/doc/quintra/$file" ] || fails "There is no $file."
 done
 [ -s "$root/usr/share/man/man1/quintra.1.gz" ] || fails "There is no page of the manual."
+for language in it en; do
+    grep -q "^<html lang=\"$language\">" "$root/usr/share/quintra/manual/manual_$language.html" ||
+        fails "There is no manual in the language $language."
+done
 sh "$project/tests/packaging/desktop_files.sh" "$project" "$root/usr/share"
 
 program=$root/usr/libexec/quintra/quintra
