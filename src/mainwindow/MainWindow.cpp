@@ -7,6 +7,7 @@
 #include "manuale/Manuale.h"
 #include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
+#include "personale/EditPersonale.h"
 #include "resources/Resources.h"
 #include "settings/Options.h"
 #include "settings/Product.h"
@@ -111,6 +112,10 @@ void MainWindow::replaceCardSet(std::unique_ptr<Cartella> cartella)
 {
     m_watchedPages.forgetAll();
     m_cartella = std::move(cartella);
+    m_pagesBeforeEditor = m_cartella->getNumPages();
+    for (EditPersonale *editor : findChildren<EditPersonale *>()) {
+        editor->setCardSet(m_cartella.get());
+    }
     connect(m_cartella.get(), &Cartella::checkForEqualBlocksStatus, this, &MainWindow::updateStatusBar);
     updatePreview();
 }

@@ -215,7 +215,7 @@ private:
     QPointer<PagePreview> m_preview;  // deletes itself when closed
     QPointer<EditPersonale> m_editor; // deletes itself when closed
     int m_pageShown = 0;              // 1-based, 0 for none
-    int m_pagesBeforeEditor = 0;      // page count when the editor was opened
+    int m_pagesBeforeEditor = 0;      // page count of the set when the editor got it
     bool m_leaving = false;           // the user has confirmed leaving
     bool m_generated = false;         // a card set has been generated
     bool m_unprinted = false;         // it was changed after it was printed

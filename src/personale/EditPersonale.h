@@ -34,6 +34,9 @@ public:
                   U8 append);
     ~EditPersonale() override;
 
+    // Pages made from now on go to this card set, which took the place of the one before.
+    void setCardSet(Cartella *cartella) { m_cartella = cartella; }
+
 signals:
     // The user has confirmed closing.
     void done();

@@ -136,6 +136,7 @@ private slots:
     void pagesAreAppendedToThoseMadeByHand();
     void pagesMadeByHandAreShownAfterAllWereDeleted();
     void theWindowMayGoWhileTheEditorIsOpen();
+    void anOpenEditorMakesItsPagesForTheNewCardSet();
     void anUnreadableDefaultImageIsToldOncePerGeneration();
     void theMemoryWarningHasNoAsDefault();
     void failedPagesAreToldInOneBoxWhenWanted();
@@ -720,6 +721,34 @@ void tst_MainWindowGeneration::theWindowMayGoWhileTheEditorIsOpen()
     const QPointer<EditPersonale> editor = openEditor(page);
     page.window.reset();
     QVERIFY(editor.isNull());
+}
+
+// No input leads there, for the editor is modal; a caller may.
+void tst_MainWindowGeneration::anOpenEditorMakesItsPagesForTheNewCardSet()
+{
+    PageWindow page;
+    set(page, "numeropagine", 3);
+    page.press("butt_aggiungi_pagine");
+    set(page, "numeropagine", 2);
+    EditPersonale *const first = openEditor(page);
+    EditPersonale *const second = [&page, first]() {
+        page.window->generate(true);
+        const auto editors = page.window->findChildren<EditPersonale *>();
+        return editors.first() == first ? editors.last() : editors.first();
+    }();
+    QVERIFY(second != first);
+    page.check("MappaManuale");
+    set(page, "numeropagine", 1);
+    QVERIFY(page.window->generate(false));
+    first->on_checkboxRClicked(0, 0); // asks the set for a name
+    createPages(page, second);
+    QCOMPARE(page.set()->getNumPages(), 3);
+    closeEditor(page, second);
+    QCOMPARE(page.shown("pagine_lcdNumber"), 3);
+    QCOMPARE(page.pageNumber()->value(), 2);
+    createPages(page, first);
+    closeEditor(page, first);
+    QCOMPARE(page.shown("pagine_lcdNumber"), 5);
 }
 
 void tst_MainWindowGeneration::anUnreadableDefaultImageIsToldOncePerGeneration()
