@@ -24,6 +24,7 @@
 #include <QMessageBox>
 #include <QMetaMethod>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTest>
@@ -38,14 +39,18 @@
 #include <numeric>
 #include <random>
 #include <set>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 namespace {
-constexpr int stepsOfASession = 150;
-constexpr unsigned longestSession = 240; // seconds, after which it counts as one that never ends
-constexpr int deepest = 3;               // boxes in the middle of boxes
+constexpr int stepsOfASession = 1000;
+// Seconds after which a session counts as one that never ends: of the processor, and of one that waits for ever.
+constexpr rlim_t longestWork = 240;
+constexpr unsigned longestWait = 3600;
+constexpr int deepest = 3;      // boxes in the middle of boxes
+constexpr int stepsToPaint = 8; // windows are painted in one step of so many, for that takes most of the time
 
 // Of the whole set: what it holds can be reached, and no page stands in it twice.
 bool isSound(const Cartella &set)
@@ -79,6 +84,17 @@ bool takesInput(const QWidget &widget)
     return widget.objectName() != QLatin1String("qt_spinbox_lineedit") &&
            std::any_of(classes.begin(), classes.end(), [&widget](const char *name) { return widget.inherits(name); });
 }
+
+// Quickly painted, and without the pictures that every box and file dialog would read again.
+class PlainStyle final : public QProxyStyle
+{
+public:
+    PlainStyle()
+        : QProxyStyle(QStringLiteral("windows"))
+    {
+    }
+    QIcon standardIcon(StandardPixmap, const QStyleOption *, const QWidget *) const override { return QIcon(); }
+};
 
 class RandomUser final : public QObject
 {
@@ -134,6 +150,7 @@ private:
     bool m_telling;
     std::mt19937 m_random;
     int m_depth = 0;
+    bool m_painting = true;
     std::unique_ptr<MainWindow> m_window;
 };
 
@@ -156,6 +173,7 @@ bool RandomUser::step(int number)
 {
     std::seed_seq seeds{m_seed, static_cast<unsigned>(number)};
     m_random.seed(seeds);
+    m_painting = number % stepsToPaint == 0;
     if (!m_window->isVisible()) {
         startAnew();
     }
@@ -174,7 +192,8 @@ QString RandomUser::problem() const
     if (!isSound(*m_window->cardSet())) {
         return QStringLiteral("a page is missing or stands in the set twice");
     }
-    if (QApplication::overrideCursor() != nullptr) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    if (std::any_of(windows.begin(), windows.end(), [](QWidget *w) { return w->cursor().shape() == Qt::WaitCursor; })) {
         return QStringLiteral("the wait cursor was left on");
     }
     const int shown = m_window->findChild<QSpinBox *>(QStringLiteral("pagina_corrente_spinBox"))->value();
@@ -194,9 +213,9 @@ void RandomUser::act()
     const int kind = below(20);
     if (kind < 1 && openEditor() == nullptr) {
         makePages();
-    } else if (kind < 4) {
+    } else if (kind < 3) {
         triggerAction();
-    } else if (kind < 15) {
+    } else if (kind < 14) {
         useAnyWidget();
     } else if (kind < 17) {
         pressKey();
@@ -398,10 +417,11 @@ void RandomUser::pressKey()
     }
 }
 
-// One without parameters, or with one that is a number, a switch or a colour.
+// One without parameters, or with one that is a number, a switch or a colour. No editor in front keeps a caller from
+// the slots of the main window.
 void RandomUser::callSlot()
 {
-    QObject *owner = openEditor() != nullptr ? openEditor() : m_window.get();
+    QObject *owner = below(2) == 0 ? m_window.get() : anyWindow();
     std::vector<QMetaMethod> methods;
     const QMetaObject *meta = owner->metaObject();
     for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
@@ -412,6 +432,9 @@ void RandomUser::callSlot()
             (types.isEmpty() || (types.size() == 1 && known.contains(types.first())))) {
             methods.push_back(method);
         }
+    }
+    if (methods.empty() || qstrncmp(meta->className(), "Q", 1) == 0) {
+        return; // what the toolkit calls itself is none of ours
     }
     const QMetaMethod method = anyOf(methods);
     tell("calls", owner, QString::fromLatin1(method.methodSignature()));
@@ -442,14 +465,14 @@ void RandomUser::closeOrResize()
     }
 }
 
-// Every dialog that takes the input is answered when its loop runs.
+// Every dialog that takes the input is answered when its loop runs. A paint event that is kept back is none.
 bool RandomUser::eventFilter(QObject *watched, QEvent *event)
 {
     auto *dialog = qobject_cast<QDialog *>(watched);
     if (event->type() == QEvent::Show && dialog != nullptr && dialog->isModal()) {
         QTimer::singleShot(0, dialog, [this, dialog]() { answer(dialog); });
     }
-    return false;
+    return event->type() == QEvent::Paint && !m_painting;
 }
 
 void RandomUser::answer(QWidget *dialog)
@@ -523,6 +546,7 @@ int play(unsigned seed, const std::vector<int> &steps, bool telling)
     qputenv("QT_LOGGING_RULES", "default.warning=false");
     qSetGlobalQHashSeed(0);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setStyle(new PlainStyle);
     QApplication app(argc, argv.data());
     QApplication::setQuitOnLastWindowClosed(false);
     const ScratchFolder folder;
@@ -539,7 +563,9 @@ bool endsWell(unsigned seed, const std::vector<int> &steps, bool telling = false
     std::fflush(stdout);
     const pid_t child = fork();
     if (child == 0) {
-        alarm(longestSession);
+        const rlimit work{longestWork, longestWork};
+        setrlimit(RLIMIT_CPU, &work);
+        alarm(longestWait);
         if (!telling) {
             const int nothing = open("/dev/null", O_WRONLY | O_CLOEXEC);
             dup2(nothing, STDOUT_FILENO);
