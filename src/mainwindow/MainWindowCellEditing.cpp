@@ -4,6 +4,7 @@
 #include "generation/CellImage.h"
 #include "generation/DefaultCell.h"
 #include "mainwindow/PageTable.h"
+#include "msgarea/WaitCursor.h"
 #include "settings/Product.h"
 #include "ui_MainWindow.h"
 
@@ -26,6 +27,14 @@ QPixmap iconOf(const QImage &image)
         return QPixmap::fromImage(image);
     }
     return QPixmap::fromImage(image.scaled(largest, largest, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+// A large one takes its time.
+QImage readPicture(QWidget *window, const QString &path)
+{
+    letClosedDialogsDisappear();
+    const WaitCursor wait(window);
+    return loadCellImage(path);
 }
 
 // A mouse press elsewhere ends the editing of a cell before it reaches the widget it is meant for. Its release goes to
@@ -214,7 +223,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
         qWarning("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");
         return;
     }
-    const QImage image = loadCellImage(path);
+    const QImage image = readPicture(this, path);
     if (!confirmImage(tr("L'immagine per la cella selezionata è quella visisbile. Proseguire?"), image)) {
         return;
     }

@@ -65,7 +65,6 @@ bool MainWindow::generateUndisturbed(bool append)
             ui->butt_aggiungi_pagine->setFocus();
         }
     });
-    letClosedDialogsDisappear();
     return generate(append);
 }
 
@@ -95,6 +94,7 @@ bool MainWindow::generate(bool append)
         return false;
     }
     const CardParameters requested = parameters();
+    letClosedDialogsDisappear();
     if (append) {
         if (!appendEmptyPages(requested)) {
             return false;
@@ -191,6 +191,7 @@ bool MainWindow::tellOfFailedPage(int page)
                     QMessageBox::Ok, this);
     box.setCheckBox(new QCheckBox(tr("Riassumi le altre in un solo messaggio")));
     box.exec();
+    letClosedDialogsDisappear(); // the generation goes on
     return box.checkBox()->isChecked();
 }
 
@@ -211,6 +212,7 @@ bool MainWindow::openEditor(bool append)
         updateStatusBar(tr("Creazione annullata."));
         return false;
     }
+    letClosedDialogsDisappear();
     updateStatusBar(tr("Sto creando l'ambiente per la mappatura manuale, attendere..."));
     m_pagesBeforeEditor = m_cartella->getNumPages();
     {

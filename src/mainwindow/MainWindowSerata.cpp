@@ -28,6 +28,7 @@ void MainWindow::saveRegister()
 
 void MainWindow::openEvening()
 {
+    letClosedDialogsDisappear();
     const WaitCursor wait(this);
     const CardParameters now = parameters();
     Serata::open(this, *m_cartella, static_cast<quint32>(now.minimum), static_cast<quint32>(now.maximum));

@@ -80,6 +80,7 @@ void MainWindow::disconnectColourPicker()
 void MainWindow::recolour(const std::function<void()> &change)
 {
     const QScopedValueRollback<bool> guard(m_editGuard, true);
+    m_colorDialog->hide(); // it tells of the colour before it closes
     letClosedDialogsDisappear();
     const WaitCursor waiting(this);
     change();
@@ -277,6 +278,7 @@ void MainWindow::on_actionConfronta_blocchi_triggered()
         return;
     }
     ui->actionConfronta_blocchi->setEnabled(false);
+    letClosedDialogsDisappear();
     QString summary;
     qint64 pairs = 0;
     {
@@ -297,6 +299,7 @@ void MainWindow::on_actionConfronta_blocchi_triggered()
 
 void MainWindow::showEqualBlocks(qint64 pairs)
 {
+    letClosedDialogsDisappear();
     const WaitCursor waiting(this);
     QStringList lines = m_cartella->equalBlockLines(mostLines).toList();
     if (pairs > lines.size()) {

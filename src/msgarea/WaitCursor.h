@@ -25,8 +25,9 @@ private:
     QCursor m_before;
 };
 
-// A dialog that was just closed stays painted until events are handled: to be called before long work begins.
+// A dialog or menu that was just closed stays painted until events are handled: to be called before long work begins.
 inline void letClosedDialogsDisappear()
 {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    constexpr int milliseconds = 100; // at most: all events that wait, not only the first few
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, milliseconds);
 }

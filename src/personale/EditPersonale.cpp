@@ -245,6 +245,7 @@ void EditPersonale::createPages()
     if (const int total = m_cartella->getNumPages() + m_pageCount; total > maxPages) {
         errore = tr("Le pagine totali richieste (%1)\neccedono il massimo consentito (%2).").arg(total).arg(maxPages);
     } else {
+        letClosedDialogsDisappear();
         const WaitCursor wait(this);
         created = m_generatore->generaPagine(m_pageCount, m_pages, m_cartella, m_nmin, m_nmax, errore);
     }

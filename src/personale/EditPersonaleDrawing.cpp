@@ -88,6 +88,7 @@ void EditPersonale::on_impostaschemacorrenteButton_clicked()
              tr("Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?"))) {
         return;
     }
+    letClosedDialogsDisappear();
     {
         const WaitCursor wait(this);
         const int end = qMin<int>(ui->impostaAspinBox->value(), m_pageCount);

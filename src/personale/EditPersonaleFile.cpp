@@ -63,6 +63,7 @@ void EditPersonale::on_actionSave_triggered()
         return;
     }
     globalConfig->rememberFolder(fileName);
+    letClosedDialogsDisappear();
     const QString loss = writeMapping(fileName);
     showSaveReport(fileName);
     if (!loss.isEmpty()) {
@@ -163,6 +164,7 @@ void EditPersonale::on_actionOpen_triggered()
         return;
     }
     globalConfig->rememberFolder(fileName);
+    letClosedDialogsDisappear();
     const QString failure = readMapping(fileName);
     if (!failure.isEmpty()) {
         warn(tr("Errore nella lettura del file:\n%1\n\n%2").arg(fileName, failure));
@@ -186,6 +188,7 @@ QString EditPersonale::readMapping(const QString &fileName)
         ui->statusBar->showMessage(tr("Apertura file annullata!"));
         return QString();
     }
+    letClosedDialogsDisappear();
     replacePages(reading.pagine);
     showPagesOrReason(!failure.isEmpty() ? failure : tr("Nessuna riga del file descrive una pagina."));
     ui->statusBar->showMessage(tr("Apertura completata!"));

@@ -53,8 +53,10 @@ Serata::EveningBefore Serata::askAbout(const SerataSalvata &serata)
            "comincia una nuova, e quella viene messa da parte.")
             .arg(QDir::toNativeSeparators(SerataSalvata::diarioOf(serata.registro())))
             .arg(serata.callsBefore());
-    switch (QMessageBox::question(this, windowTitle(), text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                                  QMessageBox::Yes)) {
+    const QMessageBox::StandardButton answer = QMessageBox::question(
+        this, windowTitle(), text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    letClosedDialogsDisappear();
+    switch (answer) {
     case QMessageBox::Yes:
         return EveningBefore::GoesOn;
     case QMessageBox::No:
@@ -89,6 +91,7 @@ bool Serata::beginElsewhere(const Cartella &cartella, Intervallo numeri, const Q
         return false;
     }
     globalConfig->defaultSaveDir = folder;
+    letClosedDialogsDisappear();
     return openSet(cartella, numeri);
 }
 
@@ -175,6 +178,7 @@ void Serata::chooseRegister()
         say(tr("Questo registro è già aperto."));
         return;
     }
+    letClosedDialogsDisappear();
     openRegister(fileName);
 }
 
