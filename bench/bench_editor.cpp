@@ -95,6 +95,22 @@ Quantity switchingPages(U16 pages)
     };
 }
 
+// All cells of one page, side x side, ticked and unticked.
+Quantity togglingAll(U8 side)
+{
+    return [side]() {
+        Cartella cartella;
+        const EditPersonale editor(nullptr, &cartella, side, side, 1, 1, 90, 0);
+        editor.findChild<QAbstractButton *>(QStringLiteral("selezione_tutte_ckbox"))->setChecked(true);
+        deliverEvents();
+        return processorTime([&editor]() {
+            for (const char *button : {"riempiButton", "svuotaButton"}) {
+                editor.findChild<QAbstractButton *>(QLatin1String(button))->click();
+            }
+        });
+    };
+}
+
 // As many numbers as the classic generator gives: every column uses up its range of 1 to 90.
 std::vector<PaginaPersonale> drawnPages()
 {
@@ -166,6 +182,8 @@ const Ratio opening("opening the editor, 1000 pages of 18 x 9 / bare check boxes
 const Ratio closing("closing it / deleting bare check boxes", closingEditor, deletingBare, Ratio::Bound::AtMost, 3, 5);
 const Ratio switching("switching pages, 1000 / 2 pages", switchingPages(manyPages), switchingPages(2),
                       Ratio::Bound::AtMost, 1.5, 5);
+const Ratio toggling("ticking and unticking all cells, 60 x 60 / 30 x 30", togglingAll(60), togglingAll(30),
+                     Ratio::Bound::AtMost, 8, 5);
 const Ratio creating("creating 1000 pages per column / classic, told to bare boxes", creatingPerColumn, creatingClassic,
                      Ratio::Bound::AtMost, 2, 5);
 } // namespace

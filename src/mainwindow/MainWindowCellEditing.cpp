@@ -127,6 +127,7 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
     setContent(*cell, typed);
     if (asked.page() == shownPage()) {
         showContent(place, m_table == table && cell->tipo == before && !text.isEmpty());
+        tableItemSelectionChanged();
         if (keyboardInTable) { // which a question took away
             m_table->setCurrentCell(place.row, place.column, QItemSelectionModel::NoUpdate);
             m_table->setFocus();
@@ -140,15 +141,10 @@ void MainWindow::showContent(const TablePosition &place, bool asTyped)
 {
     QTableWidgetItem *item = m_table->item(place.row, place.column);
     const Cella &cell = *cellAt(*shownPage(), place.row, place.column);
-    {
-        const QScopedValueRollback<bool> guard(m_editGuard, true);
-        item->setToolTip(cellTip(cell));
-        if (!asTyped) {
-            item->setText(cellText(cell, DefaultCell::text()));
-        }
-    }
-    if (item->isSelected()) {
-        tableItemSelectionChanged();
+    const QScopedValueRollback<bool> guard(m_editGuard, true);
+    item->setToolTip(cellTip(cell));
+    if (!asTyped) {
+        item->setText(cellText(cell, DefaultCell::text()));
     }
 }
 
@@ -163,17 +159,21 @@ void MainWindow::clearSelectedCells()
     }
     const WatchedPages::Hold asked(m_watchedPages, page);
     const Cella typed = askWhatIsTyped(QString());
+    letClosedDialogsDisappear();
     if (asked.page() == nullptr) {
         return;
     }
+    const WaitCursor wait(this);
+    const bool shown = asked.page() == shownPage();
     for (const TablePosition &place : places) {
         if (Cella *cell = cellAt(*asked.page(), place.row, place.column)) {
             setContent(*cell, typed);
-            if (asked.page() == shownPage()) {
+            if (shown) {
                 showContent(place, false);
             }
         }
     }
+    tableItemSelectionChanged(); // once: it looks at all selected cells
     cardSetChanged();
 }
 
@@ -233,6 +233,7 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
         cell->immagine = image;
         if (asked.page() == shownPage()) {
             showContent(place, true);
+            tableItemSelectionChanged();
         }
         cardSetChanged();
         updateStatusBar(tr("Immagine impostata correttamente."));

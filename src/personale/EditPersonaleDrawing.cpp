@@ -6,6 +6,8 @@
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 
+#include <QButtonGroup>
+
 // The bounds of the selection stay on the page, and each pushes the other one along.
 
 void EditPersonale::on_row_from_spinBox_valueChanged(int v)
@@ -41,9 +43,15 @@ void EditPersonale::forEachCellInScope(const std::function<void(PersonaleChkBox 
     const int endRow = all ? page.nRighe : qMin<int>(ui->row_to_spinBox->value(), page.nRighe);
     const int firstColumn = all ? 0 : ui->col_from_spinBox->value() - 1;
     const int endColumn = all ? page.nColonne : qMin<int>(ui->col_to_spinBox->value(), page.nColonne);
+    // A box that is unticked asks its group; without one it would look at all boxes of the page.
+    QButtonGroup group;
+    group.setExclusive(false);
+    int id = 0;
     for (int row = firstRow; row < endRow; ++row) {
         for (int column = firstColumn; column < endColumn; ++column) {
-            action(page.cell(row, column));
+            PersonaleChkBox &box = page.cell(row, column);
+            group.addButton(&box, id++); // with an id of its own: else all ids are looked at
+            action(box);
         }
     }
 }

@@ -102,6 +102,7 @@ private slots:
     void theWarningOfThePrint();
     void theFileDialogOfTheRegister();
     void theFileDialogOfThePicture();
+    void theQuestionAboutDeletedCells();
     void theColourPicker();
     void theFontDialog();
     void theMenuOfTheComparison();
@@ -181,6 +182,19 @@ void tst_ClosedDialogs::theFileDialogOfThePicture()
                                 QDir::current().filePath(QStringLiteral("default.png")));
     page.boxes.expectBox(QStringLiteral("Quintra - Modifica valori"), QMessageBox::Yes, [](QMessageBox *) {});
     page.press("buttSelezionaImmagine");
+    closed.verifyGoneBeforeTheWork();
+}
+
+void tst_ClosedDialogs::theQuestionAboutDeletedCells()
+{
+    PageWindow page;
+    page.showPages(1, {1, 1, 2});
+    page.window->activateWindow();
+    page.table()->setFocus();
+    page.table()->selectAll();
+    const ClosedDialogs closed;
+    page.boxes.expectBox(QStringLiteral("Quintra - Modifica valori"), QMessageBox::Yes, [](QMessageBox *) {});
+    QTest::keyClick(page.table(), Qt::Key_Delete);
     closed.verifyGoneBeforeTheWork();
 }
 
