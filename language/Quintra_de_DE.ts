@@ -45,6 +45,21 @@ Die Karten einer Seite sind immer verschieden.</translation>
     </message>
 </context>
 <context>
+    <name>CasellaAccessibile</name>
+    <message>
+        <source>riga %1, colonna %2, %3, %4</source>
+        <translation>Reihe %1, Spalte %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>spuntata</source>
+        <translation>angekreuzt</translation>
+    </message>
+    <message>
+        <source>non spuntata</source>
+        <translation>nicht angekreuzt</translation>
+    </message>
+</context>
+<context>
     <name>CaselleDelegate</name>
     <message>
         <source>%1, chiamato</source>
@@ -1503,6 +1518,10 @@ Möchten Sie trotzdem fortfahren?</translation>
         <source>Il testo non è stato toccato.</source>
         <translation>Der Text wurde nicht verändert.</translation>
     </message>
+    <message>
+        <source>Testo</source>
+        <translation>Text</translation>
+    </message>
 </context>
 <context>
     <name>NuovaPartita</name>
@@ -1657,6 +1676,14 @@ Ersetzen?</translation>
     <message>
         <source>L&apos;immagine di base non può essere letta.</source>
         <translation>Das Standardbild kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>blocco %1, riga %2, colonna %3, %4</source>
+        <translation>Karte %1, Reihe %2, Spalte %3, %4</translation>
+    </message>
+    <message>
+        <source>cella mancante</source>
+        <translation>fehlendes Feld</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2097,40 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und dieser wird beiseitegelegt.</
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Unlesbare Zeilen in der Datei der Züge: %1!</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenContent</name>
+    <message>
+        <source>numero</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>numero %1</source>
+        <translation>Zahl %1</translation>
+    </message>
+    <message>
+        <source>testo</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>testo %1</source>
+        <translation>Text %1</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>vuota</source>
+        <translation>leer</translation>
+    </message>
+</context>
+<context>
+    <name>TabelloneModel</name>
+    <message>
+        <source>nessun numero</source>
+        <translation>keine Zahl</translation>
     </message>
 </context>
 </TS>

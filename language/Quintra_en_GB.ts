@@ -45,6 +45,21 @@ The cards on a page are always different.</translation>
     </message>
 </context>
 <context>
+    <name>CasellaAccessibile</name>
+    <message>
+        <source>riga %1, colonna %2, %3, %4</source>
+        <translation>row %1, column %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>spuntata</source>
+        <translation>ticked</translation>
+    </message>
+    <message>
+        <source>non spuntata</source>
+        <translation>not ticked</translation>
+    </message>
+</context>
+<context>
     <name>CaselleDelegate</name>
     <message>
         <source>%1, chiamato</source>
@@ -1503,6 +1518,10 @@ Do you want to continue anyway?</translation>
         <source>Il testo non è stato toccato.</source>
         <translation>The text has not been touched.</translation>
     </message>
+    <message>
+        <source>Testo</source>
+        <translation>Text</translation>
+    </message>
 </context>
 <context>
     <name>NuovaPartita</name>
@@ -1657,6 +1676,14 @@ Replace it?</translation>
     <message>
         <source>L&apos;immagine di base non può essere letta.</source>
         <translation>The default picture cannot be read.</translation>
+    </message>
+    <message>
+        <source>blocco %1, riga %2, colonna %3, %4</source>
+        <translation>card %1, row %2, column %3, %4</translation>
+    </message>
+    <message>
+        <source>cella mancante</source>
+        <translation>missing cell</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2097,40 @@ Continue that one? With No a new one begins, and that one is put aside.</transla
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Unreadable lines in the file of the calls: %1!</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenContent</name>
+    <message>
+        <source>numero</source>
+        <translation>number</translation>
+    </message>
+    <message>
+        <source>numero %1</source>
+        <translation>number %1</translation>
+    </message>
+    <message>
+        <source>testo</source>
+        <translation>text</translation>
+    </message>
+    <message>
+        <source>testo %1</source>
+        <translation>text %1</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>picture</translation>
+    </message>
+    <message>
+        <source>vuota</source>
+        <translation>empty</translation>
+    </message>
+</context>
+<context>
+    <name>TabelloneModel</name>
+    <message>
+        <source>nessun numero</source>
+        <translation>no number</translation>
     </message>
 </context>
 </TS>

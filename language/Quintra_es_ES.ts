@@ -45,6 +45,21 @@ Los cartones de una página son siempre distintos.</translation>
     </message>
 </context>
 <context>
+    <name>CasellaAccessibile</name>
+    <message>
+        <source>riga %1, colonna %2, %3, %4</source>
+        <translation>fila %1, columna %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>spuntata</source>
+        <translation>marcada</translation>
+    </message>
+    <message>
+        <source>non spuntata</source>
+        <translation>no marcada</translation>
+    </message>
+</context>
+<context>
     <name>CaselleDelegate</name>
     <message>
         <source>%1, chiamato</source>
@@ -1503,6 +1518,10 @@ MB libres: %2
         <source>Il testo non è stato toccato.</source>
         <translation>El texto no se ha modificado.</translation>
     </message>
+    <message>
+        <source>Testo</source>
+        <translation>Texto</translation>
+    </message>
 </context>
 <context>
     <name>NuovaPartita</name>
@@ -1657,6 +1676,14 @@ Sostituirlo?</source>
     <message>
         <source>L&apos;immagine di base non può essere letta.</source>
         <translation>No se puede leer la imagen predeterminada.</translation>
+    </message>
+    <message>
+        <source>blocco %1, riga %2, colonna %3, %4</source>
+        <translation>cartón %1, fila %2, columna %3, %4</translation>
+    </message>
+    <message>
+        <source>cella mancante</source>
+        <translation>casilla inexistente</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2097,40 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Líneas ilegibles en el archivo de bolas: %1!</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenContent</name>
+    <message>
+        <source>numero</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>numero %1</source>
+        <translation>número %1</translation>
+    </message>
+    <message>
+        <source>testo</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>testo %1</source>
+        <translation>texto %1</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>imagen</translation>
+    </message>
+    <message>
+        <source>vuota</source>
+        <translation>vacía</translation>
+    </message>
+</context>
+<context>
+    <name>TabelloneModel</name>
+    <message>
+        <source>nessun numero</source>
+        <translation>ningún número</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,21 @@ Les cartons d&apos;une page sont toujours différents.</translation>
     </message>
 </context>
 <context>
+    <name>CasellaAccessibile</name>
+    <message>
+        <source>riga %1, colonna %2, %3, %4</source>
+        <translation>ligne %1, colonne %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>spuntata</source>
+        <translation>cochée</translation>
+    </message>
+    <message>
+        <source>non spuntata</source>
+        <translation>non cochée</translation>
+    </message>
+</context>
+<context>
     <name>CaselleDelegate</name>
     <message>
         <source>%1, chiamato</source>
@@ -1503,6 +1518,10 @@ Voulez-vous continuer quand même&#xa0;?</translation>
         <source>Il testo non è stato toccato.</source>
         <translation>Le texte n&apos;a pas été modifié.</translation>
     </message>
+    <message>
+        <source>Testo</source>
+        <translation>Texte</translation>
+    </message>
 </context>
 <context>
     <name>NuovaPartita</name>
@@ -1657,6 +1676,14 @@ Le remplacer&#xa0;?</translation>
     <message>
         <source>L&apos;immagine di base non può essere letta.</source>
         <translation>L&apos;image par défaut ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>blocco %1, riga %2, colonna %3, %4</source>
+        <translation>carton %1, ligne %2, colonne %3, %4</translation>
+    </message>
+    <message>
+        <source>cella mancante</source>
+        <translation>case manquante</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2097,40 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et celle-là est mise
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Lignes illisibles dans le fichier des tirages&#xa0;: %1&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenContent</name>
+    <message>
+        <source>numero</source>
+        <translation>numéro</translation>
+    </message>
+    <message>
+        <source>numero %1</source>
+        <translation>numéro %1</translation>
+    </message>
+    <message>
+        <source>testo</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>testo %1</source>
+        <translation>texte %1</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>image</translation>
+    </message>
+    <message>
+        <source>vuota</source>
+        <translation>vide</translation>
+    </message>
+</context>
+<context>
+    <name>TabelloneModel</name>
+    <message>
+        <source>nessun numero</source>
+        <translation>aucun numéro</translation>
     </message>
 </context>
 </TS>

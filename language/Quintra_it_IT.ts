@@ -45,6 +45,21 @@ I blocchi di una pagina sono sempre diversi.</translation>
     </message>
 </context>
 <context>
+    <name>CasellaAccessibile</name>
+    <message>
+        <source>riga %1, colonna %2, %3, %4</source>
+        <translation>riga %1, colonna %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>spuntata</source>
+        <translation>spuntata</translation>
+    </message>
+    <message>
+        <source>non spuntata</source>
+        <translation>non spuntata</translation>
+    </message>
+</context>
+<context>
     <name>CaselleDelegate</name>
     <message>
         <source>%1, chiamato</source>
@@ -1503,6 +1518,10 @@ Vuoi proseguire comunque?</translation>
         <source>Il testo non è stato toccato.</source>
         <translation>Il testo non è stato toccato.</translation>
     </message>
+    <message>
+        <source>Testo</source>
+        <translation>Testo</translation>
+    </message>
 </context>
 <context>
     <name>NuovaPartita</name>
@@ -1657,6 +1676,14 @@ Sostituirlo?</translation>
     <message>
         <source>L&apos;immagine di base non può essere letta.</source>
         <translation>L&apos;immagine di base non può essere letta.</translation>
+    </message>
+    <message>
+        <source>blocco %1, riga %2, colonna %3, %4</source>
+        <translation>blocco %1, riga %2, colonna %3, %4</translation>
+    </message>
+    <message>
+        <source>cella mancante</source>
+        <translation>cella mancante</translation>
     </message>
 </context>
 <context>
@@ -2070,6 +2097,40 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Righe illeggibili nel file delle chiamate: %1!</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenContent</name>
+    <message>
+        <source>numero</source>
+        <translation>numero</translation>
+    </message>
+    <message>
+        <source>numero %1</source>
+        <translation>numero %1</translation>
+    </message>
+    <message>
+        <source>testo</source>
+        <translation>testo</translation>
+    </message>
+    <message>
+        <source>testo %1</source>
+        <translation>testo %1</translation>
+    </message>
+    <message>
+        <source>immagine</source>
+        <translation>immagine</translation>
+    </message>
+    <message>
+        <source>vuota</source>
+        <translation>vuota</translation>
+    </message>
+</context>
+<context>
+    <name>TabelloneModel</name>
+    <message>
+        <source>nessun numero</source>
+        <translation>nessun numero</translation>
     </message>
 </context>
 </TS>

@@ -12,6 +12,7 @@
 #include "settings/Options.h"
 #include "settings/Product.h"
 #include "ui_MainWindow.h"
+#include "widgets/DisplayAccessibile.h"
 
 #include <QCloseEvent>
 #include <QColorDialog>
@@ -24,6 +25,7 @@ MainWindow::MainWindow(QWidget *parent)
     , ui(std::make_unique<Ui::MainWindow>())
 {
     initQuintraResources();
+    DisplayAccessibile::install();
     ui->setupUi(this);
     setupShortcuts();
     connectCommands();

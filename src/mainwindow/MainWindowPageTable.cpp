@@ -3,6 +3,7 @@
 
 #include "generation/DefaultCell.h"
 #include "mainwindow/PageTable.h"
+#include "mainwindow/TabellaPagina.h"
 #include "model/Positions.h"
 #include "msgarea/WaitCursor.h"
 #include "ui_MainWindow.h"
@@ -85,7 +86,11 @@ QTableWidget *MainWindow::replaceTable()
             delete m_table;
         }
     }
-    m_table = new QTableWidget(ui->centralwidget);
+    const auto cellName = [this](int row, int column) {
+        const Pagina *page = shownPage();
+        return page != nullptr ? spokenCell(*page, row, column, DefaultCell::text()) : QString();
+    };
+    m_table = new TabellaPagina(cellName, ui->centralwidget);
     m_table->setObjectName(QStringLiteral("tableWidget"));
     m_table->setAccessibleName(tr("Celle della pagina"));
     m_table->setTabKeyNavigation(false); // else the keyboard cannot leave it

@@ -71,6 +71,7 @@ void MainWindow::showSettingStatus(Verdict verdict, const QString &toolTip)
 {
     ui->label_settingstatus->setPixmap(QPixmap(verdictIcon(verdict)));
     ui->label_settingstatus->setToolTip(toolTip);
+    ui->label_settingstatus->setAccessibleName(toolTip);
     ui->label_settingmessage->setText(toolTip);
 }
 

@@ -8,6 +8,7 @@
 #include "settings/Product.h"
 #include "ui_PagePreview.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -52,6 +53,15 @@ private:
     QImage m_image;
 };
 
+namespace {
+// A screen reader takes the sheet for a picture, not for just any part of a window.
+QAccessibleInterface *interfaceOf(const QString &, QObject *object)
+{
+    auto *sheet = dynamic_cast<Foglio *>(object);
+    return sheet != nullptr ? new QAccessibleWidget(sheet, QAccessible::Graphic) : nullptr; // the toolkit owns it
+}
+} // namespace
+
 PagePreview::PagePreview(QWidget *parent)
     : QDialog(parent)
     , ui(std::make_unique<Ui::PagePreview>())
@@ -60,6 +70,7 @@ PagePreview::PagePreview(QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowTitle(Product::titleFor(tr("Anteprima di stampa")));
+    QAccessible::installFactory(interfaceOf);
     m_sheet = new Foglio;
     ui->foglio_scrollArea->setWidget(m_sheet);
     connect(ui->precedente_button, &QPushButton::clicked, this, [this]() { wantPage(m_page - 1); });
@@ -88,6 +99,7 @@ void PagePreview::showTexts()
         m_set.isNull()
             ? tr("La cartella è vuota!")
             : tr("Pagina %1 di %2, %3").arg(m_page + 1).arg(pages).arg(GUtils::paperFormatName(m_set->formato)));
+    m_sheet->setAccessibleName(ui->pagina_label->text());
 }
 
 // A page that the set does not have is not asked for.

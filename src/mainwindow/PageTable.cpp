@@ -2,7 +2,9 @@
 #include "mainwindow/PageTable.h"
 
 #include "generation/GUtils.h"
+#include "mainwindow/TabellaPagina.h"
 #include "model/Positions.h"
+#include "model/SpokenContent.h"
 #include "model/Types.h"
 
 #include <QBrush>
@@ -17,6 +19,23 @@ namespace {
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(PageTable)
+};
+
+// Asks its table what a screen reader says of it.
+class PageItem final : public QTableWidgetItem
+{
+public:
+    using QTableWidgetItem::QTableWidgetItem;
+    explicit PageItem(const QTableWidgetItem &other)
+        : QTableWidgetItem(other)
+    {
+    }
+
+    QVariant data(int role) const override
+    {
+        const auto *table = role == Qt::AccessibleTextRole ? dynamic_cast<TabellaPagina *>(tableWidget()) : nullptr;
+        return table != nullptr ? table->cellName(row(), column()) : QTableWidgetItem::data(role);
+    }
 };
 
 QTableWidgetItem fillerItem()
@@ -46,7 +65,7 @@ public:
         if (cell.coloreSfondo != m_background || cell.coloreTesto != m_foreground) {
             wear(cell);
         }
-        auto *item = new QTableWidgetItem(m_alike);
+        auto *item = new PageItem(m_alike);
         const QString text = cellText(cell, m_emptyText);
         if (!text.isEmpty()) {
             item->setText(text);
@@ -95,6 +114,18 @@ QString cellTip(const Cella &cell)
     return withoutPicture ? Text::tr("L'immagine di base non può essere letta.") : QString();
 }
 
+QString spokenCell(const Pagina &page, int row, int column, const QString &emptyText)
+{
+    const std::optional<RowPosition> position = rowPosition(page, row);
+    const Cella *cell = cellAt(page, row, column);
+    if (!position) {
+        return QString();
+    }
+    return Text::tr("blocco %1, riga %2, colonna %3, %4")
+        .arg(QString::number(position->block + 1), QString::number(position->row + 1), QString::number(column + 1),
+             cell != nullptr ? spokenContent(cell->tipo, cellText(*cell, emptyText)) : Text::tr("cella mancante"));
+}
+
 std::optional<quint32> typedNumber(const QString &text)
 {
     const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
@@ -128,7 +159,7 @@ void fillTable(QTableWidget *table, const Pagina &page, int columns, const QStri
                 table->setItem(tableRow, column++, items.make(cell));
             }
             while (column < columns) {
-                table->setItem(tableRow, column++, new QTableWidgetItem(filler));
+                table->setItem(tableRow, column++, new PageItem(filler));
             }
             ++tableRow;
         }

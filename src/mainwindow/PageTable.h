@@ -15,6 +15,9 @@ class QTableWidget;
 // What the tool tip of a cell says: why its picture will be missing; mostly empty.
 [[nodiscard]] QString cellTip(const Cella &cell);
 
+// What a screen reader says of a place of the table, such as "blocco 1, riga 2, colonna 3, numero 45".
+[[nodiscard]] QString spokenCell(const Pagina &page, int row, int column, const QString &emptyText);
+
 // The number that a text stands for: one to six decimal digits and nothing else.
 [[nodiscard]] std::optional<quint32> typedNumber(const QString &text);
 

@@ -3,10 +3,12 @@
 
 #include "generation/GUtils.h"
 #include "msgarea/WaitCursor.h"
+#include "personale/CasellaAccessibile.h"
 #include "personale/GeneraCartellaPersonale.h"
 #include "resources/Resources.h"
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
+#include "widgets/DisplayAccessibile.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -44,6 +46,8 @@ EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 co
     , m_available(nmax - nmin + 1)
 {
     initQuintraResources();
+    CasellaAccessibile::install();
+    DisplayAccessibile::install();
     ui->setupUi(this);
     ui->boxesGridLayout->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     if (m_pageCount == 0) {
@@ -225,6 +229,7 @@ void EditPersonale::checkSettings()
 void EditPersonale::showReason(const QString &reason)
 {
     ui->status_label->setToolTip(reason);
+    ui->status_label->setAccessibleName(reason);
     ui->status_text->setText(reason);
 }
 

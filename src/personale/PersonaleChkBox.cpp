@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "personale/PersonaleChkBox.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QHash>
 #include <QKeyEvent>
@@ -91,6 +92,8 @@ void PersonaleChkBox::setTipo(CELL_VALUE value)
     setStatusTip(shared(typeName(value)));
     tipo = value;
     update();
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
 }
 
 void PersonaleChkBox::setPosition(U8 row, U8 column)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "serata/Serata.h"
 
+#include "model/SpokenContent.h"
 #include "resources/Resources.h"
 #include "serata/CaselleDelegate.h"
 #include "serata/ElencoSchede.h"
@@ -54,6 +55,7 @@ QString textOf(const Casella &casella)
 QTableWidgetItem *makeItem(const Casella &casella, const Partita &partita)
 {
     auto *item = new QTableWidgetItem(textOf(casella));
+    item->setData(Qt::AccessibleTextRole, spokenContent(casella.tipo, item->text()));
     if (casella.tipo == CELL_NUMERO) {
         const bool called = partita.turnOf(casella.numero) > 0;
         item->setData(CaselleDelegate::CalledRole, called);

@@ -67,7 +67,7 @@ QVariant TabelloneModel::data(const QModelIndex &index, int role) const
 {
     const auto numero = numberAt(index);
     if (!numero) {
-        return QVariant();
+        return role == Qt::AccessibleTextRole ? tr("nessun numero") : QVariant();
     }
     const bool called = m_partita->turnOf(*numero) > 0;
     switch (role) {

@@ -19,6 +19,7 @@ bool takesWheel(const QObject *input)
 SidePane::SidePane(QWidget *parent)
     : QScrollArea(parent)
 {
+    setFocusPolicy(Qt::NoFocus); // nothing would show it; the pane follows the focus of its inputs
 }
 
 // Room for the scroll bar as well, so that it hides nothing where the window is low.
