@@ -55,7 +55,9 @@ QString textOf(const Casella &casella)
 QTableWidgetItem *makeItem(const Casella &casella, const Partita &partita)
 {
     auto *item = new QTableWidgetItem(textOf(casella));
-    item->setData(Qt::AccessibleTextRole, spokenContent(casella.tipo, item->text()));
+    if (item->text().isEmpty()) {
+        item->setData(Qt::AccessibleTextRole, spokenContent(casella.tipo, QString()));
+    }
     if (casella.tipo == CELL_NUMERO) {
         const bool called = partita.turnOf(casella.numero) > 0;
         item->setData(CaselleDelegate::CalledRole, called);
