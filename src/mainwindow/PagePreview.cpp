@@ -9,9 +9,9 @@
 #include "ui_PagePreview.h"
 
 #include <QAccessibleWidget>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QShortcut>
 
 // The sheet itself. Its picture is made when it is first looked at, and kept until the page or the size changes.
 class Foglio final : public QWidget
@@ -73,8 +73,13 @@ PagePreview::PagePreview(QWidget *parent)
     QAccessible::installFactory(interfaceOf);
     m_sheet = new Foglio;
     ui->foglio_scrollArea->setWidget(m_sheet);
-    connect(ui->precedente_button, &QPushButton::clicked, this, [this]() { wantPage(m_page - 1); });
-    connect(ui->successiva_button, &QPushButton::clicked, this, [this]() { wantPage(m_page + 1); });
+    const auto turnBack = [this]() { wantPage(m_page - 1); };
+    const auto turnOver = [this]() { wantPage(m_page + 1); };
+    connect(ui->precedente_button, &QPushButton::clicked, this, turnBack);
+    connect(ui->successiva_button, &QPushButton::clicked, this, turnOver);
+    // Also from the zoom and from the sheet, which have a use of their own for these keys.
+    connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, turnBack);
+    connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, turnOver);
     connect(ui->zoom_comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PagePreview::fitSheet);
 }
 
@@ -132,20 +137,6 @@ QSize PagePreview::sheetSizeNow() const
     }
     default:
         return sheet;
-    }
-}
-
-void PagePreview::keyPressEvent(QKeyEvent *event)
-{
-    switch (event->key()) {
-    case Qt::Key_PageUp:
-        wantPage(m_page - 1);
-        break;
-    case Qt::Key_PageDown:
-        wantPage(m_page + 1);
-        break;
-    default:
-        QDialog::keyPressEvent(event);
     }
 }
 

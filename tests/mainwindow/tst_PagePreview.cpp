@@ -77,6 +77,7 @@ private slots:
     void previewFollowsThePaper();
     void previewFollowsDeletionsAndNewSets();
     void pagesAreBrowsedInThePreview();
+    void pagesAreBrowsedByKeys_data();
     void pagesAreBrowsedByKeys();
     void zoomFitsPageOrWidthOrShowsFullSize();
     void escapeCloses();
@@ -204,17 +205,30 @@ void tst_PagePreview::pagesAreBrowsedInThePreview()
     QCOMPARE(page.pageNumber()->value(), 1);
 }
 
+void tst_PagePreview::pagesAreBrowsedByKeys_data()
+{
+    QTest::addColumn<QString>("focused");
+    for (const char *name : {"successiva_button", "zoom_comboBox", "foglio_scrollArea"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
 void tst_PagePreview::pagesAreBrowsedByKeys()
 {
+    QFETCH(QString, focused);
     const PageWindow page;
     page.find<QSpinBox>("box_classica_numeropagine")->setValue(2);
     page.press("butt_aggiungi_pagine");
-    PagePreview *preview = openPreview(page);
-    QTest::keyClick(preview, Qt::Key_PageDown);
+    const PagePreview *preview = openPreview(page);
+    zoom(preview, 2); // so that there is something to scroll
+    auto *widget = preview->findChild<QWidget *>(focused);
+    QApplication::setActiveWindow(widget->window());
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_PageDown);
     QCOMPARE(page.pageNumber()->value(), 2);
-    QTest::keyClick(preview, Qt::Key_PageDown);
+    QTest::keyClick(widget, Qt::Key_PageDown);
     QCOMPARE(page.pageNumber()->value(), 2);
-    QTest::keyClick(preview, Qt::Key_PageUp);
+    QTest::keyClick(widget, Qt::Key_PageUp);
     QCOMPARE(page.pageNumber()->value(), 1);
 }
 
