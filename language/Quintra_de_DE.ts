@@ -122,8 +122,8 @@ Seitengröße: %6</translation>
 <context>
     <name>Diario</name>
     <message>
-        <source>la serata è già aperta in un&apos;altra finestra</source>
-        <translation>der Spielabend ist schon in einem anderen Fenster geöffnet</translation>
+        <source>La serata è già aperta in un&apos;altra finestra.</source>
+        <translation>Der Bingoabend ist schon in einem anderen Fenster geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -477,13 +477,13 @@ Größe: %5 Bytes (%6 MB)
 %1</translation>
     </message>
     <message>
-        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+        <source>Le pagine con troppe celle non saranno rilette per intero dal file.
 Pagine: %1</source>
-        <translation>Seiten mit zu vielen Feldern kommen nicht vollständig aus der Datei zurück.
+        <translation>Seiten mit zu vielen Feldern können nicht vollständig wieder eingelesen werden.
 Seiten: %1</translation>
     </message>
     <message>
-        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio prosegue da quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Die angekreuzten und die verfügbaren Zahlen. Auf einer anderen Seite wird weitergezählt, bis ein Typ geändert oder eine Belegung kopiert wird.&lt;/p&gt;</translation>
     </message>
     <message>
@@ -505,11 +505,11 @@ eccedono il massimo consentito (%2).</source>
     <name>ElencoSchede</name>
     <message>
         <source>%1: chiamata %2</source>
-        <translation>%1: Zug %2</translation>
+        <translation>%1: Ziehung %2</translation>
     </message>
     <message>
         <source>%1: manca il %2</source>
-        <translation>%1: es fehlt %2</translation>
+        <translation>%1: es fehlt die %2</translation>
     </message>
 </context>
 <context>
@@ -1240,7 +1240,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>Mostra la pagina come sarà stampata</source>
-        <translation>Die Seite so zeigen, wie sie gedruckt wird</translation>
+        <translation>Seite so anzeigen, wie sie gedruckt wird</translation>
     </message>
     <message>
         <source>Parametri</source>
@@ -1268,7 +1268,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
-        <translation>Um neu zu beginnen, wählen Sie &quot;Neu&quot;</translation>
+        <translation>Um neu zu beginnen, &quot;Neu&quot; wählen</translation>
     </message>
     <message>
         <source>Linea esterna</source>
@@ -1288,7 +1288,7 @@ Möchten Sie sie ansehen?</translation>
     </message>
     <message>
         <source>Serata...</source>
-        <translation>Spielabend...</translation>
+        <translation>Bingoabend...</translation>
     </message>
     <message>
         <source>Chiama i numeri e controlla le schede</source>
@@ -1349,7 +1349,7 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
         <translation>Die übrigen in einer Meldung zusammenfassen</translation>
     </message>
     <message>
-        <source>Valori cambiati di config.ini:
+        <source>Valori di config.ini cambiati:
 %1</source>
         <translation>Geänderte Werte aus config.ini:
 %1</translation>
@@ -1383,7 +1383,7 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     <name>Manuale</name>
     <message>
         <source>Torna dove si leggeva prima</source>
-        <translation>Zurück zu der Stelle, die Sie vorher gelesen haben</translation>
+        <translation>Zurück zur vorher gelesenen Stelle</translation>
     </message>
     <message>
         <source>Indietro</source>
@@ -1391,7 +1391,7 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     </message>
     <message>
         <source>Mostra l&apos;indice del manuale</source>
-        <translation>Zeigt das Inhaltsverzeichnis des Handbuchs</translation>
+        <translation>Inhaltsverzeichnis des Handbuchs anzeigen</translation>
     </message>
     <message>
         <source>Indice</source>
@@ -1403,7 +1403,7 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     </message>
     <message>
         <source>Testo da cercare nel manuale: Invio va al prossimo</source>
-        <translation>Text, der im Handbuch gesucht wird: Die Eingabetaste springt zum nächsten</translation>
+        <translation>Im Handbuch zu suchender Text; die Eingabetaste springt zur nächsten Stelle</translation>
     </message>
     <message>
         <source>Testo del manuale</source>
@@ -1438,7 +1438,7 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     </message>
     <message>
         <source>oltre il numero massimo di pagine (%1)</source>
-        <translation>über der Höchstzahl an Seiten (%1)</translation>
+        <translation>über die Höchstzahl der Seiten (%1) hinaus</translation>
     </message>
     <message>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
@@ -1465,7 +1465,7 @@ MB necessari: %1
 MB liberi: %2
 
 Vuoi proseguire comunque?</source>
-        <translation>Der freie Speicher reicht vielleicht nicht, und das Programm könnte sich beenden.
+        <translation>Der freie Speicher reicht vielleicht nicht, und das Programm könnte abstürzen.
 Benötigte MB: %1
 Freie MB: %2
 
@@ -1535,7 +1535,7 @@ Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>Il numero minimo del tabellone</source>
-        <translation>Die kleinste Zahl der Tafel</translation>
+        <translation>Die kleinste Zahl auf der Zahlentafel</translation>
     </message>
     <message>
         <source>a</source>
@@ -1543,7 +1543,7 @@ Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>Il numero massimo del tabellone</source>
-        <translation>Die größte Zahl der Tafel</translation>
+        <translation>Die größte Zahl auf der Zahlentafel</translation>
     </message>
     <message>
         <source>I numeri chiamati (%1) saranno tolti tutti.</source>
@@ -1624,15 +1624,15 @@ Ersetzen?</translation>
     <name>PagePreview</name>
     <message>
         <source>Mostra la pagina precedente</source>
-        <translation>Die vorige Seite zeigen</translation>
+        <translation>Vorherige Seite anzeigen</translation>
     </message>
     <message>
         <source>Precedente</source>
-        <translation>Vorige</translation>
+        <translation>Vorherige</translation>
     </message>
     <message>
         <source>Mostra la pagina successiva</source>
-        <translation>Die nächste Seite zeigen</translation>
+        <translation>Nächste Seite anzeigen</translation>
     </message>
     <message>
         <source>Successiva</source>
@@ -1644,7 +1644,7 @@ Ersetzen?</translation>
     </message>
     <message>
         <source>Grandezza in cui la pagina è mostrata</source>
-        <translation>Größe, in der die Seite gezeigt wird</translation>
+        <translation>Größe, in der die Seite angezeigt wird</translation>
     </message>
     <message>
         <source>Pagina intera</source>
@@ -1669,6 +1669,10 @@ Ersetzen?</translation>
     <message>
         <source>Pagina %1 di %2, %3</source>
         <translation>Seite %1 von %2, %3</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1796,27 +1800,27 @@ eccedono il massimo consentito (%2).</source>
 <context>
     <name>Registro</name>
     <message>
-        <source>riga vuota</source>
-        <translation>leere Zeile</translation>
+        <source>nessun contenuto</source>
+        <translation>kein Inhalt</translation>
     </message>
     <message>
-        <source>non è finita, il file è stato troncato</source>
-        <translation>nicht vollständig, die Datei wurde abgeschnitten</translation>
+        <source>testo troncato (file incompleto)</source>
+        <translation>Text abgeschnitten (Datei unvollständig)</translation>
     </message>
     <message>
-        <source>troppo lunga per una scheda</source>
-        <translation>zu lang für eine Karte</translation>
+        <source>troppi caratteri per una scheda</source>
+        <translation>zu viele Zeichen für eine Karte</translation>
     </message>
     <message>
-        <source>non comincia con i numeri di pagina e di scheda</source>
-        <translation>beginnt nicht mit den Nummern von Seite und Karte</translation>
+        <source>all&apos;inizio non vi sono numeri validi di pagina e di scheda</source>
+        <translation>am Anfang stehen keine gültigen Nummern von Seite und Karte</translation>
     </message>
     <message>
         <source>manca il segno | prima delle celle</source>
         <translation>das Zeichen | vor den Feldern fehlt</translation>
     </message>
     <message>
-        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
+        <source>una cella non è né un numero, né un testo tra virgolette, né la parola immagine</source>
         <translation>ein Feld ist weder eine Zahl noch ein Text in Anführungszeichen noch das Wort immagine</translation>
     </message>
     <message>
@@ -1825,15 +1829,15 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
-        <translation>die Anführungszeichen eines Textes sind nicht geschlossen oder \ steht falsch</translation>
+        <translation>die Anführungszeichen eines Textes sind nicht geschlossen, oder \ ist falsch verwendet</translation>
     </message>
     <message>
         <source>righe o celle oltre il massimo di %1</source>
-        <translation>Zeilen oder Felder über dem Höchstwert von %1</translation>
+        <translation>Reihen oder Felder über der Höchstzahl von %1</translation>
     </message>
     <message>
-        <source>la scheda c&apos;è già</source>
-        <translation>die Karte gibt es schon</translation>
+        <source>numeri di pagina e di scheda già usati</source>
+        <translation>Nummern von Seite und Karte schon vergeben</translation>
     </message>
     <message>
         <source>Queste righe del registro non sono schede e sono state saltate:</source>
@@ -1856,7 +1860,7 @@ eccedono il massimo consentito (%2).</source>
     <name>Serata</name>
     <message>
         <source>Quintra - Serata</source>
-        <translation>Quintra - Spielabend</translation>
+        <translation>Quintra - Bingoabend</translation>
     </message>
     <message>
         <source>L&apos;ultimo numero chiamato</source>
@@ -1883,7 +1887,7 @@ eccedono il massimo consentito (%2).</source>
         <translation>Zahl</translation>
     </message>
     <message>
-        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <source>Il numero da chiamare; se è già stato chiamato viene tolto</source>
         <translation>Die gezogene Zahl; eine schon gezogene wird zurückgenommen</translation>
     </message>
     <message>
@@ -1916,7 +1920,7 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>Che cosa ha la scheda, e con quale chiamata</source>
-        <translation>Was die Karte hat und mit welchem Zug</translation>
+        <translation>Was die Karte gewonnen hat, und mit welcher Ziehung</translation>
     </message>
     <message>
         <source>Vincite</source>
@@ -1972,7 +1976,7 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>%1: chiamata %2, numero %3</source>
-        <translation>%1: Zug %2, Zahl %3</translation>
+        <translation>%1: Ziehung %2, Zahl %3</translation>
     </message>
     <message>
         <source>Nessuna vincita</source>
@@ -1988,11 +1992,11 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
-        <translation>Nicht im Spiel: %1. Die Zahlen gehen von %2 bis %3!</translation>
+        <translation>Die Zahl %1 ist nicht im Spiel: Die Zahlen gehen von %2 bis %3!</translation>
     </message>
     <message>
         <source>La chiamata non si può salvare, nulla è cambiato.</source>
-        <translation>Der Zug kann nicht gespeichert werden, nichts wurde geändert.</translation>
+        <translation>Die Ziehung kann nicht gespeichert werden; nichts wurde geändert.</translation>
     </message>
     <message>
         <source>Chiamato il %1.</source>
@@ -2008,7 +2012,7 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>Scrivere un numero da %1 a %2!</source>
-        <translation>Bitte eine Zahl eingeben, von %1 bis %2!</translation>
+        <translation>Bitte eine Zahl von %1 bis %2 eingeben!</translation>
     </message>
     <message>
         <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
@@ -2027,8 +2031,8 @@ eccedono il massimo consentito (%2).</source>
         <translation>Gezogene Zahlen: %1 von %2</translation>
     </message>
     <message>
-        <source>Manca un numero: %1</source>
-        <translation>Eine Zahl fehlt: %1</translation>
+        <source>In attesa di un numero: %1</source>
+        <translation>Mit einer fehlenden Zahl: %1</translation>
     </message>
     <message>
         <source>Nessuna scheda</source>
@@ -2040,23 +2044,23 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>La serata di prima non si può mettere da parte.</source>
-        <translation>Der vorige Spielabend kann nicht beiseitegelegt werden.</translation>
+        <translation>Der frühere Bingoabend kann nicht beiseitegelegt werden.</translation>
     </message>
     <message>
         <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
 
 Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
-        <translation>Es gibt einen Spielabend mit anderen Karten (gezogene Zahlen: %2) in %1.
+        <translation>In %1 gibt es einen Bingoabend mit anderen Karten (gezogene Zahlen: %2).
 
-Diesen fortsetzen? Mit Nein beginnt ein neuer, und dieser wird beiseitegelegt.</translation>
+Diesen fortsetzen? Mit Nein beginnt ein neuer, und der alte wird beiseitegelegt.</translation>
     </message>
     <message>
         <source>La serata non si può salvare in %1.</source>
-        <translation>Der Spielabend kann nicht in %1 gespeichert werden.</translation>
+        <translation>Der Bingoabend kann nicht in %1 gespeichert werden.</translation>
     </message>
     <message>
         <source>Dove salvare la serata</source>
-        <translation>Ordner für den Spielabend</translation>
+        <translation>Ordner für den Bingoabend</translation>
     </message>
     <message>
         <source>Il registro non si può leggere.</source>
@@ -2068,11 +2072,11 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und dieser wird beiseitegelegt.</
     </message>
     <message>
         <source>La serata non si può salvare accanto al registro.</source>
-        <translation>Der Spielabend kann nicht neben dem Register gespeichert werden.</translation>
+        <translation>Der Bingoabend kann nicht neben dem Register gespeichert werden.</translation>
     </message>
     <message>
         <source>La serata non può continuare.</source>
-        <translation>Der Spielabend kann nicht fortgesetzt werden.</translation>
+        <translation>Der Bingoabend kann nicht fortgesetzt werden.</translation>
     </message>
     <message>
         <source>Schede: %1. Numeri da %2 a %3. Chiamati: %4.</source>
@@ -2096,7 +2100,11 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und dieser wird beiseitegelegt.</
     </message>
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
-        <translation>Unlesbare Zeilen in der Datei der Züge: %1!</translation>
+        <translation>Unlesbare Zeilen in der Datei der Ziehungen: %1!</translation>
+    </message>
+    <message>
+        <source>Tombola: %1</source>
+        <translation>Bingo: %1</translation>
     </message>
 </context>
 <context>

@@ -122,8 +122,8 @@ Page size: %6</translation>
 <context>
     <name>Diario</name>
     <message>
-        <source>la serata è già aperta in un&apos;altra finestra</source>
-        <translation>the evening is already open in another window</translation>
+        <source>La serata è già aperta in un&apos;altra finestra.</source>
+        <translation>The bingo night is already open in another window.</translation>
     </message>
 </context>
 <context>
@@ -477,13 +477,13 @@ Size: %5 bytes (%6 MB)
 %1</translation>
     </message>
     <message>
-        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+        <source>Le pagine con troppe celle non saranno rilette per intero dal file.
 Pagine: %1</source>
-        <translation>Pages with too many cells will not come back whole from the file.
+        <translation>Pages with too many cells cannot be read back in full from the file.
 Pages: %1</translation>
     </message>
     <message>
-        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio prosegue da quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
         <translation>&lt;p&gt;The numbers ticked, and those available. On another page the count goes on from the one before, until a type is changed or a layout is copied.&lt;/p&gt;</translation>
     </message>
     <message>
@@ -596,7 +596,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Impossibile commentare il file, formato errato!</source>
-        <translation>Cannot add comments to the file, wrong format!</translation>
+        <translation>Cannot add comments to the file: wrong format!</translation>
     </message>
     <message>
         <source>Continua con queste impostazioni</source>
@@ -1284,7 +1284,7 @@ Do you want to see them?</translation>
     </message>
     <message>
         <source>Salva le schede in un file di testo, una per riga</source>
-        <translation>Saves the cards to a text file, one a line</translation>
+        <translation>Save the cards to a text file, one per line</translation>
     </message>
     <message>
         <source>Serata...</source>
@@ -1292,7 +1292,7 @@ Do you want to see them?</translation>
     </message>
     <message>
         <source>Chiama i numeri e controlla le schede</source>
-        <translation>Calls the numbers and checks the cards</translation>
+        <translation>Call the numbers and check the cards</translation>
     </message>
     <message>
         <source>Salva il registro su file</source>
@@ -1327,7 +1327,7 @@ Cells with pictures will be printed blank.</translation>
     <message>
         <source>Lo spazio tra i blocchi è troppo grande per il foglio: le cartelle escono dalla pagina.
 Pagine: %1</source>
-        <translation>The space between the cards is too large for the paper: the cards leave the page.
+        <translation>The space between the cards is too large for the paper: the cards run off the page.
 Pages: %1</translation>
     </message>
     <message>
@@ -1346,12 +1346,12 @@ Other pages not generated (counted from 1): %1</translation>
     </message>
     <message>
         <source>Riassumi le altre in un solo messaggio</source>
-        <translation>Sum up the others in one message</translation>
+        <translation>Summarise the others in one message</translation>
     </message>
     <message>
-        <source>Valori cambiati di config.ini:
+        <source>Valori di config.ini cambiati:
 %1</source>
-        <translation>Values of config.ini changed:
+        <translation>Changed values of config.ini:
 %1</translation>
     </message>
     <message>
@@ -1360,11 +1360,11 @@ Other pages not generated (counted from 1): %1</translation>
     </message>
     <message>
         <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
-        <translation>Prints its number beside each card, for example 12.3</translation>
+        <translation>Print its number beside each card, for example 12.3</translation>
     </message>
     <message>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
-        <translation>Card numbers not printed for want of room: %1.</translation>
+        <translation>Card numbers not printed for lack of space: %1.</translation>
     </message>
     <message>
         <source>Manuale</source>
@@ -1383,7 +1383,7 @@ Other pages not generated (counted from 1): %1</translation>
     <name>Manuale</name>
     <message>
         <source>Torna dove si leggeva prima</source>
-        <translation>Back to where you were reading before</translation>
+        <translation>Go back to where you were reading before</translation>
     </message>
     <message>
         <source>Indietro</source>
@@ -1391,7 +1391,7 @@ Other pages not generated (counted from 1): %1</translation>
     </message>
     <message>
         <source>Mostra l&apos;indice del manuale</source>
-        <translation>Shows the contents of the manual</translation>
+        <translation>Show the contents of the manual</translation>
     </message>
     <message>
         <source>Indice</source>
@@ -1403,7 +1403,7 @@ Other pages not generated (counted from 1): %1</translation>
     </message>
     <message>
         <source>Testo da cercare nel manuale: Invio va al prossimo</source>
-        <translation>Text to search for in the manual: Enter goes to the next one</translation>
+        <translation>Text to search for in the manual; Enter goes to the next match</translation>
     </message>
     <message>
         <source>Testo del manuale</source>
@@ -1465,7 +1465,7 @@ MB necessari: %1
 MB liberi: %2
 
 Vuoi proseguire comunque?</source>
-        <translation>The free memory may not be enough, and the program may close.
+        <translation>The free memory may not be enough, and the program may crash.
 MB needed: %1
 MB free: %2
 
@@ -1516,7 +1516,7 @@ Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Il testo non è stato toccato.</source>
-        <translation>The text has not been touched.</translation>
+        <translation>The text has not been changed.</translation>
     </message>
     <message>
         <source>Testo</source>
@@ -1535,7 +1535,7 @@ Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Il numero minimo del tabellone</source>
-        <translation>The lowest number of the board</translation>
+        <translation>The lowest number on the board</translation>
     </message>
     <message>
         <source>a</source>
@@ -1543,7 +1543,7 @@ Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Il numero massimo del tabellone</source>
-        <translation>The highest number of the board</translation>
+        <translation>The highest number on the board</translation>
     </message>
     <message>
         <source>I numeri chiamati (%1) saranno tolti tutti.</source>
@@ -1644,7 +1644,7 @@ Replace it?</translation>
     </message>
     <message>
         <source>Grandezza in cui la pagina è mostrata</source>
-        <translation>Size in which the page is shown</translation>
+        <translation>Size at which the page is shown</translation>
     </message>
     <message>
         <source>Pagina intera</source>
@@ -1669,6 +1669,10 @@ Replace it?</translation>
     <message>
         <source>Pagina %1 di %2, %3</source>
         <translation>Page %1 of %2, %3</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
     </message>
 </context>
 <context>
@@ -1796,28 +1800,28 @@ exceeds the maximum allowed (%2).</translation>
 <context>
     <name>Registro</name>
     <message>
-        <source>riga vuota</source>
-        <translation>empty line</translation>
+        <source>nessun contenuto</source>
+        <translation>no content</translation>
     </message>
     <message>
-        <source>non è finita, il file è stato troncato</source>
-        <translation>not complete, the file was cut off</translation>
+        <source>testo troncato (file incompleto)</source>
+        <translation>text cut off (file incomplete)</translation>
     </message>
     <message>
-        <source>troppo lunga per una scheda</source>
-        <translation>too long for a card</translation>
+        <source>troppi caratteri per una scheda</source>
+        <translation>too many characters for a card</translation>
     </message>
     <message>
-        <source>non comincia con i numeri di pagina e di scheda</source>
-        <translation>does not begin with the numbers of page and card</translation>
+        <source>all&apos;inizio non vi sono numeri validi di pagina e di scheda</source>
+        <translation>no valid numbers of page and card at the start</translation>
     </message>
     <message>
         <source>manca il segno | prima delle celle</source>
         <translation>the sign | before the cells is missing</translation>
     </message>
     <message>
-        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
-        <translation>a cell is no number, no text in quotes and not the word immagine</translation>
+        <source>una cella non è né un numero, né un testo tra virgolette, né la parola immagine</source>
+        <translation>a cell is neither a number nor a text in quotes nor the word immagine</translation>
     </message>
     <message>
         <source>un numero è maggiore di %1</source>
@@ -1832,12 +1836,12 @@ exceeds the maximum allowed (%2).</translation>
         <translation>rows or cells beyond the maximum of %1</translation>
     </message>
     <message>
-        <source>la scheda c&apos;è già</source>
-        <translation>the card is there already</translation>
+        <source>numeri di pagina e di scheda già usati</source>
+        <translation>page and card numbers already used</translation>
     </message>
     <message>
         <source>Queste righe del registro non sono schede e sono state saltate:</source>
-        <translation>These lines of the register are no cards and were skipped:</translation>
+        <translation>These lines of the register are not cards and were skipped:</translation>
     </message>
     <message>
         <source>Riga %1: %2.</source>
@@ -1883,12 +1887,12 @@ exceeds the maximum allowed (%2).</translation>
         <translation>Number</translation>
     </message>
     <message>
-        <source>Il numero da chiamare; se era chiamato viene tolto</source>
-        <translation>The number to call; one called already is taken back</translation>
+        <source>Il numero da chiamare; se è già stato chiamato viene tolto</source>
+        <translation>The number to call; one already called is taken back</translation>
     </message>
     <message>
         <source>Chiama a caso uno dei numeri rimasti</source>
-        <translation>Calls one of the remaining numbers at random</translation>
+        <translation>Call one of the remaining numbers at random</translation>
     </message>
     <message>
         <source>Estrai</source>
@@ -1908,7 +1912,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Mostra la scheda con i numeri chiamati</source>
-        <translation>Shows the card with the numbers called</translation>
+        <translation>Show the card with the numbers called</translation>
     </message>
     <message>
         <source>Controlla</source>
@@ -1916,7 +1920,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Che cosa ha la scheda, e con quale chiamata</source>
-        <translation>What the card has, and by which call</translation>
+        <translation>What the card has won, and with which call</translation>
     </message>
     <message>
         <source>Vincite</source>
@@ -1948,7 +1952,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Toglie tutti i numeri chiamati e ricomincia</source>
-        <translation>Takes all called numbers back and begins again</translation>
+        <translation>Take back all called numbers and begin again</translation>
     </message>
     <message>
         <source>Apri registro...</source>
@@ -1980,7 +1984,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>La partita non si può cominciare.</source>
-        <translation>The game cannot be begun.</translation>
+        <translation>The game cannot start.</translation>
     </message>
     <message>
         <source>Nuova partita, numeri da %1 a %2.</source>
@@ -1988,11 +1992,11 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
-        <translation>Not in play: %1. The numbers go from %2 to %3!</translation>
+        <translation>Number %1 is not in play: the numbers go from %2 to %3!</translation>
     </message>
     <message>
         <source>La chiamata non si può salvare, nulla è cambiato.</source>
-        <translation>The call cannot be saved, nothing has changed.</translation>
+        <translation>The call cannot be saved; nothing has changed.</translation>
     </message>
     <message>
         <source>Chiamato il %1.</source>
@@ -2008,11 +2012,11 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Scrivere un numero da %1 a %2!</source>
-        <translation>Please type a number from %1 to %2!</translation>
+        <translation>Type a number from %1 to %2!</translation>
     </message>
     <message>
         <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
-        <translation>Please type page and card, for example 12.3!</translation>
+        <translation>Type page and card, for example 12.3!</translation>
     </message>
     <message>
         <source>La scheda %1 non esiste!</source>
@@ -2027,7 +2031,7 @@ exceeds the maximum allowed (%2).</translation>
         <translation>Numbers called: %1 of %2</translation>
     </message>
     <message>
-        <source>Manca un numero: %1</source>
+        <source>In attesa di un numero: %1</source>
         <translation>One to go: %1</translation>
     </message>
     <message>
@@ -2040,7 +2044,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>La serata di prima non si può mettere da parte.</source>
-        <translation>The bingo night before cannot be put aside.</translation>
+        <translation>The earlier bingo night cannot be put aside.</translation>
     </message>
     <message>
         <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
@@ -2048,7 +2052,7 @@ exceeds the maximum allowed (%2).</translation>
 Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
         <translation>There is a bingo night with other cards (numbers called: %2) in %1.
 
-Continue that one? With No a new one begins, and that one is put aside.</translation>
+Continue that one? With No a new one begins, and the old one is put aside.</translation>
     </message>
     <message>
         <source>La serata non si può salvare in %1.</source>
@@ -2080,7 +2084,7 @@ Continue that one? With No a new one begins, and that one is put aside.</transla
     </message>
     <message>
         <source>Questo registro è già aperto.</source>
-        <translation>This register is open already.</translation>
+        <translation>This register is already open.</translation>
     </message>
     <message>
         <source>&amp;Partita</source>
@@ -2096,7 +2100,11 @@ Continue that one? With No a new one begins, and that one is put aside.</transla
     </message>
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
-        <translation>Unreadable lines in the file of the calls: %1!</translation>
+        <translation>Unreadable lines in the file of calls: %1!</translation>
+    </message>
+    <message>
+        <source>Tombola: %1</source>
+        <translation>Full house: %1</translation>
     </message>
 </context>
 <context>

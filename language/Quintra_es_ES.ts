@@ -122,8 +122,8 @@ Tamaño de página: %6</translation>
 <context>
     <name>Diario</name>
     <message>
-        <source>la serata è già aperta in un&apos;altra finestra</source>
-        <translation>la velada ya está abierta en otra ventana</translation>
+        <source>La serata è già aperta in un&apos;altra finestra.</source>
+        <translation>La noche de bingo ya está abierta en otra ventana.</translation>
     </message>
 </context>
 <context>
@@ -322,7 +322,7 @@ Tamaño de página: %6</translation>
     </message>
     <message>
         <source>&lt;p&gt;Salva lo schema delle pagine su file. Una pagina con più di 255 celle non può essere riletta per intero e l&apos;opzione &quot;Ordina numeri sulle colonne&quot; non viene salvata.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Guardar el diseño de las páginas en un archivo. Una página con más de 255 casillas no se puede volver a leer entera y la opción «Extraer números por columnas» no se guarda.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Guardar el diseño de las páginas en un archivo. Una página con más de 255 casillas no se puede volver a leer entera, y la opción «Extraer números por columnas» no se guarda.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Esci</source>
@@ -477,13 +477,13 @@ Tamaño: %5 bytes (%6 MB)
 %1</translation>
     </message>
     <message>
-        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+        <source>Le pagine con troppe celle non saranno rilette per intero dal file.
 Pagine: %1</source>
-        <translation>Las páginas con demasiadas casillas no se recuperarán completas del archivo.
+        <translation>Las páginas con demasiadas casillas no se podrán volver a leer enteras.
 Páginas: %1</translation>
     </message>
     <message>
-        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio prosegue da quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Los números marcados y los disponibles. Al cambiar de página la cuenta sigue desde la anterior, hasta que se cambia un tipo o se copia un diseño.&lt;/p&gt;</translation>
     </message>
     <message>
@@ -1272,11 +1272,11 @@ Vuoi visualizzarli?</source>
     </message>
     <message>
         <source>Linea esterna</source>
-        <translation>Línea exterior</translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Linea interna</source>
-        <translation>Línea interior</translation>
+        <translation>Cuadrícula</translation>
     </message>
     <message>
         <source>Salva registro...</source>
@@ -1284,7 +1284,7 @@ Vuoi visualizzarli?</source>
     </message>
     <message>
         <source>Salva le schede in un file di testo, una per riga</source>
-        <translation>Guarda los cartones en un archivo de texto, uno por línea</translation>
+        <translation>Guardar los cartones en un archivo de texto, uno por línea</translation>
     </message>
     <message>
         <source>Serata...</source>
@@ -1292,7 +1292,7 @@ Vuoi visualizzarli?</source>
     </message>
     <message>
         <source>Chiama i numeri e controlla le schede</source>
-        <translation>Canta los números y comprueba los cartones</translation>
+        <translation>Cantar los números y comprobar los cartones</translation>
     </message>
     <message>
         <source>Salva il registro su file</source>
@@ -1332,7 +1332,7 @@ Páginas: %1</translation>
     </message>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
-        <translation>¡El color de las líneas todavía no tiene efecto!</translation>
+        <translation>¡El color de las líneas aún no tiene efecto!</translation>
     </message>
     <message>
         <source>Immagine...</source>
@@ -1349,7 +1349,7 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
         <translation>Resumir las demás en un solo mensaje</translation>
     </message>
     <message>
-        <source>Valori cambiati di config.ini:
+        <source>Valori di config.ini cambiati:
 %1</source>
         <translation>Valores de config.ini cambiados:
 %1</translation>
@@ -1360,7 +1360,7 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     </message>
     <message>
         <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
-        <translation>Imprime junto a cada cartón su número, por ejemplo 12.3</translation>
+        <translation>Imprimir junto a cada cartón su número, por ejemplo 12.3</translation>
     </message>
     <message>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
@@ -1383,7 +1383,7 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     <name>Manuale</name>
     <message>
         <source>Torna dove si leggeva prima</source>
-        <translation>Vuelve a donde se leía antes</translation>
+        <translation>Volver a donde se leía antes</translation>
     </message>
     <message>
         <source>Indietro</source>
@@ -1391,7 +1391,7 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     </message>
     <message>
         <source>Mostra l&apos;indice del manuale</source>
-        <translation>Muestra el índice del manual</translation>
+        <translation>Mostrar el índice del manual</translation>
     </message>
     <message>
         <source>Indice</source>
@@ -1403,7 +1403,7 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     </message>
     <message>
         <source>Testo da cercare nel manuale: Invio va al prossimo</source>
-        <translation>Texto que buscar en el manual: Intro va al siguiente</translation>
+        <translation>Texto que buscar en el manual; Intro va a la siguiente aparición</translation>
     </message>
     <message>
         <source>Testo del manuale</source>
@@ -1465,7 +1465,7 @@ MB necessari: %1
 MB liberi: %2
 
 Vuoi proseguire comunque?</source>
-        <translation>Puede que la memoria libre no baste y que el programa se cierre.
+        <translation>Puede que la memoria libre no baste y que el programa se cierre inesperadamente.
 MB necesarios: %1
 MB libres: %2
 
@@ -1670,6 +1670,10 @@ Sostituirlo?</source>
         <source>Pagina %1 di %2, %3</source>
         <translation>Página %1 de %2, %3</translation>
     </message>
+    <message>
+        <source>100%</source>
+        <translation>100&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>PageTable</name>
@@ -1796,28 +1800,28 @@ supera el máximo permitido (%2).</translation>
 <context>
     <name>Registro</name>
     <message>
-        <source>riga vuota</source>
-        <translation>línea vacía</translation>
+        <source>nessun contenuto</source>
+        <translation>sin contenido</translation>
     </message>
     <message>
-        <source>non è finita, il file è stato troncato</source>
-        <translation>incompleta, el archivo está cortado</translation>
+        <source>testo troncato (file incompleto)</source>
+        <translation>texto cortado (archivo incompleto)</translation>
     </message>
     <message>
-        <source>troppo lunga per una scheda</source>
-        <translation>demasiado larga para un cartón</translation>
+        <source>troppi caratteri per una scheda</source>
+        <translation>demasiados caracteres para un cartón</translation>
     </message>
     <message>
-        <source>non comincia con i numeri di pagina e di scheda</source>
-        <translation>no empieza con los números de página y de cartón</translation>
+        <source>all&apos;inizio non vi sono numeri validi di pagina e di scheda</source>
+        <translation>al principio no hay números válidos de página y de cartón</translation>
     </message>
     <message>
         <source>manca il segno | prima delle celle</source>
         <translation>falta el signo | antes de las casillas</translation>
     </message>
     <message>
-        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
-        <translation>una casilla no es un número, ni un texto entre comillas, ni la palabra immagine</translation>
+        <source>una cella non è né un numero, né un testo tra virgolette, né la parola immagine</source>
+        <translation>una casilla no es ni un número, ni un texto entre comillas, ni la palabra immagine</translation>
     </message>
     <message>
         <source>un numero è maggiore di %1</source>
@@ -1832,8 +1836,8 @@ supera el máximo permitido (%2).</translation>
         <translation>filas o casillas por encima del máximo de %1</translation>
     </message>
     <message>
-        <source>la scheda c&apos;è già</source>
-        <translation>el cartón ya existe</translation>
+        <source>numeri di pagina e di scheda già usati</source>
+        <translation>números de página y de cartón ya usados</translation>
     </message>
     <message>
         <source>Queste righe del registro non sono schede e sono state saltate:</source>
@@ -1883,12 +1887,12 @@ supera el máximo permitido (%2).</translation>
         <translation>Número</translation>
     </message>
     <message>
-        <source>Il numero da chiamare; se era chiamato viene tolto</source>
+        <source>Il numero da chiamare; se è già stato chiamato viene tolto</source>
         <translation>El número que se canta; si ya estaba cantado, se retira</translation>
     </message>
     <message>
         <source>Chiama a caso uno dei numeri rimasti</source>
-        <translation>Saca al azar uno de los números que quedan</translation>
+        <translation>Sacar al azar uno de los números que quedan</translation>
     </message>
     <message>
         <source>Estrai</source>
@@ -1908,7 +1912,7 @@ supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Mostra la scheda con i numeri chiamati</source>
-        <translation>Muestra el cartón con los números cantados</translation>
+        <translation>Mostrar el cartón con los números cantados</translation>
     </message>
     <message>
         <source>Controlla</source>
@@ -1916,7 +1920,7 @@ supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Che cosa ha la scheda, e con quale chiamata</source>
-        <translation>Lo que tiene el cartón, y con qué bola</translation>
+        <translation>Lo que ha ganado el cartón, y con qué bola</translation>
     </message>
     <message>
         <source>Vincite</source>
@@ -1948,7 +1952,7 @@ supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Toglie tutti i numeri chiamati e ricomincia</source>
-        <translation>Retira todos los números cantados y vuelve a empezar</translation>
+        <translation>Retirar todos los números cantados y volver a empezar</translation>
     </message>
     <message>
         <source>Apri registro...</source>
@@ -1988,11 +1992,11 @@ supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
-        <translation>No está en juego: %1. ¡Los números van de %2 a %3!</translation>
+        <translation>¡El número %1 no está en juego: los números van de %2 a %3!</translation>
     </message>
     <message>
         <source>La chiamata non si può salvare, nulla è cambiato.</source>
-        <translation>No se puede guardar la bola, nada ha cambiado.</translation>
+        <translation>No se puede guardar la bola; nada ha cambiado.</translation>
     </message>
     <message>
         <source>Chiamato il %1.</source>
@@ -2008,11 +2012,11 @@ supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Scrivere un numero da %1 a %2!</source>
-        <translation>¡Escribir un número de %1 a %2!</translation>
+        <translation>¡Escriba un número de %1 a %2!</translation>
     </message>
     <message>
         <source>Scrivere la pagina e la scheda, per esempio 12.3!</source>
-        <translation>¡Escribir la página y el cartón, por ejemplo 12.3!</translation>
+        <translation>¡Escriba la página y el cartón, por ejemplo 12.3!</translation>
     </message>
     <message>
         <source>La scheda %1 non esiste!</source>
@@ -2027,8 +2031,8 @@ supera el máximo permitido (%2).</translation>
         <translation>Números cantados: %1 de %2</translation>
     </message>
     <message>
-        <source>Manca un numero: %1</source>
-        <translation>Falta un número: %1</translation>
+        <source>In attesa di un numero: %1</source>
+        <translation>A falta de un número: %1</translation>
     </message>
     <message>
         <source>Nessuna scheda</source>
@@ -2048,7 +2052,7 @@ supera el máximo permitido (%2).</translation>
 Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
         <translation>Hay una noche de bingo con otros cartones (números cantados: %2) en %1.
 
-¿Continuar esa? Con No empieza una nueva, y esa se aparta.</translation>
+¿Continuar esa? Con No empieza una nueva y la anterior se aparta.</translation>
     </message>
     <message>
         <source>La serata non si può salvare in %1.</source>
@@ -2096,7 +2100,11 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     </message>
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
-        <translation>Líneas ilegibles en el archivo de bolas: %1!</translation>
+        <translation>¡Líneas ilegibles en el archivo de las bolas: %1!</translation>
+    </message>
+    <message>
+        <source>Tombola: %1</source>
+        <translation>Bingo: %1</translation>
     </message>
 </context>
 <context>

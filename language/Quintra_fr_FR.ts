@@ -122,8 +122,8 @@ Dimensions de la page&#xa0;: %6</translation>
 <context>
     <name>Diario</name>
     <message>
-        <source>la serata è già aperta in un&apos;altra finestra</source>
-        <translation>la soirée est déjà ouverte dans une autre fenêtre</translation>
+        <source>La serata è già aperta in un&apos;altra finestra.</source>
+        <translation>La soirée est déjà ouverte dans une autre fenêtre.</translation>
     </message>
 </context>
 <context>
@@ -477,18 +477,18 @@ Taille&#xa0;: %5 octets (%6 Mo)
 %1</translation>
     </message>
     <message>
-        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+        <source>Le pagine con troppe celle non saranno rilette per intero dal file.
 Pagine: %1</source>
-        <translation>Les pages qui ont trop de cases ne seront pas relues entières depuis le fichier.
+        <translation>Les pages qui ont trop de cases ne pourront pas être relues en entier dans le fichier.
 Pages&#xa0;: %1</translation>
     </message>
     <message>
-        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio prosegue da quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Les numéros cochés et ceux qui sont disponibles. Sur une autre page, le compte continue à partir du précédent, jusqu&apos;à ce qu&apos;un type soit changé ou une disposition copiée.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Un clic o la barra spaziatrice mette o toglie la spunta; trascinando il mouse con il tasto sinistro premuto si spuntano le celle attraversate.&lt;/p&gt;&lt;p&gt;Il tasto destro del mouse o il tasto T passa al tipo successivo, tranne che nelle pagine lette da un file.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Un clic ou la barre d&apos;espace coche ou décoche une case&#xa0;; en glissant avec le bouton gauche de la souris, on coche les cases traversées.&lt;/p&gt;&lt;p&gt;Le bouton droit de la souris ou la touche T passe au type suivant, sauf sur les pages lues dans un fichier.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Un clic ou la barre d&apos;espace coche ou décoche une case&#xa0;; en faisant glisser la souris, bouton gauche enfoncé, on coche les cases traversées.&lt;/p&gt;&lt;p&gt;Le bouton droit de la souris ou la touche T passe au type suivant, sauf sur les pages lues dans un fichier.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Numeri: %1 di %2</source>
@@ -1240,7 +1240,7 @@ Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
         <source>Mostra la pagina come sarà stampata</source>
-        <translation>Montrer la page telle qu&apos;elle sera imprimée</translation>
+        <translation>Afficher la page telle qu&apos;elle sera imprimée</translation>
     </message>
     <message>
         <source>Parametri</source>
@@ -1268,15 +1268,15 @@ Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
         <source>Per ricominciare da capo scegliere &quot;Nuova&quot;</source>
-        <translation>Pour recommencer, choisissez «&#xa0;Nouvelle&#xa0;»</translation>
+        <translation>Pour recommencer, choisir «&#xa0;Nouvelle&#xa0;»</translation>
     </message>
     <message>
         <source>Linea esterna</source>
-        <translation>Ligne extérieure</translation>
+        <translation>Contour</translation>
     </message>
     <message>
         <source>Linea interna</source>
-        <translation>Ligne intérieure</translation>
+        <translation>Grille</translation>
     </message>
     <message>
         <source>Salva registro...</source>
@@ -1284,15 +1284,15 @@ Voulez-vous les afficher&#xa0;?</translation>
     </message>
     <message>
         <source>Salva le schede in un file di testo, una per riga</source>
-        <translation>Enregistre les cartons dans un fichier texte, un par ligne</translation>
+        <translation>Enregistrer les cartons dans un fichier texte, un par ligne</translation>
     </message>
     <message>
         <source>Serata...</source>
-        <translation>Soirée...</translation>
+        <translation>Soirée loto...</translation>
     </message>
     <message>
         <source>Chiama i numeri e controlla le schede</source>
-        <translation>Tire les numéros et vérifie les cartons</translation>
+        <translation>Tirer les numéros et vérifier les cartons</translation>
     </message>
     <message>
         <source>Salva il registro su file</source>
@@ -1332,7 +1332,7 @@ Pages&#xa0;: %1</translation>
     </message>
     <message>
         <source>Il colore delle linee non ha ancora effetto!</source>
-        <translation>La couleur des lignes n&apos;a pas encore d&apos;effet&#xa0;!</translation>
+        <translation>La couleur des lignes est sans effet pour l&apos;instant&#xa0;!</translation>
     </message>
     <message>
         <source>Immagine...</source>
@@ -1349,7 +1349,7 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
         <translation>Résumer les autres dans un seul message</translation>
     </message>
     <message>
-        <source>Valori cambiati di config.ini:
+        <source>Valori di config.ini cambiati:
 %1</source>
         <translation>Valeurs de config.ini modifiées&#xa0;:
 %1</translation>
@@ -1360,7 +1360,7 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     </message>
     <message>
         <source>Stampa accanto a ogni blocco il suo numero, per esempio 12.3</source>
-        <translation>Imprime à côté de chaque carton son numéro, par exemple 12.3</translation>
+        <translation>Imprimer à côté de chaque carton son numéro, par exemple 12.3</translation>
     </message>
     <message>
         <source>Numeri di blocco non stampati per mancanza di posto: %1.</source>
@@ -1383,7 +1383,7 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     <name>Manuale</name>
     <message>
         <source>Torna dove si leggeva prima</source>
-        <translation>Revient à l&apos;endroit lu auparavant</translation>
+        <translation>Revenir à l&apos;endroit lu auparavant</translation>
     </message>
     <message>
         <source>Indietro</source>
@@ -1391,7 +1391,7 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     </message>
     <message>
         <source>Mostra l&apos;indice del manuale</source>
-        <translation>Affiche le sommaire du manuel</translation>
+        <translation>Afficher le sommaire du manuel</translation>
     </message>
     <message>
         <source>Indice</source>
@@ -1403,7 +1403,7 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     </message>
     <message>
         <source>Testo da cercare nel manuale: Invio va al prossimo</source>
-        <translation>Texte à chercher dans le manuel&#xa0;: Entrée va au suivant</translation>
+        <translation>Texte à chercher dans le manuel&#xa0;; Entrée passe à l&apos;occurrence suivante</translation>
     </message>
     <message>
         <source>Testo del manuale</source>
@@ -1465,7 +1465,7 @@ MB necessari: %1
 MB liberi: %2
 
 Vuoi proseguire comunque?</source>
-        <translation>La mémoire libre pourrait ne pas suffire, et le programme s&apos;arrêter.
+        <translation>La mémoire libre pourrait ne pas suffire, et le programme s&apos;arrêter brutalement.
 Mo nécessaires&#xa0;: %1
 Mo libres&#xa0;: %2
 
@@ -1624,7 +1624,7 @@ Le remplacer&#xa0;?</translation>
     <name>PagePreview</name>
     <message>
         <source>Mostra la pagina precedente</source>
-        <translation>Montrer la page précédente</translation>
+        <translation>Afficher la page précédente</translation>
     </message>
     <message>
         <source>Precedente</source>
@@ -1632,7 +1632,7 @@ Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Mostra la pagina successiva</source>
-        <translation>Montrer la page suivante</translation>
+        <translation>Afficher la page suivante</translation>
     </message>
     <message>
         <source>Successiva</source>
@@ -1644,7 +1644,7 @@ Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Grandezza in cui la pagina è mostrata</source>
-        <translation>Taille à laquelle la page est montrée</translation>
+        <translation>Taille d&apos;affichage de la page</translation>
     </message>
     <message>
         <source>Pagina intera</source>
@@ -1669,6 +1669,10 @@ Le remplacer&#xa0;?</translation>
     <message>
         <source>Pagina %1 di %2, %3</source>
         <translation>Page %1 sur %2, %3</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1796,32 +1800,32 @@ dépasse le maximum autorisé (%2).</translation>
 <context>
     <name>Registro</name>
     <message>
-        <source>riga vuota</source>
-        <translation>ligne vide</translation>
+        <source>nessun contenuto</source>
+        <translation>aucun contenu</translation>
     </message>
     <message>
-        <source>non è finita, il file è stato troncato</source>
-        <translation>incomplète, le fichier a été tronqué</translation>
+        <source>testo troncato (file incompleto)</source>
+        <translation>texte tronqué (fichier incomplet)</translation>
     </message>
     <message>
-        <source>troppo lunga per una scheda</source>
-        <translation>trop longue pour un carton</translation>
+        <source>troppi caratteri per una scheda</source>
+        <translation>trop de caractères pour un carton</translation>
     </message>
     <message>
-        <source>non comincia con i numeri di pagina e di scheda</source>
-        <translation>ne commence pas par les numéros de page et de carton</translation>
+        <source>all&apos;inizio non vi sono numeri validi di pagina e di scheda</source>
+        <translation>pas de numéros valides de page et de carton au début</translation>
     </message>
     <message>
         <source>manca il segno | prima delle celle</source>
         <translation>le signe | manque avant les cases</translation>
     </message>
     <message>
-        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
-        <translation>une case n&apos;est ni un nombre, ni un texte entre guillemets, ni le mot immagine</translation>
+        <source>una cella non è né un numero, né un testo tra virgolette, né la parola immagine</source>
+        <translation>une case n&apos;est ni un numéro, ni un texte entre guillemets, ni le mot immagine</translation>
     </message>
     <message>
         <source>un numero è maggiore di %1</source>
-        <translation>un nombre est supérieur à %1</translation>
+        <translation>un numéro est supérieur à %1</translation>
     </message>
     <message>
         <source>le virgolette di un testo non sono chiuse, o \ è usato male</source>
@@ -1832,8 +1836,8 @@ dépasse le maximum autorisé (%2).</translation>
         <translation>lignes ou cases au-delà du maximum de %1</translation>
     </message>
     <message>
-        <source>la scheda c&apos;è già</source>
-        <translation>le carton existe déjà</translation>
+        <source>numeri di pagina e di scheda già usati</source>
+        <translation>numéros de page et de carton déjà utilisés</translation>
     </message>
     <message>
         <source>Queste righe del registro non sono schede e sono state saltate:</source>
@@ -1856,7 +1860,7 @@ dépasse le maximum autorisé (%2).</translation>
     <name>Serata</name>
     <message>
         <source>Quintra - Serata</source>
-        <translation>Quintra - Soirée</translation>
+        <translation>Quintra - Soirée loto</translation>
     </message>
     <message>
         <source>L&apos;ultimo numero chiamato</source>
@@ -1868,7 +1872,7 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Un clic chiama un numero, un altro lo toglie</source>
-        <translation>Un clic appelle un numéro, un autre le retire</translation>
+        <translation>Un clic annonce un numéro, un autre le retire</translation>
     </message>
     <message>
         <source>Tabellone</source>
@@ -1883,12 +1887,12 @@ dépasse le maximum autorisé (%2).</translation>
         <translation>Numéro</translation>
     </message>
     <message>
-        <source>Il numero da chiamare; se era chiamato viene tolto</source>
-        <translation>Le numéro à appeler&#xa0;; s&apos;il est déjà sorti, il est retiré</translation>
+        <source>Il numero da chiamare; se è già stato chiamato viene tolto</source>
+        <translation>Le numéro à annoncer&#xa0;; s&apos;il est déjà sorti, il est retiré</translation>
     </message>
     <message>
         <source>Chiama a caso uno dei numeri rimasti</source>
-        <translation>Tire au hasard un des numéros restants</translation>
+        <translation>Tirer au hasard un des numéros restants</translation>
     </message>
     <message>
         <source>Estrai</source>
@@ -1908,7 +1912,7 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Mostra la scheda con i numeri chiamati</source>
-        <translation>Affiche le carton avec les numéros sortis</translation>
+        <translation>Afficher le carton avec les numéros sortis</translation>
     </message>
     <message>
         <source>Controlla</source>
@@ -1948,7 +1952,7 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Toglie tutti i numeri chiamati e ricomincia</source>
-        <translation>Retire tous les numéros sortis et recommence</translation>
+        <translation>Retirer tous les numéros sortis et recommencer</translation>
     </message>
     <message>
         <source>Apri registro...</source>
@@ -1988,11 +1992,11 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Il numero %1 non è in gioco: i numeri vanno da %2 a %3!</source>
-        <translation>Pas en jeu&#xa0;: %1. Les numéros vont de %2 à %3&#xa0;!</translation>
+        <translation>Le numéro %1 n&apos;est pas en jeu&#xa0;: les numéros vont de %2 à %3&#xa0;!</translation>
     </message>
     <message>
         <source>La chiamata non si può salvare, nulla è cambiato.</source>
-        <translation>Impossible d&apos;enregistrer le tirage, rien n&apos;a changé.</translation>
+        <translation>Impossible d&apos;enregistrer le tirage&#xa0;; rien n&apos;a changé.</translation>
     </message>
     <message>
         <source>Chiamato il %1.</source>
@@ -2027,8 +2031,8 @@ dépasse le maximum autorisé (%2).</translation>
         <translation>Numéros sortis&#xa0;: %1 sur %2</translation>
     </message>
     <message>
-        <source>Manca un numero: %1</source>
-        <translation>Manque un numéro&#xa0;: %1</translation>
+        <source>In attesa di un numero: %1</source>
+        <translation>À un numéro près&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nessuna scheda</source>
@@ -2048,7 +2052,7 @@ dépasse le maximum autorisé (%2).</translation>
 Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
         <translation>Il y a une soirée avec d&apos;autres cartons (numéros sortis&#xa0;: %2) dans %1.
 
-Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et celle-là est mise de côté.</translation>
+Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et l&apos;ancienne est mise de côté.</translation>
     </message>
     <message>
         <source>La serata non si può salvare in %1.</source>
@@ -2097,6 +2101,10 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et celle-là est mise
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Lignes illisibles dans le fichier des tirages&#xa0;: %1&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Tombola: %1</source>
+        <translation>Carton plein&#xa0;: %1</translation>
     </message>
 </context>
 <context>

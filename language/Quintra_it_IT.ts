@@ -122,8 +122,8 @@ Dimensioni pagina: %6</translation>
 <context>
     <name>Diario</name>
     <message>
-        <source>la serata è già aperta in un&apos;altra finestra</source>
-        <translation>la serata è già aperta in un&apos;altra finestra</translation>
+        <source>La serata è già aperta in un&apos;altra finestra.</source>
+        <translation>La serata è già aperta in un&apos;altra finestra.</translation>
     </message>
 </context>
 <context>
@@ -477,14 +477,14 @@ Dimensione: %5 Bytes (%6 MB)
 %1</translation>
     </message>
     <message>
-        <source>Le pagine con troppe celle non saranno rilette intere dal file.
+        <source>Le pagine con troppe celle non saranno rilette per intero dal file.
 Pagine: %1</source>
-        <translation>Le pagine con troppe celle non saranno rilette intere dal file.
+        <translation>Le pagine con troppe celle non saranno rilette per intero dal file.
 Pagine: %1</translation>
     </message>
     <message>
-        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio resta quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio prosegue da quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;I numeri spuntati e quelli disponibili. Cambiando pagina il conteggio prosegue da quello di prima, finché non si cambia un tipo o si copia uno schema.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Un clic o la barra spaziatrice mette o toglie la spunta; trascinando il mouse con il tasto sinistro premuto si spuntano le celle attraversate.&lt;/p&gt;&lt;p&gt;Il tasto destro del mouse o il tasto T passa al tipo successivo, tranne che nelle pagine lette da un file.&lt;/p&gt;</source>
@@ -1349,9 +1349,9 @@ Altre pagine non generate (contate da 1): %1</translation>
         <translation>Riassumi le altre in un solo messaggio</translation>
     </message>
     <message>
-        <source>Valori cambiati di config.ini:
+        <source>Valori di config.ini cambiati:
 %1</source>
-        <translation>Valori cambiati di config.ini:
+        <translation>Valori di config.ini cambiati:
 %1</translation>
     </message>
     <message>
@@ -1670,6 +1670,10 @@ Sostituirlo?</translation>
         <source>Pagina %1 di %2, %3</source>
         <translation>Pagina %1 di %2, %3</translation>
     </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
 </context>
 <context>
     <name>PageTable</name>
@@ -1796,28 +1800,28 @@ eccedono il massimo consentito (%2).</translation>
 <context>
     <name>Registro</name>
     <message>
-        <source>riga vuota</source>
-        <translation>riga vuota</translation>
+        <source>nessun contenuto</source>
+        <translation>nessun contenuto</translation>
     </message>
     <message>
-        <source>non è finita, il file è stato troncato</source>
-        <translation>non è finita, il file è stato troncato</translation>
+        <source>testo troncato (file incompleto)</source>
+        <translation>testo troncato (file incompleto)</translation>
     </message>
     <message>
-        <source>troppo lunga per una scheda</source>
-        <translation>troppo lunga per una scheda</translation>
+        <source>troppi caratteri per una scheda</source>
+        <translation>troppi caratteri per una scheda</translation>
     </message>
     <message>
-        <source>non comincia con i numeri di pagina e di scheda</source>
-        <translation>non comincia con i numeri di pagina e di scheda</translation>
+        <source>all&apos;inizio non vi sono numeri validi di pagina e di scheda</source>
+        <translation>all&apos;inizio non vi sono numeri validi di pagina e di scheda</translation>
     </message>
     <message>
         <source>manca il segno | prima delle celle</source>
         <translation>manca il segno | prima delle celle</translation>
     </message>
     <message>
-        <source>una cella non è un numero, un testo tra virgolette o la parola immagine</source>
-        <translation>una cella non è un numero, un testo tra virgolette o la parola immagine</translation>
+        <source>una cella non è né un numero, né un testo tra virgolette, né la parola immagine</source>
+        <translation>una cella non è né un numero, né un testo tra virgolette, né la parola immagine</translation>
     </message>
     <message>
         <source>un numero è maggiore di %1</source>
@@ -1832,8 +1836,8 @@ eccedono il massimo consentito (%2).</translation>
         <translation>righe o celle oltre il massimo di %1</translation>
     </message>
     <message>
-        <source>la scheda c&apos;è già</source>
-        <translation>la scheda c&apos;è già</translation>
+        <source>numeri di pagina e di scheda già usati</source>
+        <translation>numeri di pagina e di scheda già usati</translation>
     </message>
     <message>
         <source>Queste righe del registro non sono schede e sono state saltate:</source>
@@ -1883,8 +1887,8 @@ eccedono il massimo consentito (%2).</translation>
         <translation>Numero</translation>
     </message>
     <message>
-        <source>Il numero da chiamare; se era chiamato viene tolto</source>
-        <translation>Il numero da chiamare; se era chiamato viene tolto</translation>
+        <source>Il numero da chiamare; se è già stato chiamato viene tolto</source>
+        <translation>Il numero da chiamare; se è già stato chiamato viene tolto</translation>
     </message>
     <message>
         <source>Chiama a caso uno dei numeri rimasti</source>
@@ -2027,8 +2031,8 @@ eccedono il massimo consentito (%2).</translation>
         <translation>Numeri chiamati: %1 di %2</translation>
     </message>
     <message>
-        <source>Manca un numero: %1</source>
-        <translation>Manca un numero: %1</translation>
+        <source>In attesa di un numero: %1</source>
+        <translation>In attesa di un numero: %1</translation>
     </message>
     <message>
         <source>Nessuna scheda</source>
@@ -2097,6 +2101,10 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
         <translation>Righe illeggibili nel file delle chiamate: %1!</translation>
+    </message>
+    <message>
+        <source>Tombola: %1</source>
+        <translation>Tombola: %1</translation>
     </message>
 </context>
 <context>

@@ -108,7 +108,7 @@ void MainWindow::showChangedDefaults()
                            .arg(value.box->value());
         }
     }
-    ui->label_valoricambiati->setText(tr("Valori cambiati di config.ini:\n%1").arg(changed.join(QLatin1Char('\n'))));
+    ui->label_valoricambiati->setText(tr("Valori di config.ini cambiati:\n%1").arg(changed.join(QLatin1Char('\n'))));
     ui->label_valoricambiati->setVisible(!changed.isEmpty());
 }
 

@@ -83,7 +83,7 @@ void EditPersonale::warnOfPagesThatComeBackCut()
         }
     }
     if (!cut.isEmpty()) {
-        warn(tr("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: %1")
+        warn(tr("Le pagine con troppe celle non saranno rilette per intero dal file.\nPagine: %1")
                  .arg(pageNumbersText(cut)));
     }
 }

@@ -171,7 +171,7 @@ bool Diario::open()
     }
     // The system takes the lock off when the program ends, however that happens.
     if (flock(m_file.handle(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        return fail(Text::tr("la serata è già aperta in un'altra finestra"));
+        return fail(Text::tr("La serata è già aperta in un'altra finestra."));
     }
     return true;
 }

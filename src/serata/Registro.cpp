@@ -312,17 +312,17 @@ QString reasonText(Motivo motivo)
 {
     switch (motivo) {
     case Motivo::Vuota:
-        return Text::tr("riga vuota");
+        return Text::tr("nessun contenuto");
     case Motivo::Tronca:
-        return Text::tr("non è finita, il file è stato troncato");
+        return Text::tr("testo troncato (file incompleto)");
     case Motivo::TroppoLunga:
-        return Text::tr("troppo lunga per una scheda");
+        return Text::tr("troppi caratteri per una scheda");
     case Motivo::SenzaPosizione:
-        return Text::tr("non comincia con i numeri di pagina e di scheda");
+        return Text::tr("all'inizio non vi sono numeri validi di pagina e di scheda");
     case Motivo::SenzaRiga:
         return Text::tr("manca il segno | prima delle celle");
     case Motivo::Casella:
-        return Text::tr("una cella non è un numero, un testo tra virgolette o la parola immagine");
+        return Text::tr("una cella non è né un numero, né un testo tra virgolette, né la parola immagine");
     case Motivo::Numero:
         return Text::tr("un numero è maggiore di %1").arg(numeroPiuAlto);
     case Motivo::Testo:
@@ -330,7 +330,7 @@ QString reasonText(Motivo motivo)
     case Motivo::TroppeCaselle:
         return Text::tr("righe o celle oltre il massimo di %1").arg(mostPerCard);
     case Motivo::Doppia:
-        return Text::tr("la scheda c'è già");
+        return Text::tr("numeri di pagina e di scheda già usati");
     }
     return QString();
 }

@@ -292,8 +292,8 @@ void Serata::showLists()
     const Partita &partita = m_serata->partita();
     m_tombole->show(&partita);
     m_quasiTombole->show(&partita);
-    ui->tombole_label->setText(QStringLiteral("%1: %2").arg(premioText(Premio::Tombola)).arg(partita.tombole().size()));
-    ui->quasi_label->setText(tr("Manca un numero: %1").arg(partita.quasiTombole().size()));
+    ui->tombole_label->setText(tr("Tombola: %1").arg(partita.tombole().size()));
+    ui->quasi_label->setText(tr("In attesa di un numero: %1").arg(partita.quasiTombole().size()));
     ui->tombole_view->setAccessibleName(ui->tombole_label->text());
     ui->quasi_view->setAccessibleName(ui->quasi_label->text());
 }

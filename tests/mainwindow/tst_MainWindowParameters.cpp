@@ -449,7 +449,7 @@ void tst_MainWindowParameters::valuesOfTheConfigurationThatWereChangedAreNamed()
     const auto *changed = window.findChild<QLabel *>(QStringLiteral("label_valoricambiati"));
     QVERIFY(!changed->isHidden());
     QCOMPARE(changed->text(),
-             QStringLiteral("Valori cambiati di config.ini:\nCLASSIC_NCOLS: 500 > 99\nNMIN: 101 > 90"));
+             QStringLiteral("Valori di config.ini cambiati:\nCLASSIC_NCOLS: 500 > 99\nNMIN: 101 > 90"));
     QCOMPARE(window.findChild<QSpinBox *>(QStringLiteral("box_classica_numerominimo"))->value(), 90);
     window.findChild<QSpinBox *>(QStringLiteral("box_classica_numeropagine"))->setValue(2);
     QVERIFY(changed->isHidden());

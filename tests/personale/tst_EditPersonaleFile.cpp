@@ -643,7 +643,7 @@ void tst_EditPersonaleFile::thirtyRowsOfNineComeBackWithoutColumns()
     t.click("riempiButton");
     t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
     t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
-                      QStringLiteral("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: 1"),
+                      QStringLiteral("Le pagine con troppe celle non saranno rilette per intero dal file.\nPagine: 1"),
                       QMessageBox::Ok);
     t.trigger("actionSave");
     t.expectOpen(t.folder.path(QStringLiteral("out.QcF")));
@@ -819,9 +819,10 @@ void tst_EditPersonaleFile::pagesThatComeBackCutAreNamed()
 {
     EditorUnderTest t(29, 9, 2);
     t.expectSave(t.folder.path(QStringLiteral("out.QcF")));
-    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
-                      QStringLiteral("Le pagine con troppe celle non saranno rilette intere dal file.\nPagine: 1, 2"),
-                      QMessageBox::Ok, [&t](QMessageBox *) { QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor); });
+    t.boxes.expectBox(
+        QStringLiteral("Quintra - Mappatura manuale"),
+        QStringLiteral("Le pagine con troppe celle non saranno rilette per intero dal file.\nPagine: 1, 2"),
+        QMessageBox::Ok, [&t](QMessageBox *) { QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor); });
     t.trigger("actionSave");
 }
 

@@ -211,7 +211,7 @@ void tst_Diario::aJournalIsOpenInOneWindow()
     QVERIFY(first.begin(5, {1, 90}));
     Diario second(name);
     QVERIFY(!second.resume());
-    QCOMPARE(second.errorString(), QStringLiteral("la serata è già aperta in un'altra finestra"));
+    QCOMPARE(second.errorString(), QStringLiteral("La serata è già aperta in un'altra finestra."));
     QVERIFY(!second.begin(6, {1, 90}));
     QVERIFY(first.addCall(34));
     QCOMPARE(m_folder->read(name), QByteArray("schede 5\nnumeri 1 90\n+34\n"));

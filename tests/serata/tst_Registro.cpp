@@ -395,17 +395,17 @@ void tst_Registro::theSkippedLinesAreDescribed()
                                  {14, 14, Motivo::TroppoLunga},
                                  {15, 15, Motivo::Tronca}}),
              QStringLiteral("Queste righe del registro non sono schede e sono state saltate:\n"
-                            "Righe da 1 a 3: riga vuota.\n"
-                            "Riga 5: non comincia con i numeri di pagina e di scheda.\n"
+                            "Righe da 1 a 3: nessun contenuto.\n"
+                            "Riga 5: all'inizio non vi sono numeri validi di pagina e di scheda.\n"
                             "Riga 6: manca il segno | prima delle celle.\n"
-                            "Righe da 7 a 8: una cella non è un numero, un testo tra virgolette o la parola "
-                            "immagine.\n"
+                            "Righe da 7 a 8: una cella non è né un numero, né un testo tra virgolette, né la "
+                            "parola immagine.\n"
                             "Riga 10: un numero è maggiore di 999999.\n"
                             "Riga 11: le virgolette di un testo non sono chiuse, o \\ è usato male.\n"
                             "Riga 12: righe o celle oltre il massimo di 255.\n"
-                            "Riga 13: la scheda c'è già.\n"
-                            "Riga 14: troppo lunga per una scheda.\n"
-                            "Riga 15: non è finita, il file è stato troncato."));
+                            "Riga 13: numeri di pagina e di scheda già usati.\n"
+                            "Riga 14: troppi caratteri per una scheda.\n"
+                            "Riga 15: testo troncato (file incompleto)."));
 }
 
 void tst_Registro::aLongListOfSkippedLinesIsCut()
@@ -416,7 +416,7 @@ void tst_Registro::aLongListOfSkippedLinesIsCut()
     }
     const QStringList lines = Registro::describe(many).split(QLatin1Char('\n'));
     QCOMPARE(lines.size(), 502);
-    QCOMPARE(lines.at(500), QStringLiteral("Riga 1000: riga vuota."));
+    QCOMPARE(lines.at(500), QStringLiteral("Riga 1000: nessun contenuto."));
     QCOMPARE(lines.last(), QStringLiteral("L'elenco continua fino alla riga 1200."));
 }
 

@@ -550,7 +550,7 @@ void tst_Serata::theListsFollowEveryCall()
     Evening e;
     QVERIFY(e.openSet());
     QCOMPARE(e.text("tombole_label"), QStringLiteral("Tombola: 0"));
-    QCOMPARE(e.text("quasi_label"), QStringLiteral("Manca un numero: 0"));
+    QCOMPARE(e.text("quasi_label"), QStringLiteral("In attesa di un numero: 0"));
     for (const quint32 number : {1U, 50U, 21U}) {
         e.call(number);
     }
@@ -560,7 +560,7 @@ void tst_Serata::theListsFollowEveryCall()
     QCOMPARE(e.entries("tombole_view"), QStringList(QStringLiteral("2.2: chiamata 4")));
     QCOMPARE(e.entries("quasi_view"), QStringList(QStringLiteral("1.1: manca il 12")));
     QCOMPARE(e.text("tombole_label"), QStringLiteral("Tombola: 1"));
-    QCOMPARE(e.text("quasi_label"), QStringLiteral("Manca un numero: 1"));
+    QCOMPARE(e.text("quasi_label"), QStringLiteral("In attesa di un numero: 1"));
     e.call(21);
     QCOMPARE(e.entries("tombole_view"), QStringList());
     QCOMPARE(e.entries("quasi_view"), QStringList(QStringLiteral("2.2: manca il 21")));
@@ -595,7 +595,7 @@ void tst_Serata::longListsAreGivenInParts()
         }
     }
     QVERIFY(e.openSet(many));
-    QCOMPARE(e.text("quasi_label"), QStringLiteral("Manca un numero: 1200"));
+    QCOMPARE(e.text("quasi_label"), QStringLiteral("In attesa di un numero: 1200"));
     e.call(7);
     QCOMPARE(e.text("tombole_label"), QStringLiteral("Tombola: 1200"));
     auto *model = e.find<QListView>("tombole_view")->model();
@@ -894,7 +894,7 @@ void tst_Serata::anEveningIsOpenInOneWindowOfTheComputer()
     e.call(7);
     const QByteArray cards = e.folder.read(evening);
     e.boxes.expectBox(title, QStringLiteral("La serata non può continuare."), QMessageBox::Ok, [](QMessageBox *box) {
-        QCOMPARE(box->informativeText(), QStringLiteral("la serata è già aperta in un'altra finestra"));
+        QCOMPARE(box->informativeText(), QStringLiteral("La serata è già aperta in un'altra finestra."));
     });
     QWidget parent;
     Serata::open(&parent, *fourCards(), 1, 90);
@@ -973,8 +973,8 @@ void tst_Serata::aRegisterWithOddLinesIsUsedAsFarAsItGoes()
     QVERIFY(report != nullptr && report->isVisible());
     QCOMPARE(report->findChild<QTextEdit *>(QStringLiteral("textEdit"))->toPlainText(),
              QStringLiteral("Queste righe del registro non sono schede e sono state saltate:\n"
-                            "Riga 2: una cella non è un numero, un testo tra virgolette o la parola immagine.\n"
-                            "Riga 4: non è finita, il file è stato troncato."));
+                            "Riga 2: una cella non è né un numero, né un testo tra virgolette, né la parola immagine.\n"
+                            "Riga 4: testo troncato (file incompleto)."));
     report->close();
     e.check(QStringLiteral("1.3"));
     QCOMPARE(e.card(), QStringLiteral("9"));
@@ -989,7 +989,7 @@ void tst_Serata::aRegisterWithoutCardsIsRefused()
     e.boxes.expectBox(title, QStringLiteral("Il registro non contiene schede."), QMessageBox::Ok, [](QMessageBox *box) {
         QCOMPARE(box->informativeText(),
                  QStringLiteral("Queste righe del registro non sono schede e sono state saltate:\n"
-                                "Riga 1: non comincia con i numeri di pagina e di scheda."));
+                                "Riga 1: all'inizio non vi sono numeri validi di pagina e di scheda."));
     });
     QVERIFY(!e.window->openRegister(e.folder.path(QStringLiteral("natale.csv"))));
     QVERIFY(e.isMarked(7));
