@@ -2050,7 +2050,7 @@ eccedono il massimo consentito (%2).</source>
         <source>In %1 c&apos;è una serata con altre schede (numeri chiamati: %2).
 
 Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.</source>
-        <translation>In %1 gibt es einen Bingoabend mit anderen Karten (gezogene Zahlen: %2).
+        <translation>Es gibt einen Bingoabend mit anderen Karten (gezogene Zahlen: %2) in %1.
 
 Diesen fortsetzen? Mit Nein beginnt ein neuer, und der alte wird beiseitegelegt.</translation>
     </message>

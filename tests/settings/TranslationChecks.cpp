@@ -17,8 +17,8 @@ namespace {
 const QHash<QString, QStringList> notCounted = {
     {QStringLiteral("en"), QStringLiteral("and is of saved to bytes MB").split(QLatin1Char(' '))},
     {QStringLiteral("de"),
-     QStringLiteral("bis gespeichert nicht und von weiter wird Bytes MB").split(QLatin1Char(' '))},
-    {QStringLiteral("fr"), QStringLiteral("à enregistrée et non sur octets Mo").split(QLatin1Char(' '))},
+     QStringLiteral("bis eingeben gespeichert ist nicht und von weiter wird Bytes MB").split(QLatin1Char(' '))},
+    {QStringLiteral("fr"), QStringLiteral("à enregistrée et n non sur octets Mo").split(QLatin1Char(' '))},
     {QStringLiteral("es"), QStringLiteral("a de guardada no y bytes MB").split(QLatin1Char(' '))},
 };
 
@@ -188,8 +188,16 @@ bool misplacesPercentSigns(const Entry &entry)
 bool misplacesFrenchSigns(const Entry &entry)
 {
     // Two semicolons are not written to be read: they part the filters of a file dialog.
-    static const QRegularExpression unparted(QStringLiteral("(?<![\u00a0;])[:;!?](?!;)"));
+    static const QRegularExpression unparted(QStringLiteral("(?<![\u00a0;])[:;!?](?!;)|«(?!\u00a0)|(?<!\u00a0)»"));
     return speechOf(entry) == QLatin1String("fr") && entry.translation.contains(unparted);
+}
+
+bool lacksSpanishSigns(const Entry &entry)
+{
+    const QString &text = entry.translation;
+    const bool opened = text.count(QChar(0xbf)) == text.count(QLatin1Char('?')) &&
+                        text.count(QChar(0xa1)) == text.count(QLatin1Char('!'));
+    return speechOf(entry) == QLatin1String("es") && !opened;
 }
 
 QStringList problems(const QVector<Entry> &entries)
@@ -206,7 +214,8 @@ QStringList problems(const QVector<Entry> &entries)
                                    {leavesLatin1, QStringLiteral("not Latin-1")},
                                    {countsAWord, QStringLiteral("a number before what it counts")},
                                    {misplacesPercentSigns, QStringLiteral("spacing of a percent sign")},
-                                   {misplacesFrenchSigns, QStringLiteral("spacing of a French sign")}};
+                                   {misplacesFrenchSigns, QStringLiteral("spacing of a French sign")},
+                                   {lacksSpanishSigns, QStringLiteral("a Spanish sign not opened")}};
     QStringList found;
     for (const Entry &entry : entries) {
         for (const Check &check : checks) {

@@ -43,8 +43,10 @@ bool leavesLatin1(const Entry &entry);
 bool countsAWord(const Entry &entry);
 // German, French and Spanish part a percent sign from its number by a no-break space, English and Italian do not.
 bool misplacesPercentSigns(const Entry &entry);
-// French has a no-break space before ":", ";", "!" and "?".
+// French has a no-break space before ":", ";", "!" and "?", and inside its quotes.
 bool misplacesFrenchSigns(const Entry &entry);
+// Spanish opens what ends in "!" or "?".
+bool lacksSpanishSigns(const Entry &entry);
 
 // One line for everything wrong with the entries.
 QStringList problems(const QVector<Entry> &entries);

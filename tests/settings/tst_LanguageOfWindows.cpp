@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generation/GUtils.h"
 #include "mainwindow/MainWindow.h"
+#include "mainwindow/PagePreview.h"
 #include "manuale/Manuale.h"
 #include "model/Cartella.h"
 #include "msgarea/MsgArea.h"
@@ -85,7 +86,7 @@ public:
     BoxScript boxes;
 };
 
-enum Window { Main, FirstStart, Settings, Mapping, Evening, NewGame, Manual, Messages };
+enum Window { Main, FirstStart, Settings, Mapping, Evening, NewGame, Manual, Preview, Messages };
 
 std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
 {
@@ -109,6 +110,8 @@ std::unique_ptr<QWidget> makeWindow(int window, Cartella *cartella)
         return std::make_unique<NuovaPartita>(Intervallo(), 0);
     case Manual:
         return std::make_unique<Manuale>();
+    case Preview:
+        return std::make_unique<PagePreview>();
     default:
         return std::make_unique<MsgArea>(nullptr, true);
     }
@@ -157,10 +160,15 @@ QStringList textsOf(const QWidget &window)
     return texts.join(QLatin1Char('\n')).split(QLatin1Char('\n')); // tool tips can be several texts
 }
 
-// The translation in a window of this class; empty when there is none.
+// The translation in a window of this class; empty when there is none. A title may be put together from the product's
+// name and a text.
 QString translationOf(const QString &source, const QString &className, const QTranslator &translator)
 {
     const QString text = translator.translate(qUtf8Printable(className), qUtf8Printable(source));
+    const QString name = Product::titleFor(QString());
+    if (text.isEmpty() && source.startsWith(name)) {
+        return name + translator.translate(qUtf8Printable(className), qUtf8Printable(source.mid(name.size())));
+    }
     return text.isEmpty() ? translator.translate("PersonaleChkBox", qUtf8Printable(source)) : text;
 }
 
@@ -363,7 +371,8 @@ void tst_LanguageOfWindows::addWindows()
     const Row rows[] = {{Main, QLatin1String("MainWindow")},  {FirstStart, QLatin1String("FormatSelection")},
                         {Settings, QLatin1String("Options")}, {Mapping, QLatin1String("EditPersonale")},
                         {Evening, QLatin1String("Serata")},   {NewGame, QLatin1String("NuovaPartita")},
-                        {Manual, QLatin1String("Manuale")},   {Messages, QLatin1String("MsgArea")}};
+                        {Manual, QLatin1String("Manuale")},   {Preview, QLatin1String("PagePreview")},
+                        {Messages, QLatin1String("MsgArea")}};
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("window");
     QTest::addColumn<QString>("className");
@@ -538,7 +547,7 @@ void tst_LanguageOfWindows::noMnemonicIsTwiceInAMenu()
     QVERIFY(program.speak(language));
     const std::unique_ptr<QWidget> shown = makeWindow(window, &cartella);
     const auto *withMenus = qobject_cast<QMainWindow *>(shown.get());
-    const QSet<int> dialogs = {FirstStart, Settings, NewGame, Manual};
+    const QSet<int> dialogs = {FirstStart, Settings, NewGame, Manual, Preview};
     QCOMPARE(withMenus == nullptr, dialogs.contains(window));
     if (withMenus != nullptr) {
         QVERIFY(!withMenus->menuWidget()->findChildren<QMenu *>().isEmpty());

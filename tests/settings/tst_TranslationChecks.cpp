@@ -8,7 +8,7 @@ using TranslationChecks::Entry;
 
 namespace {
 // The content of a file of this language with one text.
-QByteArray fileOf(const char *language, const char *source, const char *translation)
+QByteArray fileOf(const char *language, const char *source, const QByteArray &translation)
 {
     return QByteArray("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<TS version=\"2.1\" language=\"") + language +
            "\"><context><name>Window</name><message><source>" + source + "</source><translation>" + translation +
@@ -240,7 +240,16 @@ void tst_TranslationChecks::theWordingOfAFileIsChecked_data()
     QTest::newRow("French, a space that breaks") << fileOf("fr_FR", "Nome: x", "Nom : x") << french;
     QTest::newRow("French, a space that does not") << fileOf("fr_FR", "Nome: x", "Nom&#xa0;: x") << QString();
     QTest::newRow("French, filters") << fileOf("fr_FR", "(*.a);; (*.b)", "(*.a);; (*.b)") << QString();
+    const QByteArray nouvelle("Nouvelle");
+    QTest::newRow("French, quotes") << fileOf("fr_FR", "Nuova", "«&#xa0;" + nouvelle + "&#xa0;»") << QString();
+    QTest::newRow("French, an open quote alone") << fileOf("fr_FR", "Nuova", "«" + nouvelle + "&#xa0;»") << french;
+    QTest::newRow("French, a closed quote alone") << fileOf("fr_FR", "Nuova", "«&#xa0;" + nouvelle + " »") << french;
     QTest::newRow("German signs") << fileOf("de_DE", "Uscire?", "Beenden?") << QString();
+
+    const QString spanish = QStringLiteral("a Spanish sign not opened: ");
+    QTest::newRow("Spanish, a question not opened") << fileOf("es_ES", "Uscire?", "Salir?") << spanish;
+    QTest::newRow("Spanish, a call not opened") << fileOf("es_ES", "Vuota!", "Vacía!") << spanish;
+    QTest::newRow("Spanish, both opened") << fileOf("es_ES", "No! Uscire?", "¡No! ¿Salir?") << QString();
 }
 
 void tst_TranslationChecks::theWordingOfAFileIsChecked()

@@ -33,6 +33,7 @@ private slots:
     void everyTextOfTheCodeHasAnEntry_data();
     void everyTextOfTheCodeHasAnEntry();
     void italianRepeatsTheSourceTexts();
+    void theReadmeTellsTheEnglishLabels();
 
 private:
     static void addLocales();
@@ -99,6 +100,26 @@ void tst_TranslationFiles::italianRepeatsTheSourceTexts()
     for (const auto &entry : source.entries) {
         QCOMPARE(entry.translation, entry.source);
     }
+}
+
+// A reader of English sees the Italian labels on the first start only.
+void tst_TranslationFiles::theReadmeTellsTheEnglishLabels()
+{
+    QFile file(projectFolder + QStringLiteral("/README.md"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString readme = QString::fromUtf8(file.readAll()).simplified();
+    QStringList untold;
+    int told = 0;
+    for (const auto &entry : sourceOf(QStringLiteral("en_GB")).entries) {
+        const QString label = QStringLiteral("\"%1\"").arg(entry.source);
+        const QString both = QStringLiteral("%1 (%2)").arg(label, entry.translation);
+        if (entry.source != entry.translation && readme.count(label) != readme.count(both)) {
+            untold << both;
+        }
+        told += readme.count(both);
+    }
+    QCOMPARE(untold, QStringList());
+    QVERIFY(told > 0);
 }
 
 QTEST_GUILESS_MAIN(tst_TranslationFiles)
