@@ -203,6 +203,7 @@ private slots:
     void aDigitTypedOnTheBoardBeginsANumber();
     void aNumberThatNobodyHasChangesNothing_data();
     void aNumberThatNobodyHasChangesNothing();
+    void theWindowsHaveTheIconOfTheProgram();
     void theLastNumbersAreLargeAndInOrder();
     void longNumbersLeaveTheWindowAsItIs();
     void drawingTakesThePlaceThatTheGeneratorGives();
@@ -385,6 +386,15 @@ void tst_Serata::aNumberThatNobodyHasChangesNothing()
     QCOMPARE(e.status(), message);
     QCOMPARE(e.folder.read(journal), before);
     QCOMPARE(e.text("ultimo_label"), QStringLiteral("7"));
+}
+
+void tst_Serata::theWindowsHaveTheIconOfTheProgram()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    QVERIFY(!e.window->windowIcon().availableSizes().isEmpty());
+    const NuovaPartita dialog({1, 90}, 0);
+    QVERIFY(!dialog.windowIcon().availableSizes().isEmpty());
 }
 
 void tst_Serata::theLastNumbersAreLargeAndInOrder()
