@@ -1748,7 +1748,7 @@ eccedono il massimo consentito (%2).</source>
     </message>
     <message>
         <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
-        <translation>Neu - Seiten: %1 × Karten: %2 = Karten insgesamt: %3</translation>
+        <translation>Neu - Seiten × Karten: %1 × %2 = %3</translation>
     </message>
 </context>
 <context>

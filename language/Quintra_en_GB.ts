@@ -1748,7 +1748,7 @@ exceeds the maximum allowed (%2).</translation>
     </message>
     <message>
         <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
-        <translation>New - pages: %1 × cards: %2 = cards in all: %3</translation>
+        <translation>New - pages × cards: %1 × %2 = %3</translation>
     </message>
 </context>
 <context>

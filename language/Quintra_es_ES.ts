@@ -1748,7 +1748,7 @@ supera el máximo permitido (%2).</translation>
     </message>
     <message>
         <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
-        <translation>Nueva - páginas: %1 × cartones: %2 = cartones en total: %3</translation>
+        <translation>Nueva - páginas × cartones: %1 × %2 = %3</translation>
     </message>
 </context>
 <context>

@@ -1748,7 +1748,7 @@ dépasse le maximum autorisé (%2).</translation>
     </message>
     <message>
         <source>Nuova: %1 pagine × %2 blocchi = %3 blocchi</source>
-        <translation>Nouvelle - pages&#xa0;: %1 × cartons&#xa0;: %2 = cartons au total&#xa0;: %3</translation>
+        <translation>Nouvelle - pages × cartons&#xa0;: %1 × %2 = %3</translation>
     </message>
 </context>
 <context>
