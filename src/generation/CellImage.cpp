@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generation/CellImage.h"
 
-#include <QFileInfo>
+#include "settings/DiskFile.h"
+
 #include <QImageReader>
 
 namespace {
@@ -11,8 +12,8 @@ constexpr int largestSide = 10000;
 
 QImage loadCellImage(const QString &path)
 {
-    if (!QFileInfo(path).isFile()) {
-        return QImage(); // opening a pipe would wait for who writes to it
+    if (isDevice(path)) {
+        return QImage();
     }
     QImageReader reader(path);
     reader.setAutoTransform(true);

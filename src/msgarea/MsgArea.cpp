@@ -4,21 +4,21 @@
 #include "msgarea/Confirmation.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
+#include "settings/DiskFile.h"
 #include "settings/WholeFile.h"
 #include "ui_MsgArea.h"
 
 #include <QCloseEvent>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QShortcut>
 
 namespace {
-// Content of a Latin-1 file, empty when it cannot be read. A device may give bytes without end.
+// Content of a Latin-1 file, empty when it cannot be read.
 QString readLatin1(QFile &file)
 {
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (isDevice(file.fileName()) || !file.open(QIODevice::ReadOnly)) {
         return QString();
     }
     QString text = QString::fromLatin1(file.readAll());

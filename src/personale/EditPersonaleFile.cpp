@@ -9,6 +9,7 @@
 #include "output/Megabytes.h"
 #include "personale/MappingFile.h"
 #include "settings/Config.h"
+#include "settings/DiskFile.h"
 #include "settings/Product.h"
 #include "settings/WholeFile.h"
 #include "ui_EditPersonale.h"
@@ -35,13 +36,6 @@ QString fileFilter()
 QString withSuffix(const QString &fileName)
 {
     return QFileInfo(fileName).suffix() == fileSuffix() ? fileName : fileName + QLatin1Char('.') + fileSuffix();
-}
-
-// It could be read without end, or never give anything.
-bool isDevice(const QString &fileName)
-{
-    const QFileInfo file(fileName);
-    return file.exists() && !file.isFile() && !file.isDir();
 }
 
 MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)

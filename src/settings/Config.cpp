@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Config.h"
 
+#include "settings/DiskFile.h"
 #include "settings/WholeFile.h"
 
 #include <QDir>
@@ -97,10 +98,10 @@ void forEachLine(QFile &file, Use use)
 class Values final
 {
 public:
-    // What is no regular file could be read without end, and gives no values.
+    // A device gives none.
     explicit Values(const QString &path)
     {
-        if (QFileInfo(path).isFile()) {
+        if (!isDevice(path)) {
             // Where there is no room for a copy, the file itself is better than the defaults.
             const bool copied = copy(path);
             m_settings = std::make_unique<QSettings>(copied ? m_copy.fileName() : path, QSettings::IniFormat);
@@ -133,7 +134,7 @@ QList<QByteArray> linesWithoutComments(const QString &path)
 {
     QList<QByteArray> kept;
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (isDevice(path) || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         return kept;
     }
     forEachLine(file, [&kept](QByteArray line) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/WholeFile.h"
 
+#include "settings/DiskFile.h"
+
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <filesystem>
-#include <unistd.h>
 
 namespace {
 constexpr int mostLinks = 40;
@@ -76,12 +77,6 @@ QString createBeside(const QFileInfo &file, QString &error)
         }
     }
     return QString();
-}
-
-// Where a file system has no sync, this is no failure.
-bool isSynced(int descriptor)
-{
-    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 bool bringToDisk(const QString &fileName, QString &error)
