@@ -125,6 +125,10 @@ Seitengröße: %6</translation>
         <source>La serata è già aperta in un&apos;altra finestra.</source>
         <translation>Der Bingoabend ist schon in einem anderen Fenster geöffnet.</translation>
     </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
 </context>
 <context>
     <name>EditPersonale</name>
@@ -2105,6 +2109,16 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und der alte wird beiseitegelegt.
     <message>
         <source>Tombola: %1</source>
         <translation>Bingo: %1</translation>
+    </message>
+    <message>
+        <source>Il file delle chiamate non si può leggere.</source>
+        <translation>Die Datei der gezogenen Zahlen kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
+%1</source>
+        <translation>Die früher gezogenen Zahlen sind unlesbar und wurden beiseitegelegt:
+%1</translation>
     </message>
 </context>
 <context>

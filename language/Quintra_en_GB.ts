@@ -125,6 +125,10 @@ Page size: %6</translation>
         <source>La serata è già aperta in un&apos;altra finestra.</source>
         <translation>The bingo night is already open in another window.</translation>
     </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>It is not a file.</translation>
+    </message>
 </context>
 <context>
     <name>EditPersonale</name>
@@ -2105,6 +2109,16 @@ Continue that one? With No a new one begins, and the old one is put aside.</tran
     <message>
         <source>Tombola: %1</source>
         <translation>Full house: %1</translation>
+    </message>
+    <message>
+        <source>Il file delle chiamate non si può leggere.</source>
+        <translation>The file of the calls cannot be read.</translation>
+    </message>
+    <message>
+        <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
+%1</source>
+        <translation>The calls made before cannot be read and were put aside:
+%1</translation>
     </message>
 </context>
 <context>

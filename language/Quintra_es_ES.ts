@@ -125,6 +125,10 @@ Tamaño de página: %6</translation>
         <source>La serata è già aperta in un&apos;altra finestra.</source>
         <translation>La noche de bingo ya está abierta en otra ventana.</translation>
     </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
 </context>
 <context>
     <name>EditPersonale</name>
@@ -2105,6 +2109,16 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Tombola: %1</source>
         <translation>Bingo: %1</translation>
+    </message>
+    <message>
+        <source>Il file delle chiamate non si può leggere.</source>
+        <translation>No se puede leer el archivo de las bolas.</translation>
+    </message>
+    <message>
+        <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
+%1</source>
+        <translation>Las bolas anteriores son ilegibles y se han apartado:
+%1</translation>
     </message>
 </context>
 <context>

@@ -125,6 +125,10 @@ Dimensions de la page&#xa0;: %6</translation>
         <source>La serata è già aperta in un&apos;altra finestra.</source>
         <translation>La soirée est déjà ouverte dans une autre fenêtre.</translation>
     </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>Ce n&apos;est pas un fichier.</translation>
+    </message>
 </context>
 <context>
     <name>EditPersonale</name>
@@ -2105,6 +2109,16 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et l&apos;ancienne es
     <message>
         <source>Tombola: %1</source>
         <translation>Carton plein&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Il file delle chiamate non si può leggere.</source>
+        <translation>Impossible de lire le fichier des tirages.</translation>
+    </message>
+    <message>
+        <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
+%1</source>
+        <translation>Les tirages précédents sont illisibles et ont été mis de côté&#xa0;:
+%1</translation>
     </message>
 </context>
 <context>

@@ -125,6 +125,10 @@ Dimensioni pagina: %6</translation>
         <source>La serata è già aperta in un&apos;altra finestra.</source>
         <translation>La serata è già aperta in un&apos;altra finestra.</translation>
     </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>Non è un file.</translation>
+    </message>
 </context>
 <context>
     <name>EditPersonale</name>
@@ -2105,6 +2109,16 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Tombola: %1</source>
         <translation>Tombola: %1</translation>
+    </message>
+    <message>
+        <source>Il file delle chiamate non si può leggere.</source>
+        <translation>Il file delle chiamate non si può leggere.</translation>
+    </message>
+    <message>
+        <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
+%1</source>
+        <translation>Le chiamate di prima sono illeggibili e sono state messe da parte:
+%1</translation>
     </message>
 </context>
 <context>

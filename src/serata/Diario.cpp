@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "serata/Diario.h"
 
+#include "settings/DiskFile.h"
+
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 namespace {
 constexpr char cardsWord[] = "schede ";
@@ -80,34 +79,10 @@ bool takeCall(const QByteArray &line, Diario::Corso &corso)
     return false;
 }
 
-// Where a file system has no sync, this is no failure.
-bool isSynced(int descriptor)
+Diario::Corso courseOf(const QByteArray &text)
 {
-    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
-}
-
-// Brings the name of a new file to the disk.
-bool isFolderSynced(const QString &fileName)
-{
-    const QByteArray folder = QFile::encodeName(QFileInfo(fileName).absolutePath());
-    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) {
-        return errno == EACCES; // a folder that may be written but not read
-    }
-    const bool synced = isSynced(descriptor);
-    ::close(descriptor);
-    return synced;
-}
-} // namespace
-
-Diario::Corso Diario::read(const QString &fileName)
-{
-    Corso corso;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return corso;
-    }
-    QList<QByteArray> lines = file.readAll().split('\n');
+    Diario::Corso corso;
+    QList<QByteArray> lines = text.split('\n');
     lines.removeLast(); // empty, or not finished
     for (const QByteArray &line : qAsConst(lines)) {
         if (!takeCards(line, corso) && !takeGame(line, corso) && !takeCall(line, corso)) {
@@ -115,6 +90,27 @@ Diario::Corso Diario::read(const QString &fileName)
         }
     }
     return corso;
+}
+
+Diario::Corso unreadable(const QString &reason)
+{
+    Diario::Corso corso;
+    corso.errore = reason;
+    return corso;
+}
+} // namespace
+
+Diario::Corso Diario::read(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.exists()) {
+        return Corso();
+    }
+    if (isDevice(fileName)) {
+        return unreadable(Text::tr("Non è un file."));
+    }
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.error() == QFile::NoError ? courseOf(text) : unreadable(file.errorString());
 }
 
 Diario::Diario(const QString &fileName)
@@ -134,13 +130,18 @@ bool Diario::begin(quint64 impronta, Intervallo numeri)
     return isFolderSynced(m_file.fileName()) || fail(qt_error_string(errno));
 }
 
-bool Diario::resume()
+std::optional<Diario::Corso> Diario::resume()
 {
     if (!open()) {
-        return false;
+        return std::nullopt;
     }
-    m_size = m_file.readAll().lastIndexOf('\n') + 1; // what follows was not confirmed
-    return true;
+    const QByteArray text = m_file.readAll();
+    if (m_file.error() != QFile::NoError) {
+        fail(m_file.errorString());
+        return std::nullopt;
+    }
+    m_size = text.lastIndexOf('\n') + 1; // what follows was not confirmed
+    return courseOf(text);
 }
 
 bool Diario::addCards(quint64 impronta)

@@ -25,17 +25,18 @@ public:
         std::optional<Intervallo> numeri; // none when no game was begun
         std::vector<quint32> chiamate;
         int righeSaltate = 0; // lines that tell nothing
+        QString errore;       // why a file that is there could not be read; what it tells is not known then
     };
 
-    // Reads a file, without a last line that was not finished; nothing of one that cannot be read.
+    // Reads a file, without a last line that was not finished. One that is not there tells nothing.
     static Corso read(const QString &fileName);
 
     explicit Diario(const QString &fileName);
 
-    // Begins an empty journal in place of whatever is there, or goes on with the one there. False, for the reason in
-    // errorString(), when it cannot be written or another window has it open.
+    // Begins an empty journal in place of whatever is there, or goes on with the one there, which is as it is told.
+    // False or none, for the reason in errorString(), when it cannot be read or written or another window has it open.
     [[nodiscard]] bool begin(quint64 impronta, Intervallo numeri);
-    [[nodiscard]] bool resume();
+    [[nodiscard]] std::optional<Corso> resume();
 
     // False when the line did not reach the disk; it is then not part of the journal.
     [[nodiscard]] bool addCards(quint64 impronta);

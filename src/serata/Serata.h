@@ -48,6 +48,7 @@ private:
     // Opening. What returns false has told the user why.
     EveningBefore decideOn(const SerataSalvata &serata);
     EveningBefore askAbout(const SerataSalvata &serata);
+    bool putAside(SerataSalvata &serata, SerataSalvata::Parte parte);
     bool beginSet(const Cartella &cartella, std::unique_ptr<SerataSalvata> serata, Intervallo numeri);
     bool beginElsewhere(const Cartella &cartella, Intervallo numeri, const QString &reason);
     bool openEvening(std::unique_ptr<SerataSalvata> serata);

@@ -27,8 +27,8 @@ bool Serata::openSet(const Cartella &cartella, Intervallo numeri)
     case EveningBefore::Unclear:
         return false;
     case EveningBefore::PutAside:
-        if (setAside(registro).isEmpty()) {
-            return refuse(tr("La serata di prima non si può mettere da parte."), QString());
+        if (!putAside(*serata, SerataSalvata::Parte::Tutto)) {
+            return false;
         }
         break;
     case EveningBefore::None:
@@ -39,8 +39,12 @@ bool Serata::openSet(const Cartella &cartella, Intervallo numeri)
 
 Serata::EveningBefore Serata::decideOn(const SerataSalvata &serata)
 {
+    if (!serata.whyUnreadable().isEmpty()) {
+        refuse(tr("Il file delle chiamate non si può leggere."), serata.whyUnreadable());
+        return EveningBefore::Unclear;
+    }
     if (serata.callsBefore() == 0) {
-        return EveningBefore::None;
+        return serata.skippedLines() == 0 ? EveningBefore::None : EveningBefore::PutAside;
     }
     const bool nothingElse = serata.partita().schede().empty();
     return serata.isSameEvening() || nothingElse ? EveningBefore::GoesOn : askAbout(serata);
@@ -64,6 +68,20 @@ Serata::EveningBefore Serata::askAbout(const SerataSalvata &serata)
     default:
         return EveningBefore::Unclear;
     }
+}
+
+bool Serata::putAside(SerataSalvata &serata, SerataSalvata::Parte parte)
+{
+    const QString newName = serata.putAside(parte);
+    if (newName.isEmpty()) {
+        return refuse(tr("La serata di prima non si può mettere da parte."), serata.errorString());
+    }
+    if (serata.callsBefore() == 0) { // nobody was asked
+        QMessageBox::warning(this, windowTitle(),
+                             tr("Le chiamate di prima sono illeggibili e sono state messe da parte:\n%1")
+                                 .arg(QDir::toNativeSeparators(SerataSalvata::diarioOf(newName))));
+    }
+    return true;
 }
 
 // A set gets a register of its own: without it its cards would be lost with the program. The journal comes first: it
@@ -125,8 +143,8 @@ bool Serata::openEvening(std::unique_ptr<SerataSalvata> serata)
     case EveningBefore::Unclear:
         return false;
     case EveningBefore::PutAside:
-        if (!setDiarioAside(serata->registro())) {
-            return refuse(tr("La serata di prima non si può mettere da parte."), QString());
+        if (!putAside(*serata, SerataSalvata::Parte::Chiamate)) {
+            return false;
         }
         break;
     case EveningBefore::None:

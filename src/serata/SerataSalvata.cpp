@@ -46,8 +46,13 @@ bool SerataSalvata::begin(Intervallo numeri)
 
 bool SerataSalvata::resume()
 {
+    const auto before = m_diario.resume();
+    if (!before) {
+        return false;
+    }
+    m_before = *before; // another window may have called since
     const Intervallo numeri = m_before.numeri.value_or(m_partita.numeri());
-    const bool goesOn = m_diario.resume() && (m_before.impronta == m_impronta || m_diario.addCards(m_impronta)) &&
+    const bool goesOn = (m_before.impronta == m_impronta || m_diario.addCards(m_impronta)) &&
                         (m_before.numeri || m_diario.addGame(numeri));
     if (!goesOn) {
         return false;
@@ -55,6 +60,18 @@ bool SerataSalvata::resume()
     m_partita.begin(numeri);
     m_partita.callAll(m_before.chiamate);
     return true;
+}
+
+// The journal goes first: what is left if the second step fails is a register without calls. It is held meanwhile, so
+// that no evening loses its files that is played in another window.
+QString SerataSalvata::putAside(Parte parte)
+{
+    const QString diario = diarioOf(m_registro);
+    const QString newName = nameAside(m_registro);
+    const bool held = !QFile::exists(diario) || m_diario.resume();
+    const bool moved = held && renameIfThere(diario, diarioOf(newName)) &&
+                       (parte == Parte::Chiamate || renameIfThere(m_registro, newName));
+    return moved ? newName : QString();
 }
 
 bool SerataSalvata::startGame(Intervallo numeri)
@@ -79,18 +96,4 @@ bool SerataSalvata::toggle(quint32 numero)
 QString registerOfTheEvening(const QString &folder)
 {
     return QDir(folder).filePath(QStringLiteral("Serata in corso.csv"));
-}
-
-// The journal goes first: what is left if the second step fails is a register without calls.
-QString setAside(const QString &registro)
-{
-    const QString newName = nameAside(registro);
-    const bool moved = renameIfThere(SerataSalvata::diarioOf(registro), SerataSalvata::diarioOf(newName)) &&
-                       renameIfThere(registro, newName);
-    return moved ? newName : QString();
-}
-
-bool setDiarioAside(const QString &registro)
-{
-    return renameIfThere(SerataSalvata::diarioOf(registro), SerataSalvata::diarioOf(nameAside(registro)));
 }

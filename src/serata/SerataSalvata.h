@@ -22,6 +22,14 @@ public:
     bool isSameEvening() const { return m_before.numeri && m_before.impronta == m_impronta; }
     // Lines of the journal that tell nothing.
     int skippedLines() const { return m_before.righeSaltate; }
+    // Why it could not be read, so that nothing is known of that evening; empty when it could, or there is none.
+    const QString &whyUnreadable() const { return m_before.errore; }
+
+    // What of the evening before is put aside: its journal, or its register too.
+    enum class Parte { Chiamate, Tutto };
+    // Gives that, as far as it is there, a name that tells the present time. The new name of the register; empty when
+    // it fails, or the evening is open in another window.
+    [[nodiscard]] QString putAside(Parte parte);
 
     // These are false, for the reason in errorString(), when the step does not reach the disk; nothing changes then.
     // A new evening, in place of the one before, or the one before.
@@ -46,9 +54,3 @@ private:
 
 // Where the register of an evening is kept that has none of its own.
 QString registerOfTheEvening(const QString &folder);
-
-// Gives a register and its journal, as far as they are there, a name that tells the present time, so that the name is
-// free for others. The new name of the register; empty when that fails.
-[[nodiscard]] QString setAside(const QString &registro);
-// The same for the journal alone. False when that fails.
-[[nodiscard]] bool setDiarioAside(const QString &registro);

@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace {
 using Numbers = std::vector<quint32>;
 const QString name = QStringLiteral("natale.csv.chiamate");
@@ -39,6 +41,9 @@ private slots:
     void theCourseIsReadBack_data();
     void theCourseIsReadBack();
     void aFileThatIsNotThereTellsNothing();
+    void aJournalThatCannotBeReadIsToldOf_data();
+    void aJournalThatCannotBeReadIsToldOf();
+    void aJournalThatCannotBeReadStaysAsItIs();
     void aLineThatWasNotFinishedIsDropped();
     void anOldJournalIsReplaced();
     void anEveningGoesOnAfterItsLastLine();
@@ -118,6 +123,48 @@ void tst_Diario::aFileThatIsNotThereTellsNothing()
     QVERIFY(!Diario::read(name).numeri.has_value());
     m_folder->write(name, "schede ffffffffffffffff\n");
     QCOMPARE(Diario::read(name).impronta, ~quint64(0));
+}
+
+void tst_Diario::aJournalThatCannotBeReadIsToldOf_data()
+{
+    QTest::addColumn<int>("faultAt"); // read, 0 for none
+    QTest::addColumn<QString>("leadsTo");
+    QTest::newRow("a failing disk") << 1 << QString();
+    QTest::newRow("a folder") << 0 << QStringLiteral(".");
+    QTest::newRow("a pipe") << 0 << QStringLiteral("pipe");
+    QTest::newRow("a device without end") << 0 << QStringLiteral("/dev/zero");
+}
+
+void tst_Diario::aJournalThatCannotBeReadIsToldOf()
+{
+    QFETCH(int, faultAt);
+    QFETCH(QString, leadsTo);
+    QCOMPARE(mkfifo("pipe", S_IRUSR | S_IWUSR), 0);
+    if (leadsTo.isEmpty()) {
+        m_folder->write(name, "schede 5\nnumeri 1 90\n+34\n");
+        QCOMPARE(Diario::read(name).errore, QString());
+    } else {
+        QVERIFY(QFile::link(leadsTo, name));
+    }
+    const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Reads, faultAt, FileFaults::Effect::Error);
+    const Diario::Corso corso = Diario::read(m_folder->path(name));
+    QVERIFY(!corso.errore.isEmpty());
+    QVERIFY(!corso.numeri && corso.chiamate.empty());
+}
+
+void tst_Diario::aJournalThatCannotBeReadStaysAsItIs()
+{
+    const QByteArray text("schede 5\nnumeri 1 90\n+34\n");
+    m_folder->write(name, text);
+    Diario diario(m_folder->path(name));
+    {
+        const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Reads, 1, FileFaults::Effect::Error);
+        QVERIFY(!diario.resume());
+        QVERIFY(!diario.errorString().isEmpty());
+    }
+    QCOMPARE(m_folder->read(name), text);
+    const auto corso = diario.resume();
+    QVERIFY(corso && corso->chiamate == Numbers{34});
 }
 
 void tst_Diario::aLineThatWasNotFinishedIsDropped()

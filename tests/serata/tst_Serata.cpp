@@ -226,10 +226,15 @@ private slots:
     void theEveningOfASetIsSavedInTheSaveFolder();
     void theEveningGoesOnWhereItWas();
     void callsThatCannotBeReadAreToldOf();
+    void aJournalThatCannotBeReadIsLeftAlone_data();
+    void aJournalThatCannotBeReadIsLeftAlone();
+    void aJournalWithoutAGameIsPutAside_data();
+    void aJournalWithoutAGameIsPutAside();
     void theRangeIsThatOfTheParametersAndOfTheCards();
     void anEveningOfOtherCardsGoesOnIfWanted();
     void anEveningOfOtherCardsIsPutAsideIfNotWanted();
     void anEveningOfOtherCardsIsLeftAloneWithoutAnAnswer();
+    void anEveningThatIsPlayedElsewhereIsNotPutAside();
     void withoutASetTheLastEveningGoesOn();
     void withoutASetAndAnEveningTheBoardIsThere();
     void aFolderThatTakesNothingIsReplacedByAnother();
@@ -770,6 +775,60 @@ void tst_Serata::callsThatCannotBeReadAreToldOf()
     QVERIFY(e.isMarked(7) && e.isMarked(8) && !e.isMarked(9));
 }
 
+void tst_Serata::aJournalThatCannotBeReadIsLeftAlone_data()
+{
+    QTest::addColumn<bool>("ofARegister");
+    QTest::newRow("of a set") << false;
+    QTest::newRow("of a register") << true;
+}
+
+void tst_Serata::aJournalThatCannotBeReadIsLeftAlone()
+{
+    QFETCH(bool, ofARegister);
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(7);
+    const QByteArray calls = e.folder.read(journal);
+    e.window = std::make_unique<Serata>();
+    e.boxes.expectBox(title, QStringLiteral("Il file delle chiamate non si può leggere."), QMessageBox::Ok,
+                      [](QMessageBox *box) { QCOMPARE(box->informativeText(), QStringLiteral("Input/output error")); });
+    {
+        const FileFaults faults(e.folder.path(journal), FileFaults::Calls::Reads, 1, FileFaults::Effect::Error);
+        QVERIFY(
+            !(ofARegister ? e.window->openRegister(e.folder.path(evening)) : e.window->openSet(*fourCards(), {1, 90})));
+    }
+    QCOMPARE(e.folder.read(journal), calls);
+    QCOMPARE(e.files(), (QStringList{evening, journal}));
+    QVERIFY(e.openAgain(*fourCards()));
+    QVERIFY(e.isMarked(7));
+}
+
+void tst_Serata::aJournalWithoutAGameIsPutAside_data()
+{
+    aJournalThatCannotBeReadIsLeftAlone_data();
+}
+
+void tst_Serata::aJournalWithoutAGameIsPutAside()
+{
+    QFETCH(bool, ofARegister);
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(7);
+    e.window = std::make_unique<Serata>();
+    const QByteArray calls = e.folder.read(journal).replace("numeri 1", "numeri l");
+    e.folder.write(journal, calls);
+    e.boxes.expectBox(title, QMessageBox::Ok, [&e](QMessageBox *box) {
+        const QStringList lines = box->text().split(QLatin1Char('\n'));
+        QCOMPARE(lines.first(), QStringLiteral("Le chiamate di prima sono illeggibili e sono state messe da parte:"));
+        QVERIFY(QFile::exists(lines.last()));
+    });
+    QVERIFY(ofARegister ? e.window->openRegister(e.folder.path(evening)) : e.window->openSet(*fourCards(), {1, 90}));
+    QCOMPARE(e.text("chiamate_label"), QStringLiteral("Numeri chiamati: 0 di 90"));
+    const QStringList aside = QDir().entryList({QStringLiteral("Serata in corso 20*.csv.chiamate")}, QDir::Files);
+    QCOMPARE(aside.size(), 1);
+    QCOMPARE(e.folder.read(aside.first()), calls);
+}
+
 void tst_Serata::theRangeIsThatOfTheParametersAndOfTheCards()
 {
     Evening e;
@@ -847,6 +906,24 @@ void tst_Serata::anEveningOfOtherCardsIsLeftAloneWithoutAnAnswer()
     QVERIFY(!e.openAgain(other));
     QCOMPARE(e.folder.read(journal), calls);
     QCOMPARE(e.files(), (QStringList{evening, journal}));
+}
+
+void tst_Serata::anEveningThatIsPlayedElsewhereIsNotPutAside()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(7);
+    e.boxes.expectBox(title, QMessageBox::No, [](QMessageBox *) {});
+    e.boxes.expectBox(title, QStringLiteral("La serata di prima non si può mettere da parte."), QMessageBox::Ok,
+                      [](QMessageBox *box) {
+                          QCOMPARE(box->informativeText(),
+                                   QStringLiteral("La serata è già aperta in un'altra finestra."));
+                      });
+    Serata other;
+    QVERIFY(!other.openSet(Cartella(1, 1, 3, 9), {1, 90}));
+    QCOMPARE(e.files(), (QStringList{evening, journal}));
+    e.call(8);
+    QCOMPARE(e.saved(), (Numbers{7, 8}));
 }
 
 void tst_Serata::withoutASetTheLastEveningGoesOn()

@@ -17,6 +17,7 @@
 
 namespace {
 using Numbers = std::vector<quint32>;
+using Parte = SerataSalvata::Parte;
 const QString registro = QStringLiteral("natale.csv");
 
 std::vector<Scheda> cards()
@@ -70,6 +71,10 @@ private slots:
     void theFilesOfAnEveningArePutAside_data();
     void theFilesOfAnEveningArePutAside();
     void nothingToPutAsideIsNoFailure();
+    void anEveningThatIsPlayedIsNotPutAside_data();
+    void anEveningThatIsPlayedIsNotPutAside();
+    void callsMadeMeanwhileAreThere();
+    void aJournalThatCannotBeReadIsNotGoneOnWith();
     void aNameThatIsTakenIsNotOverwritten();
     void killedAtAnyMomentTheEveningGoesOn();
 
@@ -247,7 +252,7 @@ void tst_SerataSalvata::theFilesOfAnEveningArePutAside()
     QFETCH(QString, form);
     m_folder->write(name, "cards");
     m_folder->write(SerataSalvata::diarioOf(name), "calls");
-    const QString aside = setAside(m_folder->path(name));
+    const QString aside = SerataSalvata(cards(), m_folder->path(name)).putAside(Parte::Tutto);
     const QString asideName = QFileInfo(aside).fileName();
     QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(form)).match(asideName).hasMatch(),
              qPrintable(asideName));
@@ -258,16 +263,67 @@ void tst_SerataSalvata::theFilesOfAnEveningArePutAside()
 
 void tst_SerataSalvata::nothingToPutAsideIsNoFailure()
 {
-    QVERIFY(!setAside(m_folder->path(registro)).isEmpty());
+    QVERIFY(!SerataSalvata(cards(), m_folder->path(registro)).putAside(Parte::Tutto).isEmpty());
     QCOMPARE(filesHere(), QStringList());
+}
+
+void tst_SerataSalvata::anEveningThatIsPlayedIsNotPutAside_data()
+{
+    QTest::addColumn<bool>("registerToo");
+    QTest::newRow("with its register") << true;
+    QTest::newRow("its calls alone") << false;
+}
+
+void tst_SerataSalvata::anEveningThatIsPlayedIsNotPutAside()
+{
+    QFETCH(bool, registerToo);
+    m_folder->write(registro, "cards");
+    SerataSalvata played(cards(), registro);
+    QVERIFY(played.begin({1, 90}) && played.toggle(7));
+    const QStringList before = filesHere();
+    SerataSalvata other(otherCards(), registro);
+    QCOMPARE(other.putAside(registerToo ? Parte::Tutto : Parte::Chiamate), QString());
+    QVERIFY(!other.errorString().isEmpty());
+    QCOMPARE(filesHere(), before);
+    QVERIFY(played.toggle(8));
+    QCOMPARE(Diario::read(SerataSalvata::diarioOf(registro)).chiamate, (Numbers{7, 8}));
+}
+
+// Two windows looked at the journal before one of them went on.
+void tst_SerataSalvata::callsMadeMeanwhileAreThere()
+{
+    auto first = std::make_unique<SerataSalvata>(cards(), registro);
+    QVERIFY(first->begin({1, 90}) && first->toggle(7));
+    SerataSalvata second(cards(), registro);
+    QVERIFY(first->toggle(8));
+    first.reset();
+    QVERIFY(second.resume());
+    QCOMPARE(second.partita().chiamate(), (Numbers{7, 8}));
+}
+
+void tst_SerataSalvata::aJournalThatCannotBeReadIsNotGoneOnWith()
+{
+    const QByteArray text("schede 5\nnumeri 1 90\n+34\n");
+    m_folder->write(SerataSalvata::diarioOf(registro), text);
+    {
+        const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Reads, 1,
+                                FileFaults::Effect::LastingError);
+        SerataSalvata serata(cards(), m_folder->path(registro));
+        QVERIFY(!serata.whyUnreadable().isEmpty());
+        QVERIFY(!serata.resume());
+        QVERIFY(!serata.errorString().isEmpty());
+    }
+    QCOMPARE(m_folder->read(SerataSalvata::diarioOf(registro)), text);
+    QCOMPARE(SerataSalvata(cards(), registro).whyUnreadable(), QString());
 }
 
 void tst_SerataSalvata::aNameThatIsTakenIsNotOverwritten()
 {
     m_folder->write(registro, "first");
-    const QString first = setAside(m_folder->path(registro));
+    SerataSalvata serata(cards(), m_folder->path(registro));
+    const QString first = serata.putAside(Parte::Tutto);
     m_folder->write(registro, "second");
-    const QString second = setAside(m_folder->path(registro)); // fails within the same second
+    const QString second = serata.putAside(Parte::Tutto); // fails within the same second
     QCOMPARE(m_folder->read(QFileInfo(first).fileName()), QByteArray("first"));
     QCOMPARE(m_folder->read(second.isEmpty() ? registro : QFileInfo(second).fileName()), QByteArray("second"));
 }
