@@ -79,6 +79,9 @@ private slots:
     void killedAtAnyMomentTheEveningGoesOn();
 
 private:
+    // Counts the players that were killed before all numbers of an evening were drawn.
+    static void playUntilFinished(const QString &path, int &kills);
+
     std::unique_ptr<ScratchFolder> m_folder;
 };
 
@@ -332,9 +335,16 @@ void tst_SerataSalvata::aNameThatIsTakenIsNotOverwritten()
 // called, in the same order, and at the end all are.
 void tst_SerataSalvata::killedAtAnyMomentTheEveningGoesOn()
 {
-    const QString path = m_folder->path(registro);
-    SharedCalls calls;
     int kills = 0;
+    for (int evening = 1; kills < 4 && !QTest::currentTestFailed(); ++evening) { // a busy machine lets one finish
+        playUntilFinished(m_folder->path(QString::number(evening) + registro), kills);
+    }
+}
+
+void tst_SerataSalvata::playUntilFinished(const QString &path, int &kills)
+{
+    SharedCalls calls;
+    const int killsBefore = kills;
     bool finished = false;
     for (useconds_t life = 200; !finished; life += 150) {
         const pid_t player = fork();
@@ -353,9 +363,8 @@ void tst_SerataSalvata::killedAtAnyMomentTheEveningGoesOn()
         const Numbers found = Diario::read(SerataSalvata::diarioOf(path)).chiamate;
         const Numbers shown = calls.shown();
         QVERIFY(containsInOrder(found, shown)); // some numbers reached the disk and no eye
-        QVERIFY(found.size() <= shown.size() + size_t(kills));
+        QVERIFY(found.size() <= shown.size() + size_t(kills - killsBefore));
     }
-    QVERIFY(kills > 3);
     QCOMPARE(Diario::read(SerataSalvata::diarioOf(path)).chiamate.size(), size_t(90));
 }
 
