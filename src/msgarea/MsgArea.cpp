@@ -2,6 +2,7 @@
 #include "msgarea/MsgArea.h"
 
 #include "msgarea/Confirmation.h"
+#include "msgarea/OpenDialogs.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
 #include "settings/DiskFile.h"
@@ -81,12 +82,10 @@ void MsgArea::setLines(const QStringList &lines)
 
 void MsgArea::closeEvent(QCloseEvent *event)
 {
-    if (m_fileMode && m_modified &&
-        !confirmLoss(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"), loss())) {
-        event->ignore();
-        return;
-    }
-    event->accept();
+    const bool stays =
+        isAsking(*this) || (m_fileMode && m_modified &&
+                            !confirmLoss(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"), loss()));
+    event->setAccepted(!stays);
 }
 
 // What leaving would lose. A text counts as modified from its loading on, though the user did not touch it.

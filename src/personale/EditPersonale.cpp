@@ -2,6 +2,7 @@
 #include "personale/EditPersonale.h"
 
 #include "generation/GUtils.h"
+#include "msgarea/OpenDialogs.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/CasellaAccessibile.h"
 #include "personale/GeneraCartellaPersonale.h"
@@ -276,7 +277,7 @@ bool EditPersonale::ask(const QString &title, const QString &question)
 void EditPersonale::closeEvent(QCloseEvent *event)
 {
     if (m_open) {
-        if (!ask(Product::titleFor(tr("Mappatura manuale")), tr("Sei sicuro di voler chiudere?"))) {
+        if (isAsking(*this) || !ask(Product::titleFor(tr("Mappatura manuale")), tr("Sei sicuro di voler chiudere?"))) {
             event->ignore();
             return;
         }

@@ -2,12 +2,14 @@
 #include "serata/Serata.h"
 
 #include "model/SpokenContent.h"
+#include "msgarea/OpenDialogs.h"
 #include "resources/Resources.h"
 #include "serata/CaselleDelegate.h"
 #include "serata/ElencoSchede.h"
 #include "serata/NuovaPartita.h"
 #include "ui_Serata.h"
 
+#include <QCloseEvent>
 #include <QMessageBox>
 #include <QResizeEvent>
 #include <QShortcut>
@@ -169,6 +171,11 @@ void Serata::setupLists()
             showCard();
         });
     }
+}
+
+void Serata::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(!isAsking(*this));
 }
 
 void Serata::resizeEvent(QResizeEvent *event)

@@ -34,6 +34,7 @@ public:
     bool openRegister(const QString &fileName);
 
 protected:
+    void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
+#include "msgarea/OpenDialogs.h"
 #include "resources/Resources.h"
 #include "settings/Config.h"
 #include "ui_Options.h"
@@ -26,6 +27,13 @@ Options::Options(QWidget *parent)
 }
 
 Options::~Options() = default;
+
+void Options::done(int result)
+{
+    if (!isAsking(*this)) {
+        QDialog::done(result);
+    }
+}
 
 // A click brings the other window, which takes input all the time, to the front. The dialog stays before it.
 bool Options::eventFilter(QObject *watched, QEvent *event)

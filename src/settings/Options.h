@@ -26,6 +26,8 @@ public:
     // Removes config.ini, tells the outcome and, after a success, closes the kept window when exitAfter is set.
     void deleteConfig(bool exitAfter);
 
+    void done(int result) override;
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

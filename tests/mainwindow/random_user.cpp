@@ -210,16 +210,16 @@ QString RandomUser::problem() const
 void RandomUser::act()
 {
     keepSmall();
-    const int kind = below(20);
+    const int kind = below(40);
     if (kind < 1 && openEditor() == nullptr) {
         makePages();
     } else if (kind < 3) {
         triggerAction();
-    } else if (kind < 14) {
+    } else if (kind < 29) {
         useAnyWidget();
-    } else if (kind < 17) {
+    } else if (kind < 35) {
         pressKey();
-    } else if (kind < 19) {
+    } else if (kind < 38) {
         callSlot();
     } else {
         closeOrResize();

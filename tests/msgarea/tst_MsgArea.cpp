@@ -84,6 +84,7 @@ private slots:
     void theFirstCloseAfterLoadingAsks();
     void aRefusedCloseKeepsTheWindow_data();
     void aRefusedCloseKeepsTheWindow();
+    void itStaysOpenWhileItAsks();
     void theCloseAfterSavingDoesNotAsk();
     void editingAfterSavingAsksAgain();
 
@@ -341,6 +342,23 @@ void tst_MsgArea::aRefusedCloseKeepsTheWindow()
     area.window->close();
     QVERIFY(!area.isClosed());
     QVERIFY(area.window->isVisible());
+}
+
+// The dialog, which belongs to the window, still runs its loop.
+void tst_MsgArea::itStaysOpenWhileItAsks()
+{
+    BoxScript boxes;
+    const Shown area(false);
+    const auto closes = [&area](QWidget *) {
+        area.window->close();
+        QVERIFY(!area.isClosed());
+        QVERIFY(area.window->isVisible());
+    };
+    boxes.expectFileDialog(saveDialog, m_folder->path(QStringLiteral("a.txt")), closes);
+    boxes.expectBox(saveTitle, savedText, QMessageBox::Ok, closes);
+    area.save();
+    area.window->close();
+    QVERIFY(area.isClosed());
 }
 
 void tst_MsgArea::theCloseAfterSavingDoesNotAsk()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EditorUnderTest.h"
 #include "model/Positions.h"
+#include "msgarea/MsgArea.h"
 #include "support/FatalMessage.h"
 
 #include <QMenu>
@@ -113,6 +114,7 @@ private slots:
 
     void decliningToCloseKeepsTheWindow();
     void closingReportsAndDeletesTheWindow();
+    void theWindowStaysOpenWhileItAsks();
     void theMainWindowFollowsTheActivation();
     void theMainWindowFollowsTheWindowState();
     void theMainWindowIsBackAfterClosing();
@@ -945,6 +947,24 @@ void tst_EditPersonale::closingReportsAndDeletesTheWindow()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(t.editor.isNull());
     QCOMPARE(done.size(), 1);
+}
+
+// Its reports, which it takes along, may be asking, too.
+void tst_EditPersonale::theWindowStaysOpenWhileItAsks()
+{
+    EditorUnderTest t;
+    const auto closes = [&t](QWidget *) {
+        t.editor->close(); // without a question
+        QVERIFY(t.editor->isVisible());
+    };
+    t.boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"),
+                      QStringLiteral("Pagine create e aggiunte alla cartella principale!"), QMessageBox::Ok, closes);
+    t.trigger("actionCreaPagine");
+    t.expectSave(t.folder.path(QStringLiteral("a.QcF")));
+    t.trigger("actionSave");
+    t.boxes.expectFileDialog(QStringLiteral("Salva su file"), QString(), closes);
+    t.editor->findChild<MsgArea *>()->findChild<QAction *>(QStringLiteral("actionSalva"))->trigger();
+    QVERIFY(t.editor->isVisible());
 }
 
 void tst_EditPersonale::theMainWindowFollowsTheActivation()

@@ -243,6 +243,7 @@ private slots:
     void theWindowThatIsOpenIsShownAgain();
 
     void aRegisterIsOpened();
+    void itStaysOpenWhileItAsks();
     void theEveningOfARegisterIsBesideIt();
     void aRegisterWithOddLinesIsUsedAsFarAsItGoes();
     void aRegisterWithoutCardsIsRefused();
@@ -1031,6 +1032,19 @@ void tst_Serata::aRegisterIsOpened()
     e.boxes.expectFileDialog(QStringLiteral("Apre un registro"), QString());
     e.trigger("actionApriRegistro");
     QCOMPARE(e.card(), QStringLiteral("100 200"));
+}
+
+void tst_Serata::itStaysOpenWhileItAsks()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    e.boxes.expectFileDialog(QStringLiteral("Apre un registro"), QString(), [&e](QWidget *) {
+        e.window->close();
+        QVERIFY(e.window->isVisible());
+    });
+    e.trigger("actionApriRegistro");
+    e.window->close();
+    QVERIFY(!e.window->isVisible());
 }
 
 void tst_Serata::theEveningOfARegisterIsBesideIt()

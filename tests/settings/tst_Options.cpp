@@ -55,6 +55,7 @@ private slots:
     void itsButtonsCloseAndDeleteIt_data();
     void itsButtonsCloseAndDeleteIt();
     void itOutlivesItsWindow();
+    void itStaysOpenWhileItAsks();
 
     void resettingAndLeavingClosesTheWindow();
     void theWindowMayRefuseToClose();
@@ -191,6 +192,19 @@ void tst_Options::itOutlivesItsWindow()
     QVERIFY(!m_options.isNull());
     click("butt_formatselection");
     QVERIFY(m_options->findChild<MsgArea *>() != nullptr);
+}
+
+void tst_Options::itStaysOpenWhileItAsks()
+{
+    BoxScript boxes;
+    boxes.expectBox(title, resetQuestion, QMessageBox::No, [this](QMessageBox *) {
+        m_options->close();
+        m_options->reject();
+        QVERIFY(m_options->isVisible());
+    });
+    click("butt_azzeracontinua");
+    m_options->close();
+    QVERIFY(!m_options->isVisible());
 }
 
 void tst_Options::resettingAndLeavingClosesTheWindow()
