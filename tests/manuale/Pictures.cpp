@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manuale/Pictures.h"
 
+#include "generation/GUtils.h"
 #include "mainwindow/PagePreview.h"
 #include "manuale/PictureScene.h"
 #include "model/Cartella.h"
@@ -125,7 +126,8 @@ void takeStyle(PictureScene &scene)
 
 void takePicturesAndWords(PictureScene &scene)
 {
-    scene.config->defaultCellText = QStringLiteral("BINGO");
+    const bool italian = shownLanguage().startsWith(QLatin1String("it"));
+    scene.config->defaultCellText = italian ? QStringLiteral("BIS") : QStringLiteral("WIN");
     PictureScene::type(scene.mainWindow(), "box_classica_numeroblocchi", 4);
     PictureScene::type(scene.mainWindow(), "box_classica_numeroestrazionixriga", 7);
     PictureScene::type(scene.mainWindow(), "box_classica_numerojollyxriga", 1);

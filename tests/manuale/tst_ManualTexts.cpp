@@ -10,6 +10,8 @@
 #include <QSet>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 const QString projectFolder = QStringLiteral(QUINTRA_PROJECT);
 
@@ -53,6 +55,15 @@ QSet<QString> buttonsOf(const QString &language)
     return language == QLatin1String("it")
                ? QSet<QString>{QStringLiteral("Sì"), QStringLiteral("No"), QStringLiteral("Annulla")}
                : QSet<QString>{QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Cancel")};
+}
+
+// Whether a text of the program reads so, or begins so, with its placeholders filled in.
+bool reads(const QString &text, const QString &quote)
+{
+    QString pattern = QRegularExpression::escape(text.simplified());
+    pattern.replace(QRegularExpression(QStringLiteral("\\\\%[0-9]")), QStringLiteral(".+"));
+    return text.simplified().startsWith(quote) ||
+           QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(quote).hasMatch();
 }
 
 // A text as the page of messages writes it: on one line, with a sign for what differs from one time to another.
@@ -106,6 +117,8 @@ private slots:
     void bothLanguagesTellTheSame();
     void labelsAreThoseOfTheProgram_data();
     void labelsAreThoseOfTheProgram();
+    void quotesAreThoseOfTheProgram_data();
+    void quotesAreThoseOfTheProgram();
     void explainedMessagesAreThoseOfTheProgram_data();
     void explainedMessagesAreThoseOfTheProgram();
     void everyMessageIsExplained_data();
@@ -169,6 +182,26 @@ void tst_ManualTexts::labelsAreThoseOfTheProgram()
     }
     for (const QString &label : all(QStringLiteral("\\*\\*([^*]+)\\*\\*"), page(language, name))) {
         QVERIFY2(labels.contains(label), qPrintable(label));
+    }
+}
+
+void tst_ManualTexts::quotesAreThoseOfTheProgram_data()
+{
+    addPages({QStringLiteral("it"), QStringLiteral("en")});
+}
+
+// What stands in quotes, save in examples of files.
+void tst_ManualTexts::quotesAreThoseOfTheProgram()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, name);
+    QString text = page(language, name);
+    text.remove(QRegularExpression(QStringLiteral("^    .*$|`[^`]*`"), QRegularExpression::MultilineOption));
+    const auto entries = translations(language);
+    for (const QString &quote : all(QStringLiteral("\"([^\"]+)\""), text)) {
+        const bool found = std::any_of(entries.begin(), entries.end(),
+                                       [&quote](const auto &entry) { return reads(entry.translation, quote); });
+        QVERIFY2(found, qPrintable(quote));
     }
 }
 
