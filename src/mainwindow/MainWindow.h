@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class EditPersonale;
 class GeneraCartellaClassica;
@@ -178,6 +179,8 @@ private:
     void showFontText(const QString &text);
 
     // Cell editing.
+    std::optional<TablePosition> typedPlace(const QTableWidgetItem *item);
+    void takeTypedText(const TablePosition &place, const QString &text);
     Cella askWhatIsTyped(const QString &text);
     void clearSelectedCells();
     void showContent(const TablePosition &place, bool asTyped);

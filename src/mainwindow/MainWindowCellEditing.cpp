@@ -89,25 +89,33 @@ void MainWindow::tableItemChanged(QTableWidgetItem *item)
     if (m_editGuard) {
         return;
     }
+    if (const std::optional<TablePosition> place = typedPlace(item)) {
+        takeTypedText(*place, item->text());
+    }
+}
+
+// The cell of the page shown that was typed into. Nothing for a filler, nor when something is missing, which is told.
+std::optional<TablePosition> MainWindow::typedPlace(const QTableWidgetItem *item)
+{
     const QString title = Product::titleFor(tr("Modifica valori"));
-    Pagina *page = shownPage();
+    const Pagina *page = shownPage();
     if (page == nullptr) {
         QMessageBox::critical(this, title, tr("Errore durante la modifica del valore nella tabella."));
-        return;
+        return std::nullopt;
     }
     if (item == nullptr || item->tableWidget() == nullptr || item->row() < 0) {
         QMessageBox::warning(this, title, tr("Problema durante la modifica del valore nella tabella."));
-        return;
+        return std::nullopt;
     }
     const TablePosition place{item->row(), item->column()};
-    const Cella *edited = cellAt(*page, place.row, place.column);
-    if (edited == nullptr) { // a filler
-        return;
-    }
+    return cellAt(*page, place.row, place.column) != nullptr ? std::make_optional(place) : std::nullopt;
+}
 
-    // The questions run loops of their own: afterwards the page may be gone, or be shown by another table.
-    const CELL_VALUE before = edited->tipo;
-    const QString text = item->text();
+// The questions run loops of their own: afterwards the page may be gone, or be shown by another table.
+void MainWindow::takeTypedText(const TablePosition &place, const QString &text)
+{
+    Pagina *const page = shownPage();
+    const CELL_VALUE before = cellAt(*page, place.row, place.column)->tipo;
     const WatchedPages::Hold asked(m_watchedPages, page);
     QTableWidget *const table = m_table;
     const bool keyboardInTable = table->isAncestorOf(QApplication::focusWidget());
