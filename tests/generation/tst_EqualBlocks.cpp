@@ -4,7 +4,6 @@
 
 #include "support/FatalMessage.h"
 
-#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -474,17 +473,14 @@ void tst_EqualBlocks::theFirstLinesComeWithoutProgress()
     QCOMPARE(progress.count(), 0);
 }
 
-// Pair by pair this would be 77 thousand million comparisons.
+// Pair by pair this would be 77 thousand million comparisons, and the test would not end.
 void tst_EqualBlocks::manyEqualBlocksAreCountedAtOnce()
 {
     Cartella set(65535, 6, 1, 1);
-    QElapsedTimer timer;
-    timer.start();
     QString summary;
     QCOMPARE(set.checkForEqualBlocks(nullptr, &summary), Q_INT64_C(77305872420));
     QCOMPARE(summaryLine(summary, 1), QStringLiteral("Confronti tra blocchi: 77305872420"));
     QCOMPARE(set.equalBlockLines(1000).size(), 1000);
-    QVERIFY(timer.elapsed() < 20000);
 }
 
 // So many that some must share a hash value.

@@ -8,7 +8,6 @@
 #include "support/ScratchFolder.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QSet>
 #include <QTest>
 
@@ -662,10 +661,7 @@ void tst_GeneraCartellaClassica::theWidestRangeIsFilled()
 void tst_GeneraCartellaClassica::theLargestPageEnds()
 {
     Cartella set(99, 9, 99);
-    QElapsedTimer timer;
-    timer.start();
     QVERIFY(fill(set, {99, 9, 99, 99, 0, 0, 0, 999999}));
-    QVERIFY(timer.elapsed() < 60000);
     QCOMPARE(rowsOf(*set.pagine[0]).join(QLatin1Char(' ')).count(QLatin1Char('-')), 0);
 }
 

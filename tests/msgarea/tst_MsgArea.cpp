@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
@@ -78,7 +77,7 @@ private slots:
     void everyLineIsAParagraph_data();
     void everyLineIsAParagraph();
     void linesReplaceTheText();
-    void aHundredThousandLinesAreQuick();
+    void aHundredThousandLinesAreShown();
 
     void aMessageNeverAsksOnClose();
     void theFirstCloseAfterLoadingAsks();
@@ -285,18 +284,15 @@ void tst_MsgArea::linesReplaceTheText()
     QCOMPARE(area.edit()->toPlainText(), QString());
 }
 
-void tst_MsgArea::aHundredThousandLinesAreQuick()
+void tst_MsgArea::aHundredThousandLinesAreShown()
 {
     QStringList lines;
     for (int i = 0; i < 100000; ++i) {
         lines.append(QStringLiteral("Pag %1 blocco 1 = Pag 1 blocco 1").arg(i));
     }
     const Shown area(false);
-    QElapsedTimer timer;
-    timer.start();
     area.window->setLines(lines);
     QCoreApplication::processEvents();
-    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed()))); // ten times what it takes here
     QCOMPARE(area.edit()->document()->blockCount(), 100000);
 }
 
