@@ -615,7 +615,6 @@ void tst_MainWindowStyling::aNewSizeAloneChangesNoWeight()
     QCOMPARE(chosen.styleName(), QStringLiteral("Book"));
     QCOMPARE(QFontInfo(chosen).weight(), int(QFont::Normal));
     QVERIFY(!QFontInfo(chosen).italic());
-    QCOMPARE(w.boxes.problems(), QStringList());
 }
 
 void tst_MainWindowStyling::theFontReachesTheSelection()
