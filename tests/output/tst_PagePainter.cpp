@@ -145,225 +145,238 @@ class tst_PagePainter final : public QObject
     Q_OBJECT
 
 private slots:
-    void looksAndReadsAsIfEachCallWereMade_data()
-    {
-        QTest::addColumn<Set>("set");
-        QTest::newRow("classic") << classicSet();
-        QTest::newRow("colored numbers in two fonts") << classicWithCells([](Cella &each) {
-            each.coloreTesto = each.numero % 3 == 0 ? QColor(Qt::red) : QColor(0, 0, 255, 120);
-            each.font = each.numero % 2 == 0 ? arial(12) : arial(20);
-        });
-        QTest::newRow("colored page") << classicSet([](Cartella &set) { set.pagine.first()->sfondo = Qt::cyan; });
-        QTest::newRow("cells as the page") << classicSet([](Cartella &set) {
-            set.pagine.first()->sfondo = Qt::cyan;
-            forEachCell(set, [](Cella &each) { each.coloreSfondo = Qt::cyan; });
-        });
-        QTest::newRow("one cell with a background")
-            << classicSet([](Cartella &set) { cell(set, 1, 4).coloreSfondo = QColor(255, 255, 0, 90); });
-        for (const int width : {0, 1, 2, 3, 7, 12, 30, 60, 220}) {
-            QTest::addRow("lines of width %d", width) << classicSet([width](Cartella &set) {
-                for (int b = 0; b < SampleSets::blocks; ++b) {
-                    block(set, b).spessoreLineaInterna = width;
-                    block(set, b).coloreLineaInterna = Qt::darkGreen;
-                    block(set, b).spessoreLineaEsterna = width / 2 + b;
-                    block(set, b).coloreLineaEsterna = QColor(200, 0, 0, 128);
-                }
-            });
-        }
-        QTest::newRow("translucent separators") << classicSet([](Cartella &set) {
-            block(set).spessoreLineaInterna = 8;
-            block(set).coloreLineaInterna = QColor(0, 0, 255, 100);
-        });
-        QTest::newRow("backgrounds under thick lines") << classicSet([](Cartella &set) {
-            block(set).spessoreLineaInterna = 20;
-            forEachCell(set, [](Cella &each) { each.coloreSfondo = each.numero % 2 == 0 ? Qt::green : Qt::white; });
-        });
-        QTest::newRow("chequered backgrounds") << classicSet([](Cartella &set) {
-            bool odd = false;
-            forEachCell(set, [&odd](Cella &each) {
-                odd = !odd;
-                each.coloreSfondo = odd ? QColor(Qt::yellow) : QColor(0, 100, 200, 120);
-                each.coloreTesto = odd ? Qt::darkRed : Qt::darkBlue;
-            });
-        });
-        QTest::newRow("texts and pictures among numbers") << classicSet([](Cartella &set) {
-            const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
-            forEachCell(set, [&](Cella &each) {
-                each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
-                each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
-                each.numero % 7 == 0 ? setPicture(each, picture) : void();
-            });
-        });
-        QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
-        QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
-        QTest::newRow("outlines that reach those of the next block") << classicSet([](Cartella &set) {
-            for (int b = 0; b < SampleSets::blocks; ++b) {
-                block(set, b).spessoreLineaEsterna = 6;
-                block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::yellow;
-            }
-        });
-        QTest::newRow("outlines that reach the next block") << classicSet([](Cartella &set) {
-            for (int b = 0; b < SampleSets::blocks; ++b) {
-                block(set, b).spessoreLineaInterna = 3;
-                block(set, b).coloreLineaInterna = Qt::yellow;
-                block(set, b).spessoreLineaEsterna = 20;
-                block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::darkBlue;
-            }
-        });
-        QTest::newRow("blocks that touch") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 0; });
-        QTest::newRow("no room left") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 50; });
-        QTest::newRow("exactly no room") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 48; });
-        QTest::newRow("margins") << classicSet([](Cartella &set) {
-            set.margineSinistro = 17.3;
-            set.margineSuperiore = 9.1;
-            set.margineDestro = 23;
-            set.margineInferiore = 31.7;
-        });
-        QTest::newRow("small sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A7; });
-        QTest::newRow("large sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A2; });
-        QTest::newRow("texts") << textsOfAllKinds();
-        QTest::newRow("fonts") << fontsOfAllKinds();
-        QTest::newRow("pictures") << picturesOfAllKinds();
-        QTest::newRow("ragged rows") << raggedRows(0);
-        QTest::newRow("ragged rows, thick lines") << raggedRows(140);
-        QTest::newRow("narrow cells") << narrowCells();
-        QTest::newRow("large numbers") << classicWithCells([](Cella &each) {
-            each.numero += 4294967000U;
-            each.font = arial(8);
-        });
-    }
-
-    void looksAndReadsAsIfEachCallWereMade()
-    {
-        QFETCH(Set, set);
-        compareWithReference(*set);
-    }
-
-    void fontsLeaveToTheApplicationWhatTheyDoNotSay()
-    {
-        const QFont before = QApplication::font();
-        QFont spaced = before;
-        spaced.setLetterSpacing(QFont::AbsoluteSpacing, 5);
-        QApplication::setFont(spaced);
-        compareWithReference(*classicSet());
-        QApplication::setFont(before);
-    }
-
-    void numbersOfOneColorAreReadFromCellToCell()
-    {
-        const ScratchFolder folder;
-        const Set set = SampleSets::classic(2);
-        QVERIFY(print(*set));
-        QStringList expected;
-        forEachCell(*set, [&expected](const Cella &each) {
-            if (each.tipo == CELL_NUMERO) {
-                expected.append(QString::number(each.numero));
-            }
-        });
-        QCOMPARE(PdfTools::wordsAsWritten(printed), expected);
-    }
-
-    void everyFormatHasItsSize_data()
-    {
-        QTest::addColumn<int>("format");
-        for (int format = 0; format <= QPagedPaintDevice::Custom; ++format) {
-            QTest::addRow("%d", format) << format;
-        }
-    }
-
-    void everyFormatHasItsSize()
-    {
-        QFETCH(int, format);
-        const ScratchFolder folder;
-        Set set = singleBlock(1, 2);
-        set->formato = format;
-        setNumber(cell(*set, 0, 1), 7);
-        QVERIFY(print(*set));
-        QVERIFY(printReference(*set, reference));
-        const QSizeF size = PdfTools::pageSize(printed);
-        QVERIFY(size.width() > 0);
-        QCOMPARE(size, PdfTools::pageSize(reference));
-    }
-
-    void backgroundIsPaintedOnlyWhereItDiffers()
-    {
-        const Set set = singleBlock(1, 3);
-        set->pagine.first()->sfondo = Qt::green;
-        block(*set).coloreLineaInterna = Qt::green;
-        cell(*set, 0, 0).coloreSfondo = Qt::green;
-        cell(*set, 0, 1).coloreSfondo = Qt::red;
-        setPicture(cell(*set, 0, 2), QImage());
-        cell(*set, 0, 2).coloreSfondo = Qt::red; // never painted
-        QImage image(300, 100, QImage::Format_RGB32);
-        paintOn(image, *set);
-        QCOMPARE(image.pixelColor(50, 50), QColor(Qt::green));
-        QCOMPARE(image.pixelColor(150, 50), QColor(Qt::red));
-        QCOMPARE(image.pixelColor(250, 50), QColor(Qt::green));
-    }
-
-    void pagesBlocksAndRowsWithoutPartsPaintNothing()
-    {
-        const LogCapture log;
-        QImage image(50, 50, QImage::Format_RGB32);
-        Cartella set(1, 0, 0);
-        paintOn(image, set); // no rows
-        block(set).righe = std::make_unique<Riga[]>(2);
-        block(set).nRighe = 2;
-        paintOn(image, set); // no cells
-        set.pagine.first()->nBlocchi = 0;
-        set.pagine.first()->sfondo = Qt::red;
-        paintOn(image, set); // no blocks
-        QCOMPARE(image.pixelColor(25, 25), QColor(Qt::red));
-        QCOMPARE(log.warnings(), QStringList());
-    }
-
-    void nullPicturePaintsNothingSilently()
-    {
-        const LogCapture log;
-        const Set set = singleBlock(1, 1);
-        setPicture(cell(*set, 0, 0), QImage());
-        QImage image(50, 50, QImage::Format_RGB32);
-        paintOn(image, *set);
-        QCOMPARE(image.pixelColor(25, 25), QColor(Qt::white));
-        QCOMPARE(log.warnings(), QStringList());
-    }
-
-    void unknownCellTypeStopsTheProgram()
-    {
-        const Set set = singleBlock(1, 1);
-        cell(*set, 0, 0).tipo = static_cast<CELL_VALUE>(4);
-        QImage image(50, 50, QImage::Format_RGB32);
-        QCOMPARE(fatalMessageOf([&]() { paintOn(image, *set); }),
-                 QStringLiteral("PagePainter::paintCell - CELL_VALUE type unknown ERROR!"));
-    }
+    void looksAndReadsAsIfEachCallWereMade_data();
+    void looksAndReadsAsIfEachCallWereMade();
+    void fontsLeaveToTheApplicationWhatTheyDoNotSay();
+    void numbersOfOneColorAreReadFromCellToCell();
+    void everyFormatHasItsSize_data();
+    void everyFormatHasItsSize();
+    void backgroundIsPaintedOnlyWhereItDiffers();
+    void pagesBlocksAndRowsWithoutPartsPaintNothing();
+    void nullPicturePaintsNothingSilently();
+    void unknownCellTypeStopsTheProgram();
 
 private:
-    static bool print(Cartella &set)
-    {
-        CreateOutputFile output;
-        output.fileName = printed;
-        output.cartella = &set;
-        QString report;
-        return output.printPdf(report) > 0;
-    }
-
-    static void compareWithReference(Cartella &set)
-    {
-        const ScratchFolder folder;
-        QVERIFY(print(set));
-        QVERIFY(printReference(set, reference));
-        for (const int dotsPerInch : {72, 173}) {
-            const QImage expected = PdfTools::picture(reference, 1, dotsPerInch);
-            QVERIFY(!expected.isNull());
-            QVERIFY2(PdfTools::picture(printed, 1, dotsPerInch) == expected,
-                     qPrintable(QStringLiteral("at %1 dots per inch").arg(dotsPerInch)));
-        }
-        QCOMPARE(PdfTools::placedWords(printed, 1), PdfTools::placedWords(reference, 1));
-    }
-
+    static bool print(Cartella &set);
+    static void compareWithReference(Cartella &set);
     inline static const QString printed = QStringLiteral("stampa.pdf");
     inline static const QString reference = QStringLiteral("confronto.pdf");
 };
+
+void tst_PagePainter::looksAndReadsAsIfEachCallWereMade_data()
+{
+    QTest::addColumn<Set>("set");
+    QTest::newRow("classic") << classicSet();
+    QTest::newRow("colored numbers in two fonts") << classicWithCells([](Cella &each) {
+        each.coloreTesto = each.numero % 3 == 0 ? QColor(Qt::red) : QColor(0, 0, 255, 120);
+        each.font = each.numero % 2 == 0 ? arial(12) : arial(20);
+    });
+    QTest::newRow("colored page") << classicSet([](Cartella &set) { set.pagine.first()->sfondo = Qt::cyan; });
+    QTest::newRow("cells as the page") << classicSet([](Cartella &set) {
+        set.pagine.first()->sfondo = Qt::cyan;
+        forEachCell(set, [](Cella &each) { each.coloreSfondo = Qt::cyan; });
+    });
+    QTest::newRow("one cell with a background")
+        << classicSet([](Cartella &set) { cell(set, 1, 4).coloreSfondo = QColor(255, 255, 0, 90); });
+    for (const int width : {0, 1, 2, 3, 7, 12, 30, 60, 220}) {
+        QTest::addRow("lines of width %d", width) << classicSet([width](Cartella &set) {
+            for (int b = 0; b < SampleSets::blocks; ++b) {
+                block(set, b).spessoreLineaInterna = width;
+                block(set, b).coloreLineaInterna = Qt::darkGreen;
+                block(set, b).spessoreLineaEsterna = width / 2 + b;
+                block(set, b).coloreLineaEsterna = QColor(200, 0, 0, 128);
+            }
+        });
+    }
+    QTest::newRow("translucent separators") << classicSet([](Cartella &set) {
+        block(set).spessoreLineaInterna = 8;
+        block(set).coloreLineaInterna = QColor(0, 0, 255, 100);
+    });
+    QTest::newRow("backgrounds under thick lines") << classicSet([](Cartella &set) {
+        block(set).spessoreLineaInterna = 20;
+        forEachCell(set, [](Cella &each) { each.coloreSfondo = each.numero % 2 == 0 ? Qt::green : Qt::white; });
+    });
+    QTest::newRow("chequered backgrounds") << classicSet([](Cartella &set) {
+        bool odd = false;
+        forEachCell(set, [&odd](Cella &each) {
+            odd = !odd;
+            each.coloreSfondo = odd ? QColor(Qt::yellow) : QColor(0, 100, 200, 120);
+            each.coloreTesto = odd ? Qt::darkRed : Qt::darkBlue;
+        });
+    });
+    QTest::newRow("texts and pictures among numbers") << classicSet([](Cartella &set) {
+        const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
+        forEachCell(set, [&](Cella &each) {
+            each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
+            each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
+            each.numero % 7 == 0 ? setPicture(each, picture) : void();
+        });
+    });
+    QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
+    QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
+    QTest::newRow("outlines that reach those of the next block") << classicSet([](Cartella &set) {
+        for (int b = 0; b < SampleSets::blocks; ++b) {
+            block(set, b).spessoreLineaEsterna = 6;
+            block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::yellow;
+        }
+    });
+    QTest::newRow("outlines that reach the next block") << classicSet([](Cartella &set) {
+        for (int b = 0; b < SampleSets::blocks; ++b) {
+            block(set, b).spessoreLineaInterna = 3;
+            block(set, b).coloreLineaInterna = Qt::yellow;
+            block(set, b).spessoreLineaEsterna = 20;
+            block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::darkBlue;
+        }
+    });
+    QTest::newRow("blocks that touch") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 0; });
+    QTest::newRow("no room left") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 50; });
+    QTest::newRow("exactly no room") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 48; });
+    QTest::newRow("margins") << classicSet([](Cartella &set) {
+        set.margineSinistro = 17.3;
+        set.margineSuperiore = 9.1;
+        set.margineDestro = 23;
+        set.margineInferiore = 31.7;
+    });
+    QTest::newRow("small sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A7; });
+    QTest::newRow("large sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A2; });
+    QTest::newRow("texts") << textsOfAllKinds();
+    QTest::newRow("fonts") << fontsOfAllKinds();
+    QTest::newRow("pictures") << picturesOfAllKinds();
+    QTest::newRow("ragged rows") << raggedRows(0);
+    QTest::newRow("ragged rows, thick lines") << raggedRows(140);
+    QTest::newRow("narrow cells") << narrowCells();
+    QTest::newRow("large numbers") << classicWithCells([](Cella &each) {
+        each.numero += 4294967000U;
+        each.font = arial(8);
+    });
+}
+
+void tst_PagePainter::looksAndReadsAsIfEachCallWereMade()
+{
+    QFETCH(Set, set);
+    compareWithReference(*set);
+}
+
+void tst_PagePainter::fontsLeaveToTheApplicationWhatTheyDoNotSay()
+{
+    const QFont before = QApplication::font();
+    QFont spaced = before;
+    spaced.setLetterSpacing(QFont::AbsoluteSpacing, 5);
+    QApplication::setFont(spaced);
+    compareWithReference(*classicSet());
+    QApplication::setFont(before);
+}
+
+void tst_PagePainter::numbersOfOneColorAreReadFromCellToCell()
+{
+    const ScratchFolder folder;
+    const Set set = SampleSets::classic(2);
+    QVERIFY(print(*set));
+    QStringList expected;
+    forEachCell(*set, [&expected](const Cella &each) {
+        if (each.tipo == CELL_NUMERO) {
+            expected.append(QString::number(each.numero));
+        }
+    });
+    QCOMPARE(PdfTools::wordsAsWritten(printed), expected);
+}
+
+void tst_PagePainter::everyFormatHasItsSize_data()
+{
+    QTest::addColumn<int>("format");
+    for (int format = 0; format <= QPagedPaintDevice::Custom; ++format) {
+        QTest::addRow("%d", format) << format;
+    }
+}
+
+void tst_PagePainter::everyFormatHasItsSize()
+{
+    QFETCH(int, format);
+    const ScratchFolder folder;
+    Set set = singleBlock(1, 2);
+    set->formato = format;
+    setNumber(cell(*set, 0, 1), 7);
+    QVERIFY(print(*set));
+    QVERIFY(printReference(*set, reference));
+    const QSizeF size = PdfTools::pageSize(printed);
+    QVERIFY(size.width() > 0);
+    QCOMPARE(size, PdfTools::pageSize(reference));
+}
+
+void tst_PagePainter::backgroundIsPaintedOnlyWhereItDiffers()
+{
+    const Set set = singleBlock(1, 3);
+    set->pagine.first()->sfondo = Qt::green;
+    block(*set).coloreLineaInterna = Qt::green;
+    cell(*set, 0, 0).coloreSfondo = Qt::green;
+    cell(*set, 0, 1).coloreSfondo = Qt::red;
+    setPicture(cell(*set, 0, 2), QImage());
+    cell(*set, 0, 2).coloreSfondo = Qt::red; // never painted
+    QImage image(300, 100, QImage::Format_RGB32);
+    paintOn(image, *set);
+    QCOMPARE(image.pixelColor(50, 50), QColor(Qt::green));
+    QCOMPARE(image.pixelColor(150, 50), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(250, 50), QColor(Qt::green));
+}
+
+void tst_PagePainter::pagesBlocksAndRowsWithoutPartsPaintNothing()
+{
+    const LogCapture log;
+    QImage image(50, 50, QImage::Format_RGB32);
+    Cartella set(1, 0, 0);
+    paintOn(image, set); // no rows
+    block(set).righe = std::make_unique<Riga[]>(2);
+    block(set).nRighe = 2;
+    paintOn(image, set); // no cells
+    set.pagine.first()->nBlocchi = 0;
+    set.pagine.first()->sfondo = Qt::red;
+    paintOn(image, set); // no blocks
+    QCOMPARE(image.pixelColor(25, 25), QColor(Qt::red));
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PagePainter::nullPicturePaintsNothingSilently()
+{
+    const LogCapture log;
+    const Set set = singleBlock(1, 1);
+    setPicture(cell(*set, 0, 0), QImage());
+    QImage image(50, 50, QImage::Format_RGB32);
+    paintOn(image, *set);
+    QCOMPARE(image.pixelColor(25, 25), QColor(Qt::white));
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_PagePainter::unknownCellTypeStopsTheProgram()
+{
+    const Set set = singleBlock(1, 1);
+    cell(*set, 0, 0).tipo = static_cast<CELL_VALUE>(4);
+    QImage image(50, 50, QImage::Format_RGB32);
+    QCOMPARE(fatalMessageOf([&]() { paintOn(image, *set); }),
+             QStringLiteral("PagePainter::paintCell - CELL_VALUE type unknown ERROR!"));
+}
+
+bool tst_PagePainter::print(Cartella &set)
+{
+    CreateOutputFile output;
+    output.fileName = printed;
+    output.cartella = &set;
+    QString report;
+    return output.printPdf(report) > 0;
+}
+
+void tst_PagePainter::compareWithReference(Cartella &set)
+{
+    const ScratchFolder folder;
+    QVERIFY(print(set));
+    QVERIFY(printReference(set, reference));
+    for (const int dotsPerInch : {72, 173}) {
+        const QImage expected = PdfTools::picture(reference, 1, dotsPerInch);
+        QVERIFY(!expected.isNull());
+        QVERIFY2(PdfTools::picture(printed, 1, dotsPerInch) == expected,
+                 qPrintable(QStringLiteral("at %1 dots per inch").arg(dotsPerInch)));
+    }
+    QCOMPARE(PdfTools::placedWords(printed, 1), PdfTools::placedWords(reference, 1));
+}
 
 QTEST_MAIN(tst_PagePainter)
 #include "tst_PagePainter.moc"
