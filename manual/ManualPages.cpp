@@ -16,7 +16,8 @@ namespace {
 const QString contentsPage = QStringLiteral("index");
 const QString pageSuffix = QStringLiteral(".md");
 
-// Browsers take the colours of the desktop; the text browser of the program has its own palette.
+// The text browser of the program takes colours and letters from the desktop; ":root" and "max-width" are for the
+// others.
 const char head[] = R"(<!DOCTYPE html>
 <html lang="%1">
 <head>
@@ -25,7 +26,7 @@ const char head[] = R"(<!DOCTYPE html>
 <meta name="color-scheme" content="light dark">
 <title>%2</title>
 <style>
-body { max-width: 54em; margin: auto; padding: 1em; font-family: sans-serif; line-height: 1.4; }
+:root { max-width: 54em; margin: auto; padding: 1em; font-family: sans-serif; line-height: 1.4; }
 table { border-collapse: collapse; }
 th, td { border: 1px solid gray; padding: 4px; text-align: left; }
 img { max-width: 100%; }

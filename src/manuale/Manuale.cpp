@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "manuale/Manuale.h"
 
+#include "manuale/FittedPictures.h"
 #include "resources/Resources.h"
 #include "ui_Manuale.h"
 
@@ -27,7 +28,7 @@ Manuale::Manuale(QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     ui->testo_browser->document()->setDocumentMargin(pageMargin);
-    colourLinks();
+    new FittedPictures(ui->testo_browser->document());
     connectCommands();
 }
 
@@ -51,6 +52,7 @@ void Manuale::showFile(const QString &fileName)
 {
     const QUrl url = QUrl::fromLocalFile(fileName);
     if (ui->testo_browser->source().adjusted(QUrl::RemoveFragment) != url) {
+        colourLinks();
         ui->testo_browser->setSource(url);
         ui->testo_browser->clearHistory();
         ui->testo_browser->setFocus();
@@ -75,7 +77,7 @@ void Manuale::findNext()
     }
 }
 
-// Takes effect with the next loading.
+// For what is loaded from now on.
 void Manuale::colourLinks()
 {
     ui->testo_browser->document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(linkColour(palette())));

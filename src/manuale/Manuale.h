@@ -27,8 +27,8 @@ protected:
 
 private:
     void connectCommands();
-    void findNext();
     void colourLinks();
+    void findNext();
 
     std::unique_ptr<Ui::Manuale> ui;
 };
