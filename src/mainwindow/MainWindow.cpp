@@ -107,6 +107,10 @@ void MainWindow::setupSidePanes()
 {
     // Inputs that have got their texts tell their panes by posted events: at once, before the widths are shared out.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (isRightToLeft()) { // the panes are not mirrored as the other parts are
+        addDockWidget(Qt::RightDockWidgetArea, ui->parametriDock);
+        addDockWidget(Qt::LeftDockWidgetArea, ui->stileDock);
+    }
     ui->menuVisualizza->addActions({ui->parametriDock->toggleViewAction(), ui->stileDock->toggleViewAction()});
 }
 

@@ -96,6 +96,7 @@ QTableWidget *MainWindow::replaceTable()
     m_table->setTabKeyNavigation(false); // else the keyboard cannot leave it
     m_table->setItemDelegate(new ElidedTextTips(m_table));
     setTabOrder(ui->pagina_elimina, m_table);
+    m_table->setFocusPolicy(Qt::NoFocus); // nothing would show it while there are no cells
     for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
         auto *clear = new QShortcut(key, m_table);
         clear->setContext(Qt::WidgetShortcut); // the editor of a cell needs these keys itself
@@ -124,6 +125,7 @@ void MainWindow::loadPagina(U16 page)
     fillTable(table, shown, m_cartella->getMaxPageColSize(page), DefaultCell::text());
     connect(table, &QTableWidget::itemChanged, this, &MainWindow::tableItemChanged);
     connect(table, &QTableWidget::itemSelectionChanged, this, &MainWindow::tableItemSelectionChanged);
+    table->setFocusPolicy(Qt::StrongFocus);
     ui->gridLayout->addWidget(table, 0, 0);
     table->show();
     resetSelectionPanels(shown.nBlocchi);

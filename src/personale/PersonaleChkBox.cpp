@@ -52,10 +52,17 @@ QColor tileColor(CELL_VALUE tipo, bool ticked)
     color.setAlpha(ticked ? 130 : 35);
     return color;
 }
+
 QFont signFont(QFont font)
 {
     font.setPointSizeF(font.pointSizeF() * signScale);
     return font;
+}
+
+bool takesTab(const QWidget &widget)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isVisible() && widget.isEnabled() &&
+           widget.focusProxy() == nullptr;
 }
 } // namespace
 
@@ -192,6 +199,16 @@ void PersonaleChkBox::keyPressEvent(QKeyEvent *event)
         break;
     }
     QCheckBox::keyPressEvent(event);
+}
+
+bool PersonaleChkBox::focusNextPrevChild(bool next)
+{
+    QWidget *other = this;
+    do {
+        other = next ? other->nextInFocusChain() : other->previousInFocusChain();
+    } while (other != this && (other->parentWidget() == parentWidget() || !takesTab(*other)));
+    other->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return other != this;
 }
 
 // At an edge of the grid the focus stays.

@@ -6,8 +6,8 @@
 #include <QCheckBox>
 
 // One cell of a hand-drawn page: the tick says whether it is filled, `tipo` with what. Its colour and the first letter
-// of its type show at a glance what it is. In the grid that holds it arrow keys move to the neighbours, and the left
-// button, once it has left the cell it was pressed on, ticks the cells that it is drawn over.
+// of its type show at a glance what it is. In the grid that holds it arrow keys move to the neighbours and Tab leaves,
+// and the left button, once it has left the cell it was pressed on, ticks the cells that it is drawn over.
 class PersonaleChkBox final : public QCheckBox
 {
     Q_OBJECT
@@ -45,6 +45,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    // Past the other cells.
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent *event) override;
     // The whole cell can be clicked.
     bool hitButton(const QPoint &position) const override;

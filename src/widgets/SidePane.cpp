@@ -2,6 +2,7 @@
 #include "widgets/SidePane.h"
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QScrollBar>
@@ -19,7 +20,21 @@ bool takesWheel(const QObject *input)
 SidePane::SidePane(QWidget *parent)
     : QScrollArea(parent)
 {
-    setFocusPolicy(Qt::NoFocus); // nothing would show it; the pane follows the focus of its inputs
+    setFocusPolicy(Qt::NoFocus); // nothing would show it
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocused(now); });
+}
+
+SidePane::~SidePane()
+{
+    disconnect(qApp, nullptr, this, nullptr); // the focus may move once more while the inputs go
+}
+
+// The toolkit does it only where the focus was in the pane before.
+void SidePane::showFocused(QWidget *focused)
+{
+    if (focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused)) {
+        ensureWidgetVisible(focused);
+    }
 }
 
 // Room for the scroll bar as well, so that it hides nothing where the window is low.

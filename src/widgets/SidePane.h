@@ -4,11 +4,13 @@
 #include <QScrollArea>
 
 // A column of inputs beside the contents of a window. It is as wide as its inputs need until the user draws it
-// narrower, and the mouse wheel scrolls it: an input takes the wheel only while it has the focus.
+// narrower, and the mouse wheel scrolls it: an input takes the wheel only while it has the focus. The pane follows the
+// focus.
 class SidePane final : public QScrollArea
 {
 public:
     explicit SidePane(QWidget *parent = nullptr);
+    ~SidePane() override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -18,5 +20,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showFocused(QWidget *focused);
     void leaveWheelToPane();
 };

@@ -4,6 +4,7 @@
 #include "generation/GeneraCartellaClassica.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/PagePreview.h"
+#include "manuale/Manuale.h"
 #include "model/Positions.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
@@ -112,6 +113,15 @@ Window information(Stage &)
     return window;
 }
 
+Window manual(Stage &stage)
+{
+    const QString file = QStringLiteral("manual.html");
+    stage.folder.write(file, "<h1>Quintra</h1><p>0.704 <a href='other'>2</a></p>");
+    auto window = std::make_unique<Manuale>();
+    window->showFile(stage.folder.path(file));
+    return window;
+}
+
 Window fileEditor(Stage &)
 {
     auto window = std::make_unique<MsgArea>(nullptr, true);
@@ -184,6 +194,7 @@ const std::map<QString, std::function<Window(Stage &)>> &makers()
         {QStringLiteral("FormatSelection"), dialog<FormatSelection>},
         {QStringLiteral("Options"), [](Stage &) { return std::make_unique<Options>(nullptr); }},
         {QStringLiteral("MsgArea report"), report},
+        {QStringLiteral("Manuale"), manual},
         {QStringLiteral("MsgArea information"), information},
         {QStringLiteral("MsgArea file"), fileEditor},
         {QStringLiteral("PagePreview"), preview},
