@@ -2,6 +2,7 @@
 #include "serata/Diario.h"
 
 #include "settings/DiskFile.h"
+#include "settings/WholeFile.h"
 
 #include <QCoreApplication>
 
@@ -181,7 +182,7 @@ bool Diario::open()
 bool Diario::add(const QByteArray &line)
 {
     const QByteArray bytes = line + '\n';
-    if (!m_file.resize(m_size) || !m_file.seek(m_size) || m_file.write(bytes) != bytes.size()) {
+    if (!m_file.resize(m_size) || !m_file.seek(m_size) || !writeAll(m_file, bytes.constData(), bytes.size())) {
         fail(m_file.errorString());
     } else if (!isSynced(m_file.handle())) {
         fail(qt_error_string(errno));

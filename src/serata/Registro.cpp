@@ -26,6 +26,7 @@ constexpr int hexadecimal = 16;
 constexpr size_t longestCell = 11;     // bytes of a number of 32 bits and a separator
 constexpr size_t longestCharacter = 6; // bytes of an escaped one
 constexpr int longestLine = 1 << 20;   // bytes: more than 255 rows of 255 cells need
+constexpr int bytesAtOnce = 1 << 16;   // are written
 constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
 constexpr size_t mostEntriesDescribed = 500;
 
@@ -386,6 +387,13 @@ quint32 key(Posizione posizione)
     return quint32(posizione.pagina) << bitsOfBlock | posizione.blocco;
 }
 
+bool emptyInto(QIODevice &device, LineWriter &lines)
+{
+    const bool written = writeAll(device, lines.data(), lines.size());
+    lines.clear();
+    return written;
+}
+
 // Whether the last bytes have left the program too.
 bool isClosed(QFile &file)
 {
@@ -406,18 +414,17 @@ bool write(QIODevice &device, const Cartella &cartella)
     LineWriter lines;
     Posizione posizione;
     for (const Pagina *pagina : cartella.pagine) {
-        lines.clear();
         ++posizione.pagina;
         posizione.blocco = 0;
         for (const Blocco &blocco : *pagina) {
             ++posizione.blocco;
             appendLine(lines, blocco, posizione);
         }
-        if (device.write(lines.data(), lines.size()) != lines.size()) {
+        if (lines.size() >= bytesAtOnce && !emptyInto(device, lines)) {
             return false;
         }
     }
-    return true;
+    return emptyInto(device, lines);
 }
 
 bool save(const QString &fileName, const Cartella &cartella, QString &reason)
@@ -428,7 +435,7 @@ bool save(const QString &fileName, const Cartella &cartella, QString &reason)
         return false;
     }
     QFile file(whole.writtenName());
-    if (!file.open(QIODevice::WriteOnly) || !write(file, cartella) || !isClosed(file)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !write(file, cartella) || !isClosed(file)) {
         reason = file.errorString();
         return false;
     }

@@ -93,16 +93,11 @@ bool bringToDisk(const QString &fileName, QString &error)
     return true;
 }
 
-// Why the content did not get whole into the open, unbuffered file; empty when it did. A write that is cut short tells
-// the reason only when it is tried again.
+// Why the content did not get whole into the open, unbuffered file; empty when it did.
 QString lossOf(QFile &file, const QByteArray &content)
 {
-    for (int done = 0; done < content.size();) {
-        const qint64 written = file.write(content.constData() + done, content.size() - done);
-        if (written <= 0) {
-            return file.errorString();
-        }
-        done += static_cast<int>(written);
+    if (!writeAll(file, content.constData(), content.size())) {
+        return file.errorString();
     }
     file.close();
     return file.error() == QFile::NoError ? QString() : file.errorString();
@@ -160,6 +155,20 @@ bool WholeFile::takeName()
         return false;
     }
     m_beside.clear();
+    return true;
+}
+
+// A write that is cut short tells the reason only when it is tried again.
+bool writeAll(QIODevice &device, const char *data, qint64 size)
+{
+    while (size > 0) {
+        const qint64 written = device.write(data, size);
+        if (written <= 0) {
+            return false;
+        }
+        data += written;
+        size -= written;
+    }
     return true;
 }
 

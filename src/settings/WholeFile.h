@@ -43,6 +43,10 @@ enum class Written {
     Incomplete // the old file is still there, unless it was written on directly
 };
 
+// Writes all of it to an open device without a buffer; false when it does not fit, for the reason in the device's
+// errorString().
+[[nodiscard]] bool writeAll(QIODevice &device, const char *data, qint64 size);
+
 // Writes a file, whole or not at all. `mode` may be QIODevice::Text; `reason` is told why it failed.
 Written writeWhole(const QString &fileName, const QByteArray &content, QIODevice::OpenMode mode = QIODevice::NotOpen,
                    QString *reason = nullptr);

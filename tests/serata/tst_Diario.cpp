@@ -3,10 +3,12 @@
 
 #include "serata/SharedCalls.h"
 #include "support/FileFaults.h"
+#include "support/ResourceLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QTest>
 
+#include <cerrno>
 #include <sys/stat.h>
 
 namespace {
@@ -50,6 +52,7 @@ private slots:
     void aStepThatDoesNotReachTheDiskIsNoStep();
     void afterAFaultTheNextStepIsWhole();
     void aJournalThatCannotBeWrittenIsRefused();
+    void aFullDiskIsToldOfByItsReason();
     void aJournalIsOpenInOneWindow();
     void whatWasConfirmedOutlivesTheProgram();
 
@@ -250,6 +253,20 @@ void tst_Diario::aJournalThatCannotBeWrittenIsRefused()
         QVERIFY(!diario.begin(5, {1, 90}));
         QVERIFY(!diario.errorString().isEmpty());
     }
+}
+
+// A part of the line has room.
+void tst_Diario::aFullDiskIsToldOfByItsReason()
+{
+    Diario diario(name);
+    QVERIFY(diario.begin(5, {1, 90}));
+    const QByteArray before = m_folder->read(name);
+    {
+        const ResourceLimit full(RLIMIT_FSIZE, static_cast<rlim_t>(before.size()) + 1);
+        QVERIFY(!diario.addCall(34));
+    }
+    QCOMPARE(diario.errorString(), qt_error_string(EFBIG));
+    QCOMPARE(m_folder->read(name), before);
 }
 
 void tst_Diario::aJournalIsOpenInOneWindow()

@@ -3,10 +3,13 @@
 
 #include "serata/MadeCards.h"
 #include "support/FileFaults.h"
+#include "support/ResourceLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QBuffer>
 #include <QTest>
+
+#include <cerrno>
 
 using Registro::Motivo;
 
@@ -76,6 +79,7 @@ private slots:
     void aDeviceThatIsFullIsToldOf();
     void aFileIsWrittenWhole();
     void afterAnyFaultTheOldRegisterIsThere();
+    void aFullDiskIsToldOfByItsReason();
     void linesInAnyOrderAreReadInTheOrderOfThePositions();
     void lineEndsOfWindowsAreRead();
     void oddLinesAreSkipped_data();
@@ -226,6 +230,26 @@ void tst_Registro::afterAnyFaultTheOldRegisterIsThere()
         QCOMPARE(folder.read(name), saved ? written(set) : good);
         QCOMPARE(reason.isEmpty(), saved);
         QCOMPARE(saved, !reached);
+    }
+}
+
+void tst_Registro::aFullDiskIsToldOfByItsReason()
+{
+    const ScratchFolder folder;
+    const QString name = QStringLiteral("natale.csv");
+    const Cartella set(200, 6, 3, 9);
+    const auto whole = static_cast<rlim_t>(written(set).size());
+    for (const rlim_t room : {rlim_t(1), rlim_t(10000), whole / 2, whole - 1}) {
+        folder.write(name, good);
+        QString reason;
+        bool saved = true;
+        {
+            const ResourceLimit full(RLIMIT_FSIZE, room);
+            saved = Registro::save(name, set, reason);
+        }
+        QVERIFY(!saved);
+        QCOMPARE(reason, qt_error_string(EFBIG));
+        QCOMPARE(folder.read(name), good);
     }
 }
 

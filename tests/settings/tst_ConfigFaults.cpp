@@ -4,6 +4,7 @@
 #include "support/FileFaults.h"
 #include "support/LogCapture.h"
 #include "support/OrdinaryUser.h"
+#include "support/ResourceLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QDir>
@@ -12,8 +13,6 @@
 #include <QLocale>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -166,20 +165,14 @@ void tst_ConfigFaults::commentingLeavesAWholeFile()
 void tst_ConfigFaults::aFirstStartOnAFullDiskIsNotTheLast()
 {
     const ScratchFolder folder;
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    getrlimit(RLIMIT_FSIZE, &usual);
     for (const rlim_t room : {0U, 10U, 100U}) {
-        rlimit small = usual;
-        small.rlim_cur = room;
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        auto full = std::make_unique<ResourceLimit>(RLIMIT_FSIZE, room);
         const Config config(nullptr);
-        setrlimit(RLIMIT_FSIZE, &usual);
+        full.reset();
         QVERIFY(config.isFirstStart());
         compareWithDefaults(config);
         QVERIFY(!QFile::exists(name));
     }
-    std::signal(SIGXFSZ, before);
     QVERIFY(Config(nullptr).isFirstStart());
     QVERIFY(!Config(nullptr).isFirstStart());
     QCOMPARE(folder.read(name), plainDefaults());
@@ -281,20 +274,16 @@ void tst_ConfigFaults::withoutRightsThereAreTheDefaults()
 void tst_ConfigFaults::withoutFilesToOpenThereAreTheDefaults()
 {
     const ScratchFolder folder;
-    rlimit before{};
-    getrlimit(RLIMIT_NOFILE, &before);
-    rlimit none = before;
-    none.rlim_cur = 0;
-    QCOMPARE(setrlimit(RLIMIT_NOFILE, &none), 0);
+    auto none = std::make_unique<ResourceLimit>(RLIMIT_NOFILE, 0);
     const Config first(nullptr);
-    setrlimit(RLIMIT_NOFILE, &before);
+    none.reset();
     compareWithDefaults(first);
     QVERIFY(!QFile::exists(name));
 
     folder.write(name, plainDefaults().replace("NMIN=1\n", "NMIN=7\n"));
-    setrlimit(RLIMIT_NOFILE, &none);
+    none = std::make_unique<ResourceLimit>(RLIMIT_NOFILE, 0);
     const Config second(nullptr);
-    setrlimit(RLIMIT_NOFILE, &before);
+    none.reset();
     QVERIFY(!second.isFirstStart());
     compareWithDefaults(second);
     QCOMPARE(Config(nullptr).nMin, 7);

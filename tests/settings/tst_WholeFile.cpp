@@ -2,6 +2,7 @@
 #include "settings/WholeFile.h"
 #include "support/FileFaults.h"
 #include "support/OrdinaryUser.h"
+#include "support/ResourceLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QDir>
@@ -10,8 +11,6 @@
 #include <QtTest>
 
 #include <cerrno>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -214,14 +213,10 @@ void tst_WholeFile::aDeviceIsWrittenOn()
 void tst_WholeFile::withoutFilesToOpenNothingIsTried()
 {
     m_folder->write(name, oldContent);
-    rlimit before{};
-    getrlimit(RLIMIT_NOFILE, &before);
-    rlimit none = before;
-    none.rlim_cur = 0;
-    QCOMPARE(setrlimit(RLIMIT_NOFILE, &none), 0);
+    auto none = std::make_unique<ResourceLimit>(RLIMIT_NOFILE, 0);
     const Written old = writeWhole(name, newContent);
     const Written fresh = writeWhole(QStringLiteral("b.txt"), newContent);
-    setrlimit(RLIMIT_NOFILE, &before);
+    none.reset();
     QCOMPARE(old, Written::NotOpened);
     QCOMPARE(fresh, Written::NotOpened);
     QCOMPARE(m_folder->read(name), oldContent);
@@ -302,16 +297,12 @@ void tst_WholeFile::everyFaultIsNoticed()
 void tst_WholeFile::aFullDiskKeepsTheOldFile()
 {
     m_folder->write(name, oldContent);
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    getrlimit(RLIMIT_FSIZE, &usual);
-    rlimit small = usual;
-    small.rlim_cur = 60000;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
     QString reason;
-    const Written written = writeWhole(name, newContent, {}, &reason);
-    setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, before);
+    Written written = Written::Whole;
+    {
+        const ResourceLimit small(RLIMIT_FSIZE, 60000);
+        written = writeWhole(name, newContent, {}, &reason);
+    }
     QCOMPARE(written, Written::Incomplete);
     QCOMPARE(reason, qt_error_string(EFBIG));
     QCOMPARE(m_folder->read(name), oldContent);

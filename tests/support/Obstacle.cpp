@@ -6,7 +6,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -78,10 +77,7 @@ Obstacle::~Obstacle()
 void Obstacle::lift()
 {
     m_faults.reset();
-    if (m_limited) {
-        setrlimit(m_resource, &m_usual);
-        m_limited = false;
-    }
+    m_limit.reset();
     if (QFileInfo(m_there).isDir()) {
         QFile::setPermissions(m_there, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
@@ -93,18 +89,6 @@ void Obstacle::lift()
 bool Obstacle::isContentKept() const
 {
     return !QFileInfo(m_path).isFile() || m_folder.read(m_path) == m_content;
-}
-
-void Obstacle::limit(Resource resource, rlim_t value)
-{
-    getrlimit(resource, &m_usual);
-    rlimit low = m_usual;
-    low.rlim_cur = value;
-    if (setrlimit(resource, &low) != 0) {
-        qFatal("Obstacle: no limit");
-    }
-    m_limited = true;
-    m_resource = resource;
 }
 
 void Obstacle::makeReadOnly(Obstacle &o)
@@ -146,14 +130,13 @@ void Obstacle::linkToItself(Obstacle &o)
 
 void Obstacle::takeOpenFiles(Obstacle &o)
 {
-    o.limit(RLIMIT_NOFILE, STDERR_FILENO + 1);
+    o.m_limit = std::make_unique<ResourceLimit>(RLIMIT_NOFILE, STDERR_FILENO + 1);
 }
 
 // The longest file that may be written stands for the room on the disk.
 void Obstacle::fillDisk(Obstacle &o)
 {
-    std::signal(SIGXFSZ, SIG_IGN);
-    o.limit(RLIMIT_FSIZE, 1);
+    o.m_limit = std::make_unique<ResourceLimit>(RLIMIT_FSIZE, 1);
 }
 
 void Obstacle::killDisk(Obstacle &o)

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "support/FileFaults.h"
+#include "support/ResourceLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <memory>
-#include <sys/resource.h>
 #include <vector>
 
 // What is in the way of a file at the moment when it is written or read: the file lies there with its content, the
@@ -58,16 +58,11 @@ private:
     static void fillDisk(Obstacle &o);
     static void killDisk(Obstacle &o);
 
-    using Resource = __rlimit_resource_t;
-    void limit(Resource resource, rlim_t value);
-
     const ScratchFolder &m_folder;
     Kind m_kind;
     QString m_there;
     QString m_path;
     QByteArray m_content;
-    bool m_limited = false;
-    Resource m_resource = RLIMIT_FSIZE;
-    rlimit m_usual{};
+    std::unique_ptr<ResourceLimit> m_limit;
     std::unique_ptr<FileFaults> m_faults;
 };
