@@ -1475,6 +1475,10 @@ Freie MB: %2
 
 Möchten Sie trotzdem fortfahren?</translation>
     </message>
+    <message>
+        <source>La memoria libera non è bastata: nulla è cambiato.</source>
+        <translation>Der freie Speicher hat nicht gereicht: Nichts hat sich geändert.</translation>
+    </message>
 </context>
 <context>
     <name>MsgArea</name>

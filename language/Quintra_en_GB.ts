@@ -1475,6 +1475,10 @@ MB free: %2
 
 Do you want to continue anyway?</translation>
     </message>
+    <message>
+        <source>La memoria libera non è bastata: nulla è cambiato.</source>
+        <translation>There was not enough free memory: nothing has changed.</translation>
+    </message>
 </context>
 <context>
     <name>MsgArea</name>

@@ -1475,6 +1475,10 @@ MB libres: %2
 
 ¿Desea continuar de todos modos?</translation>
     </message>
+    <message>
+        <source>La memoria libera non è bastata: nulla è cambiato.</source>
+        <translation>La memoria libre no ha bastado: nada ha cambiado.</translation>
+    </message>
 </context>
 <context>
     <name>MsgArea</name>

@@ -1475,6 +1475,10 @@ Mo libres&#xa0;: %2
 
 Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
+    <message>
+        <source>La memoria libera non è bastata: nulla è cambiato.</source>
+        <translation>La mémoire libre n&apos;a pas suffi&#xa0;: rien n&apos;a changé.</translation>
+    </message>
 </context>
 <context>
     <name>MsgArea</name>

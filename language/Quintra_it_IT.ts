@@ -1475,6 +1475,10 @@ MB liberi: %2
 
 Vuoi proseguire comunque?</translation>
     </message>
+    <message>
+        <source>La memoria libera non è bastata: nulla è cambiato.</source>
+        <translation>La memoria libera non è bastata: nulla è cambiato.</translation>
+    </message>
 </context>
 <context>
     <name>MsgArea</name>

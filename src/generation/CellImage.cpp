@@ -5,9 +5,16 @@
 
 #include <QImageReader>
 
+#include <new>
+
 namespace {
 // In pixels. Larger pictures take gigabytes, and nobody sees it on paper.
 constexpr int largestSide = 10000;
+
+bool hasRoomInMemory(const QSize &size)
+{
+    return size.isEmpty() || !QImage(size, QImage::Format_ARGB32).isNull();
+}
 } // namespace
 
 QImage loadCellImage(const QString &path)
@@ -17,9 +24,14 @@ QImage loadCellImage(const QString &path)
     }
     QImageReader reader(path);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
+    QSize size = reader.size();
     if (size.width() > largestSide || size.height() > largestSide) {
-        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+        size = size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+        reader.setScaledSize(size);
     }
-    return reader.read();
+    QImage image = reader.read();
+    if (image.isNull() && !hasRoomInMemory(size)) {
+        throw std::bad_alloc(); // a reader does not tell this from a picture that is damaged
+    }
+    return image;
 }

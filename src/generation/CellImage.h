@@ -5,5 +5,5 @@
 #include <QString>
 
 // The picture of a file, turned upright as its camera recorded. One of more than 10000 pixels a side is read at that
-// size. A null image when it cannot be read.
+// size. A null image when it cannot be read; throws std::bad_alloc when it finds no memory.
 QImage loadCellImage(const QString &path);

@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+#include <new>
+
 namespace {
 // The picture read last, and the state of its file then.
 struct ReadPicture
@@ -16,6 +18,16 @@ struct ReadPicture
     qint64 size = -1; // bytes
     QImage picture;
 };
+
+ReadPicture read(const QFileInfo &file)
+{
+    try {
+        return {file.absoluteFilePath(), file.lastModified(), file.size(), loadCellImage(file.filePath())};
+    } catch (const std::bad_alloc &) {
+        qWarning("DefaultCell::image(): no memory for %s", qPrintable(file.filePath()));
+        return {};
+    }
+}
 
 QString configured(QString Config::*value)
 {
@@ -41,7 +53,7 @@ QImage DefaultCell::image()
     const bool unchanged =
         last.path == file.absoluteFilePath() && last.modified == file.lastModified() && last.size == file.size();
     if (!unchanged) {
-        last = {file.absoluteFilePath(), file.lastModified(), file.size(), loadCellImage(file.filePath())};
+        last = read(file);
     }
     return last.picture;
 }

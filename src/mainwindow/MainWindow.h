@@ -144,6 +144,7 @@ private:
     bool tellOfFailedPage(int page);
     void showFirstPage();
     bool openEditor(bool append);
+    void makeEditor(bool append);
 
     // Boxes.
     static QString boxTitle();

@@ -4,6 +4,7 @@
 #include "generation/CellImage.h"
 #include "generation/DefaultCell.h"
 #include "mainwindow/PageTable.h"
+#include "msgarea/MemoryQuestion.h"
 #include "msgarea/WaitCursor.h"
 #include "settings/Product.h"
 #include "ui_MainWindow.h"
@@ -231,7 +232,10 @@ void MainWindow::on_buttSelezionaImmagine_clicked()
         qWarning("MainWindow::on_buttSelezionaImmagine_clicked(): Image file null or empty");
         return;
     }
-    const QImage image = readPicture(this, path);
+    QImage image;
+    if (!withinMemory(this, Product::titleFor(tr("Modifica valori")), [&]() { image = readPicture(this, path); })) {
+        return;
+    }
     if (!confirmImage(tr("L'immagine per la cella selezionata è quella visisbile. Proseguire?"), image)) {
         return;
     }

@@ -204,7 +204,7 @@ void MainWindow::showFirstPage()
     }
 }
 
-// False when the user did not want to take the memory for it.
+// False when the user did not want to take the memory for it, or there was not enough.
 bool MainWindow::openEditor(bool append)
 {
     const double cells = static_cast<double>(ParameterRules::cellsRequested(parameters()));
@@ -215,16 +215,22 @@ bool MainWindow::openEditor(bool append)
     letClosedDialogsDisappear();
     updateStatusBar(tr("Sto creando l'ambiente per la mappatura manuale, attendere..."));
     m_pagesBeforeEditor = m_cartella->getNumPages();
-    {
-        const WaitCursor wait(this);
-        const CardParameters p = parameters();
-        m_editor = new EditPersonale(this, m_cartella.get(), static_cast<U8>(p.rows), static_cast<U8>(p.columns),
-                                     static_cast<U16>(p.pages), p.minimum, p.maximum, append ? 1 : 0);
-        connect(m_editor, &EditPersonale::done, this, &MainWindow::generatePersDone);
+    if (!withinMemory(this, boxTitle(), [&]() { makeEditor(append); })) {
+        updateStatusBar(tr("Creazione annullata."));
+        return false;
     }
     updateStatusBar(tr("Ambiente per la mappatura manuale creato."));
     m_editor->setWindowModality(Qt::ApplicationModal); // the editor was so already when it showed itself
     return true;
+}
+
+void MainWindow::makeEditor(bool append)
+{
+    const WaitCursor wait(this);
+    const CardParameters p = parameters();
+    m_editor = new EditPersonale(this, m_cartella.get(), static_cast<U8>(p.rows), static_cast<U8>(p.columns),
+                                 static_cast<U16>(p.pages), p.minimum, p.maximum, append ? 1 : 0);
+    connect(m_editor, &EditPersonale::done, this, &MainWindow::generatePersDone);
 }
 
 void MainWindow::generatePersDone()

@@ -5,6 +5,7 @@
 #include "settings/FreeMemory.h"
 
 #include <QCoreApplication>
+#include <QMessageBox>
 
 namespace {
 class Text
@@ -29,4 +30,9 @@ bool confirmMemory(QWidget *parent, const QString &title, double bytes, const QS
                  "%1\nMB liberi: %2\n\nVuoi proseguire comunque?")
             .arg(megabytes(bytes), megabytes(freeMemory()));
     return confirmLoss(parent, title, question, loss);
+}
+
+void tellOfNoMemory(QWidget *parent, const QString &title)
+{
+    QMessageBox::warning(parent, title, Text::tr("La memoria libera non è bastata: nulla è cambiato."));
 }

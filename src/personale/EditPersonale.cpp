@@ -57,9 +57,10 @@ EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 co
         return;
     }
     m_generatore = std::make_unique<GeneraCartellaPersonale>();
-    m_pages.resize(m_pageCount);
-    for (PaginaPersonale &page : m_pages) {
-        buildBoxes(page, rows, columns, RightClick::CyclesType);
+    m_pages.reserve(m_pageCount);
+    for (int page = 0; page < m_pageCount; ++page) {
+        m_pages.push_back(makePage(rows, columns));
+        connectBoxes(m_pages.back(), RightClick::CyclesType);
     }
     displayPage(0);
     ui->pageNumSpinBox->setValue(1);
@@ -87,21 +88,29 @@ void EditPersonale::fitToolsWidth()
                                        ui->toolsScrollArea->verticalScrollBar()->sizeHint().width());
 }
 
-void EditPersonale::buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick)
+PaginaPersonale EditPersonale::makePage(U8 rows, U8 columns)
 {
+    PaginaPersonale page;
     page.nRighe = rows;
     page.nColonne = columns;
     page.chk = std::make_unique<PersonaleChkBox[]>(page.cellCount());
     // Boxes are polished when they are shown. Requests left waiting would make deleting many boxes very slow.
     QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
-    PersonaleChkBox *box = page.chk.get();
+    PersonaleChkBox *box = page.begin();
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column, ++box) {
             box->setPosition(static_cast<U8>(row), static_cast<U8>(column));
-            connect(box, &PersonaleChkBox::schecked, this, &EditPersonale::on_checkboxChecked);
-            if (rightClick == RightClick::CyclesType) {
-                connect(box, &PersonaleChkBox::rclicked, this, &EditPersonale::on_checkboxRClicked);
-            }
+        }
+    }
+    return page;
+}
+
+void EditPersonale::connectBoxes(const PaginaPersonale &page, RightClick rightClick)
+{
+    for (const PersonaleChkBox &box : page) {
+        connect(&box, &PersonaleChkBox::schecked, this, &EditPersonale::on_checkboxChecked);
+        if (rightClick == RightClick::CyclesType) {
+            connect(&box, &PersonaleChkBox::rclicked, this, &EditPersonale::on_checkboxRClicked);
         }
     }
 }

@@ -72,7 +72,8 @@ private:
     enum class RightClick { CyclesType, Ignored };
 
     void fitToolsWidth();
-    void buildBoxes(PaginaPersonale &page, U8 rows, U8 columns, RightClick rightClick);
+    static PaginaPersonale makePage(U8 rows, U8 columns);
+    void connectBoxes(const PaginaPersonale &page, RightClick rightClick);
     void takeDisplayedBoxes();
     void displayPage(U16 page);
     void switchToPage(U16 page);
@@ -81,7 +82,8 @@ private:
     // The page on display; m_noPage in an editor without pages.
     PaginaPersonale &displayedPage();
     void forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action);
-    void copyScheme(const PaginaPersonale &from, PaginaPersonale &to);
+    std::vector<size_t> pagesToCopyTo() const;
+    void copySchemeTo(const std::vector<size_t> &pages);
     CELL_VALUE chosenType() const;
     void recountNumbers();
     void checkSettings();
@@ -102,7 +104,7 @@ private:
     bool confirmPages(const std::vector<MappingFile::SchemaPagina> &pages);
     void showPagesOrReason(const QString &whyNone);
     void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);
-    void loadPage(PaginaPersonale &page, const MappingFile::SchemaPagina &scheme);
+    std::vector<PaginaPersonale> makePages(const std::vector<MappingFile::SchemaPagina> &schemes);
     void showReport(const QString &text);
 
     std::unique_ptr<Ui::EditPersonale> ui;

@@ -2,11 +2,32 @@
 // The commands that draw: the selection, its ticks and types, the copy of a scheme to other pages.
 #include "personale/EditPersonale.h"
 
+#include "msgarea/MemoryQuestion.h"
 #include "msgarea/WaitCursor.h"
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 
 #include <QButtonGroup>
+
+#include <utility>
+
+namespace {
+bool isOfSameSize(const PaginaPersonale &a, const PaginaPersonale &b)
+{
+    return a.nRighe == b.nRighe && a.nColonne == b.nColonne;
+}
+
+void copyScheme(const PaginaPersonale &from, PaginaPersonale &to)
+{
+    to.ordinaPerColonne = from.ordinaPerColonne;
+    PersonaleChkBox *copy = to.begin();
+    for (const PersonaleChkBox &box : from) {
+        copy->setChecked(box.isChecked());
+        copy->setTipo(box.tipo);
+        ++copy;
+    }
+}
+} // namespace
 
 // The bounds of the selection stay on the page, and each pushes the other one along.
 
@@ -97,29 +118,45 @@ void EditPersonale::on_impostaschemacorrenteButton_clicked()
         return;
     }
     letClosedDialogsDisappear();
-    {
+    const bool copied = withinMemory(this, Product::titleFor(tr("Mappatura manuale")), [this]() {
         const WaitCursor wait(this);
-        const int end = qMin<int>(ui->impostaAspinBox->value(), m_pageCount);
-        for (int page = ui->impostaDAspinBox->value() - 1; page < end; ++page) {
-            if (page != m_currentPage) {
-                copyScheme(displayedPage(), m_pages[static_cast<size_t>(page)]);
-            }
-        }
+        copySchemeTo(pagesToCopyTo());
+    });
+    if (copied) {
+        recountNumbers(); // the ticks of the other pages were counted too
+        checkSettings();
+        ui->statusBar->showMessage(tr("Copia schema effettuata!"));
     }
-    recountNumbers(); // the ticks of the other pages were counted too
-    checkSettings();
-    ui->statusBar->showMessage(tr("Copia schema effettuata!"));
 }
 
-void EditPersonale::copyScheme(const PaginaPersonale &from, PaginaPersonale &to)
+std::vector<size_t> EditPersonale::pagesToCopyTo() const
 {
-    if (to.nRighe != from.nRighe || to.nColonne != from.nColonne) {
-        buildBoxes(to, from.nRighe, from.nColonne, RightClick::CyclesType);
+    std::vector<size_t> pages;
+    const int end = qMin<int>(ui->impostaAspinBox->value(), m_pageCount);
+    for (int page = ui->impostaDAspinBox->value() - 1; page < end; ++page) {
+        if (page != m_currentPage) {
+            pages.push_back(static_cast<size_t>(page));
+        }
     }
-    to.ordinaPerColonne = from.ordinaPerColonne;
-    for (size_t i = 0; i < from.cellCount(); ++i) {
-        to.chk[i].setChecked(from.chk[i].isChecked());
-        to.chk[i].setTipo(from.chk[i].tipo);
+    return pages;
+}
+
+// Pages of another size are made anew, all of them before the first old one goes: that may fail.
+void EditPersonale::copySchemeTo(const std::vector<size_t> &pages)
+{
+    const PaginaPersonale &from = displayedPage();
+    std::vector<std::pair<size_t, PaginaPersonale>> resized;
+    for (const size_t page : pages) {
+        if (!isOfSameSize(from, m_pages[page])) {
+            resized.emplace_back(page, makePage(from.nRighe, from.nColonne));
+            connectBoxes(resized.back().second, RightClick::CyclesType);
+        }
+    }
+    for (auto &[page, made] : resized) {
+        m_pages[page] = std::move(made);
+    }
+    for (const size_t page : pages) {
+        copyScheme(from, m_pages[page]);
     }
 }
 

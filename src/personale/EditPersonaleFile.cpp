@@ -47,6 +47,16 @@ MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
     }
     return scheme;
 }
+
+void drawScheme(const MappingFile::SchemaPagina &scheme, const PaginaPersonale &page)
+{
+    PersonaleChkBox *box = page.begin();
+    for (const MappingFile::CellaSchema &cella : scheme.celle) {
+        box->setChecked(cella.spuntata);
+        box->setTipo(cella.tipo);
+        ++box;
+    }
+}
 } // namespace
 
 void EditPersonale::on_actionSave_triggered()
@@ -159,7 +169,10 @@ void EditPersonale::on_actionOpen_triggered()
     }
     globalConfig->rememberFolder(fileName);
     letClosedDialogsDisappear();
-    const QString failure = readMapping(fileName);
+    QString failure;
+    if (!withinMemory(this, Product::titleFor(tr("Mappatura manuale")), [&]() { failure = readMapping(fileName); })) {
+        ui->statusBar->showMessage(tr("Apertura file annullata!"));
+    }
     if (!failure.isEmpty()) {
         warn(tr("Errore nella lettura del file:\n%1\n\n%2").arg(fileName, failure));
     }
@@ -217,16 +230,11 @@ void EditPersonale::warn(const QString &text)
 
 void EditPersonale::replacePages(const std::vector<MappingFile::SchemaPagina> &schemes)
 {
+    std::vector<PaginaPersonale> pages = makePages(schemes); // before the old ones go: it may fail
     takeDisplayedBoxes();
-    m_pages.clear();
-    m_pages.resize(schemes.size());
-    m_tickedNumbers = 0;
+    m_pages = std::move(pages);
     m_currentPage = 0;
-    m_pageCount = static_cast<U16>(schemes.size());
-    for (size_t page = 0; page < schemes.size(); ++page) {
-        ui->statusBar->showMessage(tr("Sto caricando la pagina %1 di %2").arg(page + 1).arg(m_pageCount));
-        loadPage(m_pages[page], schemes[page]);
-    }
+    m_pageCount = static_cast<U16>(m_pages.size());
     recountNumbers();
     if (!m_pages.empty()) {
         displayPage(0);
@@ -237,13 +245,17 @@ void EditPersonale::replacePages(const std::vector<MappingFile::SchemaPagina> &s
     updatePageRange();
 }
 
-void EditPersonale::loadPage(PaginaPersonale &page, const MappingFile::SchemaPagina &scheme)
+std::vector<PaginaPersonale> EditPersonale::makePages(const std::vector<MappingFile::SchemaPagina> &schemes)
 {
-    buildBoxes(page, scheme.nRighe, scheme.nColonne, RightClick::Ignored);
-    for (size_t i = 0; i < scheme.celle.size(); ++i) {
-        page.chk[i].setChecked(scheme.celle[i].spuntata);
-        page.chk[i].setTipo(scheme.celle[i].tipo);
+    std::vector<PaginaPersonale> pages;
+    pages.reserve(schemes.size());
+    for (const MappingFile::SchemaPagina &scheme : schemes) {
+        pages.push_back(makePage(scheme.nRighe, scheme.nColonne));
+        ui->statusBar->showMessage(tr("Sto caricando la pagina %1 di %2").arg(pages.size()).arg(schemes.size()));
+        drawScheme(scheme, pages.back());
+        connectBoxes(pages.back(), RightClick::Ignored);
     }
+    return pages;
 }
 
 // The pages to copy to and the commands that need a page follow the new page count.

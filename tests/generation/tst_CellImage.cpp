@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "generation/CellImage.h"
 
+#include "support/MemoryLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QTest>
 
+#include <new>
 #include <sys/stat.h>
 
 namespace {
@@ -51,6 +53,7 @@ private slots:
     void aPipeIsNoPicture();
     void aPictureThatIsTooLargeIsReadSmaller();
     void aPictureWhoseHeaderLiesCostsNothing();
+    void aPictureWithoutMemoryIsNoDamagedOne();
 };
 
 void tst_CellImage::aPictureIsRead()
@@ -116,6 +119,27 @@ void tst_CellImage::aPictureWhoseHeaderLiesCostsNothing()
     file.close();
     const QImage read = loadCellImage(folder.path(QStringLiteral("lying.bmp")));
     QVERIFY(read.width() <= 10000 && read.height() <= 10000);
+}
+
+void tst_CellImage::aPictureWithoutMemoryIsNoDamagedOne()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    const ScratchFolder folder;
+    const QString large = folder.path(QStringLiteral("large.png"));
+    QImage picture(10000, 8000, QImage::Format_Mono);
+    picture.fill(0);
+    QVERIFY(picture.save(large));
+    folder.write(QStringLiteral("damaged.png"), folder.read(QStringLiteral("large.png")).left(100));
+    {
+        const MemoryLimit limit(8 << 20);
+        QVERIFY_EXCEPTION_THROWN(loadCellImage(large), std::bad_alloc);
+        folder.writePicture(QStringLiteral("small.png"), QSize(7, 5), Qt::red);
+        QCOMPARE(loadCellImage(folder.path(QStringLiteral("small.png"))).size(), QSize(7, 5));
+    }
+    QCOMPARE(loadCellImage(large).size(), picture.size());
+    loadCellImage(folder.path(QStringLiteral("damaged.png"))); // throws nothing
 }
 
 QTEST_GUILESS_MAIN(tst_CellImage)

@@ -2,6 +2,8 @@
 #include "generation/DefaultCell.h"
 
 #include "settings/Config.h"
+#include "support/LogCapture.h"
+#include "support/MemoryLimit.h"
 #include "support/ScratchFolder.h"
 
 #include <QBuffer>
@@ -40,6 +42,7 @@ private slots:
     void theDefaultPictureFollowsTheConfiguration();
     void withoutADefaultPictureItIsNull();
     void withoutAConfigurationThereIsNothing();
+    void withoutMemoryItIsNullUntilThereIsSome();
 
 private:
     std::unique_ptr<ScratchFolder> m_folder;
@@ -124,6 +127,23 @@ void tst_DefaultCell::withoutAConfigurationThereIsNothing()
     QCOMPARE(DefaultCell::text(), QString());
     QCOMPARE(DefaultCell::imagePath(), QString());
     QVERIFY(DefaultCell::image().isNull());
+}
+
+void tst_DefaultCell::withoutMemoryItIsNullUntilThereIsSome()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    QImage picture(10000, 8000, QImage::Format_Mono);
+    picture.fill(0);
+    QVERIFY(picture.save(m_folder->path(QStringLiteral("default.png"))));
+    {
+        const LogCapture log;
+        const MemoryLimit limit(8 << 20);
+        QVERIFY(DefaultCell::image().isNull());
+        QVERIFY(log.warnings().join(QString()).startsWith(QStringLiteral("DefaultCell::image(): no memory for ")));
+    }
+    QCOMPARE(DefaultCell::image().size(), picture.size());
 }
 
 QTEST_GUILESS_MAIN(tst_DefaultCell)

@@ -3,6 +3,7 @@
 
 #include "generation/DefaultCell.h"
 #include "support/LogCapture.h"
+#include "support/MemoryLimit.h"
 
 #include <QFileDialog>
 #include <QWindow>
@@ -120,6 +121,7 @@ private slots:
     void aClickThatEndsTheEditingPressesAButton();
 
     void anImageIsChosen();
+    void anImageThatFindsNoMemoryIsTold();
     void aMissingPictureIsToldUntilThereIsOne();
     void aMissingPictureIsToldUntilTheCellIsAnother();
     void theKindOfFilesIsRemembered();
@@ -483,6 +485,30 @@ void tst_MainWindowCellEditing::anImageIsChosen()
     QCOMPARE(w.cell(0, 0, 0).immagine.size(), QSize(20, 10));
     QCOMPARE(w.cell(0, 0, 0).immagine.pixelColor(3, 3), QColor(Qt::blue));
     QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+}
+
+void tst_MainWindowCellEditing::anImageThatFindsNoMemoryIsTold()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    PageWindow w;
+    showImageCell(w);
+    const QString path = QDir::current().filePath(QStringLiteral("large.png"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("P6\n10000 10000\n255\n" + QByteArray(1000, 'x')); // 400 MB
+    file.close();
+    const QString before = w.status();
+    std::unique_ptr<MemoryLimit> limit;
+    w.boxes.expectFileDialog(openCaption, path,
+                             [&limit](QWidget *) { limit = std::make_unique<MemoryLimit>(16 << 20); });
+    w.boxes.expectBox(title, QStringLiteral("La memoria libera non è bastata: nulla è cambiato."), QMessageBox::Ok,
+                      QMessageBox::Warning);
+    w.press("buttSelezionaImmagine");
+    limit.reset();
+    QVERIFY(w.cell(0, 0, 0).immagine.isNull());
+    QCOMPARE(w.status(), before);
 }
 
 void tst_MainWindowCellEditing::aMissingPictureIsToldUntilThereIsOne()

@@ -3,6 +3,7 @@
 #include "personale/EditPersonale.h"
 #include "personale/PersonaleChkBox.h"
 #include "support/FatalMessage.h"
+#include "support/MemoryLimit.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -143,6 +144,7 @@ private slots:
     void noSummaryComesWhenNoOtherPageFailed();
     void aSetThatDoesNotFitTheMemoryIsAskedAbout();
     void anEditorThatDoesNotFitTheMemoryIsAskedAbout();
+    void anEditorThatFindsNoMemoryIsTold();
 };
 
 void tst_MainWindowGeneration::theFirstPagesMakeACardSetWithoutAsking()
@@ -862,6 +864,33 @@ void tst_MainWindowGeneration::anEditorThatDoesNotFitTheMemoryIsAskedAbout()
     QVERIFY(!page.window->generate(false));
     QCOMPARE(page.status(), cancelled);
     QVERIFY(page.window->findChild<EditPersonale *>() == nullptr);
+}
+
+void tst_MainWindowGeneration::anEditorThatFindsNoMemoryIsTold()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    PageWindow page;
+    page.press("butt_aggiungi_pagine");
+    const Pagina *before = page.page(0);
+    page.check("MappaManuale");
+    set(page, "numeropagine", 1000);
+    set(page, "numerorighexblocco", 20);
+    page.boxes.expectBox(boxTitle, QMessageBox::Yes, [](QMessageBox *box) {
+        QVERIFY(box->text().startsWith(QStringLiteral("La memoria libera potrebbe non bastare")));
+    });
+    page.boxes.expectBox(boxTitle, QStringLiteral("La memoria libera non è bastata: nulla è cambiato."),
+                         QMessageBox::Ok, QMessageBox::Warning);
+    {
+        const MemoryLimit limit(48 << 20);
+        QVERIFY(!page.window->generate(false));
+    }
+    QCOMPARE(page.status(), cancelled);
+    QVERIFY(page.window->findChild<EditPersonale *>() == nullptr);
+    QCOMPARE(page.window->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(page.set()->getNumPages(), 1);
+    QCOMPARE(page.page(0), before);
 }
 
 QTEST_MAIN(tst_MainWindowGeneration)

@@ -4,6 +4,7 @@
 #include "settings/WholeFile.h"
 #include "support/FileFaults.h"
 #include "support/LogCapture.h"
+#include "support/MemoryLimit.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -16,6 +17,23 @@
 
 namespace {
 const QString editorTitle = QStringLiteral("Quintra - Mappatura manuale");
+const QString noMemory = QStringLiteral("La memoria libera non è bastata: nulla è cambiato.");
+constexpr rlim_t room = 32 << 20; // bytes of memory
+
+// A mapping of 300 pages whose boxes do not fit that room.
+void expectOpenOfTooMany(EditorUnderTest &t)
+{
+    const QString name = QStringLiteral("large.QcF");
+    t.folder.write(name, QByteArray("/" + QByteArray(255, 'N') + '\n').repeated(300));
+    t.expectOpen(t.folder.path(name));
+}
+
+void isMemoryQuestion(QMessageBox *box)
+{
+    QVERIFY(box->text().startsWith(
+        QStringLiteral("La memoria libera potrebbe non bastare, e il programma chiudersi.\nMB necessari: ")));
+    QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+}
 
 // The text of the window that reports, empty without one.
 QString reportText(const EditorUnderTest &t)
@@ -95,6 +113,9 @@ private slots:
     void openingAsksFirst();
     void cancellingTheOpenIsTold();
     void aFileThatCannotBeReadLeavesNoPages();
+    void aMappingThatDoesNotFitTheMemoryIsAskedAbout();
+    void aMappingThatFindsNoMemoryKeepsWhatWasThere();
+    void linesThatFindNoMemoryKeepWhatWasThere();
     void aDiskThatCannotBeReadIsTold_data();
     void aDiskThatCannotBeReadIsTold();
     void aDeviceIsRefusedBeforeAnythingGoes_data();
@@ -114,6 +135,7 @@ private slots:
     void afterAFileWithoutLinesAnotherOpens();
     void theCopyRangeFollowsThePageCount();
     void copyingToAPageOfAnotherSizeRebuildsIt();
+    void aCopyThatFindsNoMemoryChangesNoPage();
     void ticksOfARebuiltPageAreCounted();
     void loadedPagesAreCreated();
     void pagesThatComeBackCutAreNamed();
@@ -467,6 +489,65 @@ void tst_EditPersonaleFile::aFileThatCannotBeReadLeavesNoPages()
     QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 0);
     QCOMPARE(t.grid()->count(), 0);
     QCOMPARE(t.status(), QStringLiteral("Apertura completata!"));
+}
+
+void tst_EditPersonaleFile::aMappingThatDoesNotFitTheMemoryIsAskedAbout()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    expectOpenOfTooMany(t);
+    t.boxes.expectBox(editorTitle, QMessageBox::No, isMemoryQuestion);
+    {
+        const MemoryLimit limit(room);
+        t.trigger("actionOpen");
+    }
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 2);
+    QCOMPARE(t.status(), QStringLiteral("Apertura file annullata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_EditPersonaleFile::aMappingThatFindsNoMemoryKeepsWhatWasThere()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    EditorUnderTest t(1, 2, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    expectOpenOfTooMany(t);
+    t.boxes.expectBox(editorTitle, QMessageBox::Yes, isMemoryQuestion);
+    t.boxes.expectBox(editorTitle, noMemory, QMessageBox::Ok, QMessageBox::Warning);
+    {
+        const MemoryLimit limit(room);
+        t.trigger("actionOpen");
+    }
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 2);
+    QCOMPARE(t.find<QLabel>("numeri_text")->text(), QStringLiteral("Numeri: 1 di 90"));
+    QCOMPARE(t.status(), QStringLiteral("Apertura file annullata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    expectOpenOfTooMany(t);
+    t.trigger("actionOpen");
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 300);
+}
+
+// One line of 10 MB.
+void tst_EditPersonaleFile::linesThatFindNoMemoryKeepWhatWasThere()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    EditorUnderTest t(1, 2, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    t.folder.write(QStringLiteral("in.QcF"), QByteArray(10 << 20, 'N'));
+    t.expectOpen(t.folder.path(QStringLiteral("in.QcF")));
+    t.boxes.expectBox(editorTitle, noMemory, QMessageBox::Ok, QMessageBox::Warning);
+    {
+        const MemoryLimit limit(room);
+        t.trigger("actionOpen");
+    }
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.status(), QStringLiteral("Apertura file annullata!"));
 }
 
 void tst_EditPersonaleFile::aDiskThatCannotBeReadIsTold_data()
@@ -824,6 +905,28 @@ void tst_EditPersonaleFile::pagesThatComeBackCutAreNamed()
         QStringLiteral("Le pagine con troppe celle non saranno rilette per intero dal file.\nPagine: 1, 2"),
         QMessageBox::Ok, [&t](QMessageBox *) { QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor); });
     t.trigger("actionSave");
+}
+
+void tst_EditPersonaleFile::aCopyThatFindsNoMemoryChangesNoPage()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    EditorUnderTest t(1, 2, 2);
+    t.open("/" + QByteArray(255, 'N') + '\n' + QByteArray("!S\n").repeated(300));
+    {
+        const MemoryLimit limit(room);
+        t.spin("impostaAspinBox")->setValue(301);
+        t.expectCopyQuestion(QMessageBox::Yes);
+        t.boxes.expectBox(editorTitle, noMemory, QMessageBox::Ok, QMessageBox::Warning);
+        t.click("impostaschemacorrenteButton");
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    for (const int page : {2, 150, 301}) {
+        t.showPage(page);
+        QCOMPARE(t.drawn(), QStringLiteral("S"));
+    }
 }
 
 QTEST_MAIN(tst_EditPersonaleFile)

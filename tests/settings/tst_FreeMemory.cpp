@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/FreeMemory.h"
 
+#include "support/MemoryLimit.h"
+
 #include <QtTest>
 
 class tst_FreeMemory final : public QObject
@@ -10,6 +12,7 @@ class tst_FreeMemory final : public QObject
 private slots:
     void aMachineHasSomeAndNotEndlessMemory();
     void whatIsMoreThanThatDoesNotFit();
+    void aLimitOfTheProgramCounts();
 };
 
 void tst_FreeMemory::aMachineHasSomeAndNotEndlessMemory()
@@ -24,6 +27,19 @@ void tst_FreeMemory::whatIsMoreThanThatDoesNotFit()
     QVERIFY(fitsMemory(1000));
     QVERIFY(!fitsMemory(1e15));
     QVERIFY(!fitsMemory(freeMemory() * 1.5));
+}
+
+void tst_FreeMemory::aLimitOfTheProgramCounts()
+{
+    constexpr rlim_t more = 64 << 20;
+    {
+        const MemoryLimit limit(more);
+        QVERIFY(freeMemory() < double(more) * 1.1); // something may be freed meanwhile
+        QVERIFY(freeMemory() > double(more) / 2);
+        QVERIFY(!fitsMemory(double(more)));
+    }
+    const ResourceLimit used(RLIMIT_AS, 1 << 20); // less than the program has already
+    QCOMPARE(freeMemory(), 0.0);
 }
 
 QTEST_APPLESS_MAIN(tst_FreeMemory)
