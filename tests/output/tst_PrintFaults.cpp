@@ -59,6 +59,7 @@ private slots:
     void afterAFailedPageThePartIsLeft();
     void afterAFailedEndThereIsNoPart();
     void aRefusedPrintLeavesTheOlderOne();
+    void aDiskWithoutRoomForANewFileKeepsTheOlderOne();
     void aLinkStaysALink();
     void aFolderThatTakesNoNewFileHasItsPrintWritten();
     void aPrintIsOnlyThereWhenItIsWhole();
@@ -169,6 +170,17 @@ void tst_PrintFaults::aRefusedPrintLeavesTheOlderOne()
     QCOMPARE(outcome.pagesBegun, 0);
     QCOMPARE(m_folder->read(name), older);
     QCOMPARE(printsHere(), QStringList(name));
+}
+
+void tst_PrintFaults::aDiskWithoutRoomForANewFileKeepsTheOlderOne()
+{
+    m_folder->write(name, older);
+    const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Creations, 1,
+                            FileFaults::Effect::LastingError);
+    const Outcome outcome = print(path(), 2);
+    QCOMPARE(outcome.result, -1);
+    QCOMPARE(outcome.report, QStringLiteral("Impossibile scrivere sul file!"));
+    QCOMPARE(m_folder->read(name), older);
 }
 
 void tst_PrintFaults::aLinkStaysALink()

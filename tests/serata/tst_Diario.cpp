@@ -3,6 +3,7 @@
 
 #include "serata/SharedCalls.h"
 #include "support/FileFaults.h"
+#include "support/OrdinaryUser.h"
 #include "support/ResourceLimit.h"
 #include "support/ScratchFolder.h"
 
@@ -53,6 +54,7 @@ private slots:
     void afterAFaultTheNextStepIsWhole();
     void aJournalThatCannotBeWrittenIsRefused();
     void aFullDiskIsToldOfByItsReason();
+    void aFolderThatCannotBeReadTakesAJournal();
     void aJournalIsOpenInOneWindow();
     void whatWasConfirmedOutlivesTheProgram();
 
@@ -267,6 +269,18 @@ void tst_Diario::aFullDiskIsToldOfByItsReason()
     }
     QCOMPARE(diario.errorString(), qt_error_string(EFBIG));
     QCOMPARE(m_folder->read(name), before);
+}
+
+void tst_Diario::aFolderThatCannotBeReadTakesAJournal()
+{
+    const OrdinaryUser user(*m_folder);
+    const QString folder = m_folder->path(QString());
+    QVERIFY(QFile::setPermissions(folder, QFile::WriteOwner | QFile::ExeOwner));
+    Diario diario(m_folder->path(name));
+    const bool begun = diario.begin(5, {1, 90}) && diario.addCall(34);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY2(begun, qPrintable(diario.errorString()));
+    QCOMPARE(m_folder->read(name), QByteArray("schede 5\nnumeri 1 90\n+34\n"));
 }
 
 void tst_Diario::aJournalIsOpenInOneWindow()

@@ -80,6 +80,7 @@ private slots:
     void aFileIsWrittenWhole();
     void afterAnyFaultTheOldRegisterIsThere();
     void aFullDiskIsToldOfByItsReason();
+    void aDiskWithoutRoomForANewFileKeepsTheOldOne();
     void linesInAnyOrderAreReadInTheOrderOfThePositions();
     void lineEndsOfWindowsAreRead();
     void oddLinesAreSkipped_data();
@@ -251,6 +252,18 @@ void tst_Registro::aFullDiskIsToldOfByItsReason()
         QCOMPARE(reason, qt_error_string(EFBIG));
         QCOMPARE(folder.read(name), good);
     }
+}
+
+void tst_Registro::aDiskWithoutRoomForANewFileKeepsTheOldOne()
+{
+    const ScratchFolder folder;
+    const QString name = QStringLiteral("natale.csv");
+    folder.write(name, good);
+    const FileFaults faults(folder.path(QString()), FileFaults::Calls::Creations, 1, FileFaults::Effect::LastingError);
+    QString reason;
+    QVERIFY(!Registro::save(folder.path(name), Cartella(3, 6, 3, 9), reason));
+    QCOMPARE(reason, qt_error_string(ENOSPC));
+    QCOMPARE(folder.read(name), good);
 }
 
 void tst_Registro::linesInAnyOrderAreReadInTheOrderOfThePositions()

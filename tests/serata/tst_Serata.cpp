@@ -15,6 +15,7 @@
 #include "support/OrdinaryUser.h"
 #include "support/ScratchFolder.h"
 
+#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
@@ -218,6 +219,7 @@ private slots:
     void longListsAreGivenInParts();
     void aNewGameForgetsTheCalls();
     void aNewGameThatIsCancelledChangesNothing();
+    void aNewGameThatCannotBeSavedChangesNothing();
     void theRangeOfANewGameIsNeverUpsideDown();
     void theScreenIsFilledAndLeft();
     void aCallThatCannotBeSavedIsNotShown();
@@ -233,12 +235,14 @@ private slots:
     void theRangeIsThatOfTheParametersAndOfTheCards();
     void anEveningOfOtherCardsGoesOnIfWanted();
     void anEveningOfOtherCardsIsPutAsideIfNotWanted();
+    void anEveningThatCannotBePutAsideIsLeftAlone();
     void anEveningOfOtherCardsIsLeftAloneWithoutAnAnswer();
     void anEveningThatIsPlayedElsewhereIsNotPutAside();
     void withoutASetTheLastEveningGoesOn();
     void withoutASetAndAnEveningTheBoardIsThere();
     void aFolderThatTakesNothingIsReplacedByAnother();
     void withoutAFolderNoWindowOpens();
+    void withoutARegisterNoWindowOpens();
     void anEveningIsOpenInOneWindowOfTheComputer();
     void theWindowThatIsOpenIsShownAgain();
 
@@ -251,6 +255,8 @@ private slots:
     void theRegisterThatIsOpenStaysOpen();
     void aChangedRegisterAsksAboutItsCalls();
 
+    void callsOfARegisterThatCannotBePutAsideStay();
+    void boardAndListsAreSoundModels();
     void everythingHasANameForScreenReaders();
     void calledNumbersAreReadableInAnyPalette_data();
     void calledNumbersAreReadableInAnyPalette();
@@ -670,6 +676,23 @@ void tst_Serata::aNewGameThatIsCancelledChangesNothing()
     QCOMPARE(e.text("chiamate_label"), QStringLiteral("Numeri chiamati: 1 di 90"));
 }
 
+void tst_Serata::aNewGameThatCannotBeSavedChangesNothing()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(5);
+    e.onNewGame([](QDialog *dialog) { dialog->accept(); });
+    e.boxes.expectBox(title, QStringLiteral("La partita non si può cominciare."), QMessageBox::Ok,
+                      [](QMessageBox *box) { QVERIFY(!box->informativeText().isEmpty()); });
+    {
+        const FileFaults faults(e.folder.path(QString()), FileFaults::Calls::Changes, 1,
+                                FileFaults::Effect::LastingError);
+        e.trigger("actionNuovaPartita");
+    }
+    QVERIFY(e.isMarked(5));
+    QCOMPARE(e.saved(), (Numbers{5}));
+}
+
 void tst_Serata::theRangeOfANewGameIsNeverUpsideDown()
 {
     Evening e;
@@ -892,6 +915,26 @@ void tst_Serata::anEveningOfOtherCardsIsPutAsideIfNotWanted()
     QVERIFY(e.isMarked(7));
 }
 
+void tst_Serata::anEveningThatCannotBePutAsideIsLeftAlone()
+{
+    Evening e;
+    const OrdinaryUser user(e.folder);
+    QVERIFY(e.openSet());
+    e.call(7);
+    const QByteArray calls = e.folder.read(journal);
+    const QString folder = e.folder.path(QString());
+    e.boxes.expectBox(title, QMessageBox::No, [&](QMessageBox *) {
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    });
+    e.boxes.expectBox(title, QStringLiteral("La serata di prima non si può mettere da parte."), QMessageBox::Ok,
+                      QMessageBox::Critical);
+    const bool opened = e.openAgain(Cartella(1, 1, 3, 9));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY(!opened);
+    QCOMPARE(e.folder.read(journal), calls);
+    QCOMPARE(e.files(), (QStringList{evening, journal}));
+}
+
 void tst_Serata::anEveningOfOtherCardsIsLeftAloneWithoutAnAnswer()
 {
     Evening e;
@@ -973,6 +1016,17 @@ void tst_Serata::withoutAFolderNoWindowOpens()
     QWidget parent;
     Serata::open(&parent, *fourCards(), 1, 90);
     QVERIFY(parent.findChild<Serata *>() == nullptr);
+}
+
+void tst_Serata::withoutARegisterNoWindowOpens()
+{
+    Evening e;
+    QVERIFY(QDir().mkdir(e.folder.path(evening)));
+    e.boxes.expectBox(title, QStringLiteral("La serata non si può salvare in %1.").arg(e.config.defaultSaveDir),
+                      QMessageBox::Ok, [](QMessageBox *box) { QVERIFY(!box->informativeText().isEmpty()); });
+    e.boxes.expectFileDialog(QStringLiteral("Dove salvare la serata"), QString());
+    QVERIFY(!e.openSet());
+    QVERIFY(QFileInfo(e.folder.path(evening)).isDir());
 }
 
 void tst_Serata::anEveningIsOpenInOneWindowOfTheComputer()
@@ -1159,6 +1213,58 @@ void tst_Serata::aChangedRegisterAsksAboutItsCalls()
     QVERIFY(!e.isMarked(7));
     QCOMPARE(e.files().filter(QStringLiteral("natale 2")).size(), 1); // the calls, with the time
     QCOMPARE(e.folder.read(QStringLiteral("natale.csv")), QByteArray("1;1;|;7;10\n"));
+}
+
+void tst_Serata::callsOfARegisterThatCannotBePutAsideStay()
+{
+    Evening e;
+    const OrdinaryUser user(e.folder);
+    QVERIFY(e.openSet());
+    const QString path = e.folder.path(QStringLiteral("natale.csv"));
+    e.folder.write(QStringLiteral("natale.csv"), "1;1;|;7;9\n");
+    e.folder.write(QStringLiteral("natale.csv.chiamate"), "schede 1\nnumeri 1 90\n+7\n");
+    const QString folder = e.folder.path(QString());
+    e.boxes.expectBox(title, QMessageBox::No, [&](QMessageBox *) {
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    });
+    e.boxes.expectBox(title, QStringLiteral("La serata di prima non si può mettere da parte."), QMessageBox::Ok,
+                      QMessageBox::Critical);
+    const bool opened = e.window->openRegister(path);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY(!opened);
+    QCOMPARE(e.folder.read(QStringLiteral("natale.csv.chiamate")), QByteArray("schede 1\nnumeri 1 90\n+7\n"));
+    QCOMPARE(e.status(), QStringLiteral("Schede: 4. Numeri da 1 a 90. Chiamati: 0."));
+}
+
+// While games begin, numbers are called and the lists grow.
+void tst_Serata::boardAndListsAreSoundModels()
+{
+    Evening e;
+    const Cartella many(400, 3, 1, 1);
+    for (Pagina *pagina : many.pagine) {
+        for (Blocco &blocco : *pagina) {
+            blocco = blockOf(made({1, 1}, {QStringLiteral("7")}));
+        }
+    }
+    QVERIFY(e.openSet(many));
+    using Tester = QAbstractItemModelTester;
+    const Tester board(e.board()->model(), Tester::FailureReportingMode::QtTest);
+    const Tester tombole(e.find<QListView>("tombole_view")->model(), Tester::FailureReportingMode::QtTest);
+    const Tester quasi(e.find<QListView>("quasi_view")->model(), Tester::FailureReportingMode::QtTest);
+    e.call(7);
+    auto *model = e.find<QListView>("tombole_view")->model();
+    QCOMPARE(model->rowCount(), 1200); // the tester fetches all of them
+    model->fetchMore(QModelIndex());
+    model->fetchMore(model->index(0, 0)); // an entry has none of its own
+    QVERIFY(!model->canFetchMore(model->index(0, 0)));
+    QCOMPARE(model->rowCount(), 1200);
+    e.onNewGame([](QDialog *dialog) { dialog->accept(); });
+    e.trigger("actionNuovaPartita");
+    QCOMPARE(e.board()->model()->rowCount(), 9);
+    TabelloneModel empty;
+    const Tester withoutAGame(&empty, Tester::FailureReportingMode::QtTest);
+    QCOMPARE(empty.rowCount(), 0);
+    QVERIFY(!empty.numberAt(e.board()->model()->index(0, 0)));
 }
 
 void tst_Serata::everythingHasANameForScreenReaders()

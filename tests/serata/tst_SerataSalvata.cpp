@@ -5,6 +5,7 @@
 #include "serata/MadeCards.h"
 #include "serata/SharedCalls.h"
 #include "support/FileFaults.h"
+#include "support/OrdinaryUser.h"
 #include "support/ScratchFolder.h"
 
 #include <QDir>
@@ -67,7 +68,9 @@ private slots:
     void aJournalWithoutAGameGoesOnWithOne();
     void aNewEveningForgetsTheOneBefore();
     void aStepThatDoesNotReachTheDiskChangesNothing();
+    void anEveningThatCannotGoOnChangesNothing();
     void anEveningIsOpenOnce();
+    void whatCannotBePutAsideStays();
     void theFilesOfAnEveningArePutAside_data();
     void theFilesOfAnEveningArePutAside();
     void nothingToPutAsideIsNoFailure();
@@ -228,6 +231,25 @@ void tst_SerataSalvata::aStepThatDoesNotReachTheDiskChangesNothing()
     QCOMPARE(serata.partita().tombole(), (Numbers{0}));
 }
 
+// The journal is one of other cards and has no game: both lines are added first.
+void tst_SerataSalvata::anEveningThatCannotGoOnChangesNothing()
+{
+    const QByteArray before("schede 1\n");
+    m_folder->write(SerataSalvata::diarioOf(registro), before);
+    const QString path = m_folder->path(registro);
+    for (int call = 1; call <= 4; ++call) { // write and sync of either line
+        SerataSalvata serata(cards(), path);
+        const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Changes, call, FileFaults::Effect::Error);
+        QVERIFY(!serata.resume());
+        QVERIFY(!serata.errorString().isEmpty());
+        QVERIFY(serata.partita().chiamate().empty());
+        m_folder->write(SerataSalvata::diarioOf(registro), before);
+    }
+    SerataSalvata serata(cards(), path);
+    QVERIFY(serata.resume());
+    QVERIFY(SerataSalvata(cards(), path).isSameEvening());
+}
+
 void tst_SerataSalvata::anEveningIsOpenOnce()
 {
     SerataSalvata first(cards(), registro);
@@ -236,6 +258,21 @@ void tst_SerataSalvata::anEveningIsOpenOnce()
     QVERIFY(!second.resume());
     QVERIFY(!second.begin({1, 90}));
     QVERIFY(!second.errorString().isEmpty());
+}
+
+void tst_SerataSalvata::whatCannotBePutAsideStays()
+{
+    const OrdinaryUser user(*m_folder);
+    m_folder->write(registro, "cards");
+    m_folder->write(SerataSalvata::diarioOf(registro), "calls");
+    const QString folder = m_folder->path(QString());
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    const QString aside = SerataSalvata(cards(), m_folder->path(registro)).putAside(Parte::Tutto);
+    const QString callsAside = SerataSalvata(cards(), m_folder->path(registro)).putAside(Parte::Chiamate);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(aside, QString());
+    QCOMPARE(callsAside, QString());
+    QCOMPARE(filesHere(), (QStringList{registro, SerataSalvata::diarioOf(registro)}));
 }
 
 void tst_SerataSalvata::theFilesOfAnEveningArePutAside_data()

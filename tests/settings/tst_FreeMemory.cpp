@@ -13,6 +13,7 @@ private slots:
     void aMachineHasSomeAndNotEndlessMemory();
     void whatIsMoreThanThatDoesNotFit();
     void aLimitOfTheProgramCounts();
+    void whatCannotBeFoundOutIsNoLimit();
 };
 
 void tst_FreeMemory::aMachineHasSomeAndNotEndlessMemory()
@@ -40,6 +41,14 @@ void tst_FreeMemory::aLimitOfTheProgramCounts()
     }
     const ResourceLimit used(RLIMIT_AS, 1 << 20); // less than the program has already
     QCOMPARE(freeMemory(), 0.0);
+}
+
+void tst_FreeMemory::whatCannotBeFoundOutIsNoLimit()
+{
+    const ResourceLimit noFiles(RLIMIT_NOFILE, 0);
+    QVERIFY(fitsMemory(1e15));
+    const ResourceLimit used(RLIMIT_AS, 1 << 20);
+    QVERIFY(fitsMemory(1e15));
 }
 
 QTEST_APPLESS_MAIN(tst_FreeMemory)

@@ -52,6 +52,7 @@ private slots:
     void everyFaultIsNoticed_data();
     void everyFaultIsNoticed();
     void aFullDiskKeepsTheOldFile();
+    void aDiskWithoutRoomForANewFileKeepsTheOldOne();
 
     void anIncompleteFileIsLeftUnderItsName();
     void anIncompleteFileIsLeftBesideTheOldOne();
@@ -306,6 +307,21 @@ void tst_WholeFile::aFullDiskKeepsTheOldFile()
     QCOMPARE(written, Written::Incomplete);
     QCOMPARE(reason, qt_error_string(EFBIG));
     QCOMPARE(m_folder->read(name), oldContent);
+    QCOMPARE(filesHere(), QStringList(name));
+}
+
+void tst_WholeFile::aDiskWithoutRoomForANewFileKeepsTheOldOne()
+{
+    m_folder->write(name, oldContent);
+    const QString path = m_folder->path(name);
+    QString reason;
+    const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Creations, 1,
+                            FileFaults::Effect::LastingError);
+    QCOMPARE(writeWhole(path, newContent, {}, &reason), Written::Incomplete);
+    QCOMPARE(reason, qt_error_string(ENOSPC));
+    QCOMPARE(m_folder->read(name), oldContent);
+    QCOMPARE(writeWhole(m_folder->path(QStringLiteral("b.txt")), newContent, {}, &reason), Written::NotOpened);
+    QCOMPARE(reason, qt_error_string(ENOSPC));
     QCOMPARE(filesHere(), QStringList(name));
 }
 

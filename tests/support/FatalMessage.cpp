@@ -7,6 +7,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+// Of a build that measures which code ran; the end of the child would forget it.
+extern "C" __attribute__((weak)) void __gcov_dump();
+
 namespace {
 constexpr int diedFatally = 42;
 int reportPipe = -1;
@@ -18,6 +21,9 @@ void reportFatal(QtMsgType type, const QMessageLogContext &, const QString &mess
     }
     const QByteArray text = message.toUtf8();
     const bool sent = write(reportPipe, text.constData(), static_cast<size_t>(text.size())) == text.size();
+    if (__gcov_dump != nullptr) {
+        __gcov_dump();
+    }
     _exit(sent ? diedFatally : 1);
 }
 

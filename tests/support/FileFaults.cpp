@@ -6,10 +6,12 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -51,7 +53,8 @@ bool isBelow(int descriptor)
 bool isDue(FileFaults::Calls calls)
 {
     Plan &p = plan();
-    if (p.calls != calls && p.calls != FileFaults::Calls::All) {
+    const bool all = p.calls == FileFaults::Calls::All && calls != FileFaults::Calls::Creations;
+    if (p.calls != calls && !all) {
         return false;
     }
     ++p.seen;
@@ -103,6 +106,24 @@ __attribute__((visibility("default"))) ssize_t write(int descriptor, const void 
         return -1;
     }
     return real(descriptor, data, size);
+}
+
+// What the toolkit opens files with. The rights are given only for a new file.
+__attribute__((visibility("default"))) int open64(const char *path, int flags, ...)
+{
+    static auto *real = next<int(const char *, int, ...)>("open64");
+    if ((flags & O_CREAT) == 0) {
+        return real(path, flags);
+    }
+    if (isBelow(path) && access(path, F_OK) != 0 && isDue(FileFaults::Calls::Creations)) {
+        strike("open", ENOSPC);
+        return -1;
+    }
+    va_list rights;
+    va_start(rights, flags);
+    const mode_t mode = va_arg(rights, mode_t);
+    va_end(rights);
+    return real(path, flags, mode);
 }
 
 __attribute__((visibility("default"))) ssize_t read(int descriptor, void *data, size_t size)

@@ -14,7 +14,8 @@ public:
     enum class Calls {
         Changes, // every write, sync, close and rename
         Reads,
-        All
+        All,
+        Creations // every opening that makes a new file; not among All
     };
     enum class Effect {
         Error,        // one call fails
