@@ -43,7 +43,13 @@ MainWindow::MainWindow(QWidget *parent)
     showMaximized();
 }
 
-MainWindow::~MainWindow() = default;
+// The widgets go later. One that loses the focus then would tell what was just typed into it.
+MainWindow::~MainWindow()
+{
+    for (const QObject *child : findChildren<QObject *>()) {
+        disconnect(child, nullptr, this, nullptr);
+    }
+}
 
 // Not in the form: a button's shortcut goes when its text is set, which the form does last.
 void MainWindow::setupShortcuts()

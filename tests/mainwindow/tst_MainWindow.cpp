@@ -80,6 +80,7 @@ private slots:
     void refusingToLeaveKeepsEverything();
     void leavingIsToldOnce();
     void exitAsksToo();
+    void theWindowMayGoWhileACellIsEdited();
 };
 
 void tst_MainWindow::theWindowOpensMaximisedWithNameAndRelease()
@@ -465,6 +466,20 @@ void tst_MainWindow::exitAsksToo()
     page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, QMessageBox::Yes);
     action(page, "actionEsci")->trigger();
     QVERIFY(!page.window->isVisible());
+}
+
+// The cell loses the focus when the window is half gone already.
+void tst_MainWindow::theWindowMayGoWhileACellIsEdited()
+{
+    PageWindow page;
+    page.showPages(1, {1, 3, 9});
+    QApplication::setActiveWindow(page.window.get());
+    page.table()->setFocus();
+    page.table()->editItem(page.item(0, 0));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("12"));
+    const QPointer<MainWindow> window = page.window.get();
+    page.window.reset();
+    QVERIFY(window.isNull());
 }
 
 QTEST_MAIN(tst_MainWindow)
