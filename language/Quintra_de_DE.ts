@@ -1382,6 +1382,10 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
         <source>Il manuale non è in %1!</source>
         <translation>Das Handbuch ist nicht in %1!</translation>
     </message>
+    <message>
+        <source>Svuota le celle selezionate</source>
+        <translation>Leert die ausgewählten Zellen</translation>
+    </message>
 </context>
 <context>
     <name>Manuale</name>
@@ -1529,6 +1533,10 @@ Möchten Sie trotzdem fortfahren?</translation>
     <message>
         <source>Testo</source>
         <translation>Text</translation>
+    </message>
+    <message>
+        <source>Chiude la finestra</source>
+        <translation>Schließt das Fenster</translation>
     </message>
 </context>
 <context>

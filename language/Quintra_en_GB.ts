@@ -1382,6 +1382,10 @@ Other pages not generated (counted from 1): %1</translation>
         <source>Il manuale non è in %1!</source>
         <translation>The manual is not in %1!</translation>
     </message>
+    <message>
+        <source>Svuota le celle selezionate</source>
+        <translation>Empties the selected cells</translation>
+    </message>
 </context>
 <context>
     <name>Manuale</name>
@@ -1529,6 +1533,10 @@ Do you want to continue anyway?</translation>
     <message>
         <source>Testo</source>
         <translation>Text</translation>
+    </message>
+    <message>
+        <source>Chiude la finestra</source>
+        <translation>Closes the window</translation>
     </message>
 </context>
 <context>

@@ -1382,6 +1382,10 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
         <source>Il manuale non è in %1!</source>
         <translation>¡El manual no está en %1!</translation>
     </message>
+    <message>
+        <source>Svuota le celle selezionate</source>
+        <translation>Vacía las celdas seleccionadas</translation>
+    </message>
 </context>
 <context>
     <name>Manuale</name>
@@ -1529,6 +1533,10 @@ MB libres: %2
     <message>
         <source>Testo</source>
         <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Chiude la finestra</source>
+        <translation>Cierra la ventana</translation>
     </message>
 </context>
 <context>

@@ -1382,6 +1382,10 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
         <source>Il manuale non è in %1!</source>
         <translation>Le manuel n&apos;est pas dans %1&#xa0;!</translation>
     </message>
+    <message>
+        <source>Svuota le celle selezionate</source>
+        <translation>Vide les cellules sélectionnées</translation>
+    </message>
 </context>
 <context>
     <name>Manuale</name>
@@ -1529,6 +1533,10 @@ Voulez-vous continuer quand même&#xa0;?</translation>
     <message>
         <source>Testo</source>
         <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Chiude la finestra</source>
+        <translation>Ferme la fenêtre</translation>
     </message>
 </context>
 <context>

@@ -1382,6 +1382,10 @@ Altre pagine non generate (contate da 1): %1</translation>
         <source>Il manuale non è in %1!</source>
         <translation>Il manuale non è in %1!</translation>
     </message>
+    <message>
+        <source>Svuota le celle selezionate</source>
+        <translation>Svuota le celle selezionate</translation>
+    </message>
 </context>
 <context>
     <name>Manuale</name>
@@ -1529,6 +1533,10 @@ Vuoi proseguire comunque?</translation>
     <message>
         <source>Testo</source>
         <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Chiude la finestra</source>
+        <translation>Chiude la finestra</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,7 @@ QTableWidget *MainWindow::replaceTable()
     m_table->setFocusPolicy(Qt::NoFocus); // nothing would show it while there are no cells
     for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
         auto *clear = new QShortcut(key, m_table);
+        clear->setWhatsThis(tr("Svuota le celle selezionate"));
         clear->setContext(Qt::WidgetShortcut); // the editor of a cell needs these keys itself
         connect(clear, &QShortcut::activated, this, &MainWindow::clearSelectedCells);
     }

@@ -78,8 +78,12 @@ PagePreview::PagePreview(QWidget *parent)
     connect(ui->precedente_button, &QPushButton::clicked, this, turnBack);
     connect(ui->successiva_button, &QPushButton::clicked, this, turnOver);
     // Also from the zoom and from the sheet, which have a use of their own for these keys.
-    connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, turnBack);
-    connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, turnOver);
+    auto *back = new QShortcut(Qt::Key_PageUp, this);
+    auto *over = new QShortcut(Qt::Key_PageDown, this);
+    back->setWhatsThis(ui->precedente_button->toolTip());
+    over->setWhatsThis(ui->successiva_button->toolTip());
+    connect(back, &QShortcut::activated, this, turnBack);
+    connect(over, &QShortcut::activated, this, turnOver);
     connect(ui->zoom_comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PagePreview::fitSheet);
 }
 

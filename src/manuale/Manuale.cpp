@@ -37,7 +37,7 @@ Manuale::~Manuale() = default;
 void Manuale::connectCommands()
 {
     ui->indietro_button->setShortcut(QKeySequence(QStringLiteral("Alt+Left")));
-    ui->indice_button->setShortcut(QKeySequence(QStringLiteral("Alt+Home")));
+    ui->indice_button->setShortcut(QKeySequence(QStringLiteral("Alt+Up")));
     addAction(ui->actionCerca);
     connect(ui->indietro_button, &QPushButton::clicked, ui->testo_browser, &QTextBrowser::backward);
     connect(ui->testo_browser, &QTextBrowser::backwardAvailable, ui->indietro_button, &QPushButton::setEnabled);

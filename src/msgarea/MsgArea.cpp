@@ -39,7 +39,9 @@ MsgArea::MsgArea(QWidget *parent, bool fileMode)
     addActions({ui->actionSalva, ui->actionEsci});
     ui->menubar->setVisible(fileMode);
     if (!fileMode) {
-        connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &MsgArea::close);
+        auto *leave = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+        leave->setWhatsThis(tr("Chiude la finestra"));
+        connect(leave, &QShortcut::activated, this, &MsgArea::close);
     }
     connect(ui->textEdit, &QTextEdit::textChanged, this, &MsgArea::fileModified);
 }

@@ -118,7 +118,7 @@ void tst_Shortcuts::noWindowHasOthers()
         QCOMPARE(shortcutsOf(MsgArea(nullptr, fileMode)),
                  (QStringList{QStringLiteral("Ctrl+Q"), QStringLiteral("Ctrl+S")}));
     }
-    QCOMPARE(shortcutsOf(Manuale()), (QStringList{QStringLiteral("Alt+Home"), QStringLiteral("Ctrl+F")}));
+    QCOMPARE(shortcutsOf(Manuale()), (QStringList{QStringLiteral("Alt+Up"), QStringLiteral("Ctrl+F")}));
     QCOMPARE(shortcutsOf(Options(nullptr)), QStringList());
     QCOMPARE(shortcutsOf(FormatSelection(nullptr)), QStringList());
 }
