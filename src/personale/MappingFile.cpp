@@ -2,7 +2,6 @@
 #include "personale/MappingFile.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 #include <QTextStream>
 
 #include <algorithm>
@@ -16,7 +15,6 @@ namespace {
 constexpr int rowCountBase = 32;   // a page of n rows starts with the character of code n + 32
 constexpr int lengthModulus = 256; // of a line's length only the low 8 bits give the column count
 constexpr size_t mostPages = std::numeric_limits<U16>::max();
-constexpr size_t mostEntriesDescribed = 500;
 
 class Text
 {
@@ -47,15 +45,6 @@ std::optional<Motivo> decode(const QString &line, SchemaPagina &pagina)
     pagina.celle.reserve(static_cast<size_t>(cells));
     std::transform(line.cbegin() + 1, line.cbegin() + 1 + cells, std::back_inserter(pagina.celle), cellOf);
     return std::nullopt;
-}
-
-void skip(std::vector<RigheSaltate> &saltate, int line, Motivo motivo)
-{
-    if (!saltate.empty() && saltate.back().ultima == line - 1 && saltate.back().motivo == motivo) {
-        saltate.back().ultima = line;
-    } else {
-        saltate.push_back({line, line, motivo});
-    }
 }
 
 QString reasonText(Motivo motivo)
@@ -129,18 +118,8 @@ Lettura read(QTextStream &stream, const std::function<void(int)> &lineRead)
 
 QString describe(const std::vector<RigheSaltate> &saltate)
 {
-    QStringList lines(Text::tr("Queste righe del file non descrivono una pagina e sono state saltate:"));
-    for (size_t i = 0; i < std::min(saltate.size(), mostEntriesDescribed); ++i) {
-        const RigheSaltate &some = saltate[i];
-        const QString reason = reasonText(some.motivo);
-        lines << (some.prima == some.ultima
-                      ? Text::tr("Riga %1: %2.").arg(some.prima).arg(reason)
-                      : Text::tr("Righe da %1 a %2: %3.").arg(some.prima).arg(some.ultima).arg(reason));
-    }
-    if (saltate.size() > mostEntriesDescribed) {
-        lines << Text::tr("L'elenco continua fino alla riga %1.").arg(saltate.back().ultima);
-    }
-    return lines.join(QLatin1Char('\n'));
+    return Text::tr("Queste righe del file non descrivono una pagina e sono state saltate:") +
+           ::describe(saltate, reasonText, mostEntriesDescribed);
 }
 
 } // namespace MappingFile

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/Cartella.h"
+#include "settings/RigheSaltate.h"
 
 #include <QChar>
 #include <QString>
@@ -36,13 +37,7 @@ enum class Motivo {
     TroppePagine, // more pages than an editor holds
 };
 
-// Neighbouring lines (numbered from 1) that were skipped for the same reason.
-struct RigheSaltate
-{
-    int prima;
-    int ultima;
-    Motivo motivo;
-};
+using RigheSaltate = ::RigheSaltatePer<Motivo>;
 
 struct Lettura
 {

@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QSet>
-#include <QStringList>
 
 #include <algorithm>
 #include <charconv>
@@ -25,10 +24,10 @@ constexpr int escapedDigits = 4; // hexadecimal, after \u
 constexpr int hexadecimal = 16;
 constexpr size_t longestCell = 11;     // bytes of a number of 32 bits and a separator
 constexpr size_t longestCharacter = 6; // bytes of an escaped one
-constexpr int longestLine = 1 << 20;   // bytes: more than 255 rows of 255 cells need
 constexpr int bytesAtOnce = 1 << 16;   // are written
+constexpr int usualLine = 1 << 20;     // bytes: more than 255 rows of 255 numbers need
+constexpr int longestLine = 1 << 24;   // bytes: of texts longer than anyone types
 constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
-constexpr size_t mostEntriesDescribed = 500;
 
 class Text
 {
@@ -300,15 +299,6 @@ std::optional<Motivo> decode(LineReader line, Scheda &scheda)
     return line.atEnd() ? std::nullopt : std::optional(Motivo::Casella);
 }
 
-void skip(std::vector<RigheSaltate> &saltate, int line, Motivo motivo)
-{
-    if (!saltate.empty() && saltate.back().ultima == line - 1 && saltate.back().motivo == motivo) {
-        saltate.back().ultima = line;
-    } else {
-        saltate.push_back({line, line, motivo});
-    }
-}
-
 QString reasonText(Motivo motivo)
 {
     switch (motivo) {
@@ -342,19 +332,22 @@ class Lines final
 public:
     explicit Lines(QIODevice &device)
         : m_device(device)
-        , m_buffer(longestLine + 1, Qt::Uninitialized)
+        , m_buffer(usualLine + 1, Qt::Uninitialized)
     {
     }
 
-    // Goes to the next line; false at the end.
+    // Goes to the next line; false after the last one. After one without end nothing is read: a device that failed
+    // would forget it.
     bool next()
     {
+        if (!m_whole) {
+            return false;
+        }
+        m_length = 0;
         m_tooLong = false;
         do {
-            m_length = m_device.readLine(m_buffer.data(), m_buffer.size());
-            m_whole = m_length > 0 && m_buffer.at(int(m_length) - 1) == '\n';
-            m_tooLong = m_tooLong || m_length == longestLine;
-        } while (m_length == longestLine && !m_whole);
+            makeRoom();
+        } while (readOn());
         return m_length > 0 || m_tooLong;
     }
     // Why the line cannot be read at all.
@@ -373,11 +366,53 @@ public:
     }
 
 private:
+    // A full buffer grows; what is too long for a line is read over itself.
+    void makeRoom()
+    {
+        if (m_length >= longestLine) {
+            m_tooLong = true;
+            m_length = 0;
+        } else if (m_length == m_buffer.size() - 1) {
+            m_buffer.resize(2 * static_cast<int>(m_length) + 1);
+        }
+    }
+    // True when there is more of the line.
+    bool readOn()
+    {
+        const qint64 room = m_buffer.size() - 1 - m_length;
+        const qint64 read = m_device.readLine(m_buffer.data() + m_length, room + 1);
+        m_length += std::max(read, qint64{0});
+        m_whole = read > 0 && m_buffer.at(static_cast<int>(m_length) - 1) == '\n';
+        return read == room && !m_whole;
+    }
+
     QIODevice &m_device;
     QByteArray m_buffer;
     qint64 m_length = 0;
-    bool m_whole = false;
+    bool m_whole = true;
     bool m_tooLong = false;
+};
+
+// Takes only what a device holds at this place.
+class Comparison final : public QIODevice
+{
+public:
+    explicit Comparison(QIODevice &device)
+        : m_device(device)
+    {
+        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+
+protected:
+    qint64 readData(char * /*data*/, qint64 /*length*/) override { return -1; }
+    qint64 writeData(const char *data, qint64 length) override
+    {
+        const bool same = m_device.read(length) == QByteArray::fromRawData(data, static_cast<int>(length));
+        return same ? length : -1;
+    }
+
+private:
+    QIODevice &m_device;
 };
 
 // A different one for every position.
@@ -418,7 +453,11 @@ bool write(QIODevice &device, const Cartella &cartella)
         posizione.blocco = 0;
         for (const Blocco &blocco : *pagina) {
             ++posizione.blocco;
+            const int before = lines.size();
             appendLine(lines, blocco, posizione);
+            if (lines.size() - before > longestLine) {
+                return false;
+            }
         }
         if (lines.size() >= bytesAtOnce && !emptyInto(device, lines)) {
             return false;
@@ -436,7 +475,7 @@ bool save(const QString &fileName, const Cartella &cartella, QString &reason)
     }
     QFile file(whole.writtenName());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !write(file, cartella) || !isClosed(file)) {
-        reason = file.errorString();
+        reason = file.error() != QFile::NoError ? file.errorString() : Text::tr("Una scheda ha testi troppo lunghi.");
         return false;
     }
     if (!whole.commit()) {
@@ -444,6 +483,12 @@ bool save(const QString &fileName, const Cartella &cartella, QString &reason)
         return false;
     }
     return true;
+}
+
+bool holds(QIODevice &device, const Cartella &cartella)
+{
+    Comparison comparison(device);
+    return write(comparison, cartella) && device.atEnd();
 }
 
 Lettura read(QIODevice &device)
@@ -472,20 +517,10 @@ Lettura read(QIODevice &device)
     return result;
 }
 
-QString describe(const std::vector<RigheSaltate> &saltate)
+QString describe(const std::vector<RigheSaltate> &saltate, size_t mostEntries)
 {
-    QStringList lines(Text::tr("Queste righe del registro non sono schede e sono state saltate:"));
-    for (size_t i = 0; i < std::min(saltate.size(), mostEntriesDescribed); ++i) {
-        const RigheSaltate &some = saltate[i];
-        const QString reason = reasonText(some.motivo);
-        lines << (some.prima == some.ultima
-                      ? Text::tr("Riga %1: %2.").arg(some.prima).arg(reason)
-                      : Text::tr("Righe da %1 a %2: %3.").arg(some.prima).arg(some.ultima).arg(reason));
-    }
-    if (saltate.size() > mostEntriesDescribed) {
-        lines << Text::tr("L'elenco continua fino alla riga %1.").arg(saltate.back().ultima);
-    }
-    return lines.join(QLatin1Char('\n'));
+    return Text::tr("Queste righe del registro non sono schede e sono state saltate:") +
+           ::describe(saltate, reasonText, mostEntries);
 }
 
 } // namespace Registro

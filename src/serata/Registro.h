@@ -2,6 +2,7 @@
 #pragma once
 
 #include "serata/Scheda.h"
+#include "settings/RigheSaltate.h"
 
 #include <QByteArray>
 #include <QString>
@@ -24,7 +25,7 @@ namespace Registro {
 enum class Motivo {
     Vuota,          // no character at all
     Tronca,         // the last line, without its end
-    TroppoLunga,    // longer than any card
+    TroppoLunga,    // longer than any card that is written
     SenzaPosizione, // no page and card number that can be
     SenzaRiga,      // a cell before the first "|"
     Casella,        // neither number, nor text in quotes, nor picture
@@ -34,13 +35,7 @@ enum class Motivo {
     Doppia,         // a card of this position was read before
 };
 
-// Neighbouring lines (numbered from 1) that were skipped for the same reason.
-struct RigheSaltate
-{
-    int prima = 0;
-    int ultima = 0;
-    Motivo motivo = Motivo::Vuota;
-};
+using RigheSaltate = ::RigheSaltatePer<Motivo>;
 
 struct Lettura
 {
@@ -50,14 +45,16 @@ struct Lettura
 
 // The line of a card, with its end.
 QByteArray lineOf(const Blocco &blocco, Posizione posizione);
-// False when the device does not take everything.
+// False when the device does not take everything, or a line would be too long to be read again.
 [[nodiscard]] bool write(QIODevice &device, const Cartella &cartella);
 // Writes a file, whole or not at all. False when that fails, for the reason then in `reason`.
 [[nodiscard]] bool save(const QString &fileName, const Cartella &cartella, QString &reason);
-// Reads an open device to its end. Never fails: odd lines are skipped.
+// Whether an open device holds what would be written.
+[[nodiscard]] bool holds(QIODevice &device, const Cartella &cartella);
+// Reads an open device to its end, or until it fails, which it then tells itself. Odd lines are skipped.
 Lettura read(QIODevice &device);
 
 // The skipped lines and why, for the user. Long lists are cut after their first entries.
-QString describe(const std::vector<RigheSaltate> &saltate);
+QString describe(const std::vector<RigheSaltate> &saltate, size_t mostEntries = mostEntriesDescribed);
 
 } // namespace Registro

@@ -81,6 +81,9 @@ private slots:
     void afterAnyFaultTheOldRegisterIsThere();
     void aFullDiskIsToldOfByItsReason();
     void aDiskWithoutRoomForANewFileKeepsTheOldOne();
+    void aRegisterIsThatOfOneSetOnly();
+    void aFileThatFailsIsReadUntilThen_data();
+    void aFileThatFailsIsReadUntilThen();
     void linesInAnyOrderAreReadInTheOrderOfThePositions();
     void lineEndsOfWindowsAreRead();
     void oddLinesAreSkipped_data();
@@ -88,6 +91,9 @@ private slots:
     void aTextThatWasCutLosesOnlyItsLastLine();
     void aLineLongerThanAnyCardIsSkipped_data();
     void aLineLongerThanAnyCardIsSkipped();
+    void longTextsAreReadBack_data();
+    void longTextsAreReadBack();
+    void textsTooLongToBeReadBackAreRefused();
     void asManyRowsAndCellsAsACardHasAreRead();
     void otherFilesGiveNoCards_data();
     void otherFilesGiveNoCards();
@@ -266,6 +272,54 @@ void tst_Registro::aDiskWithoutRoomForANewFileKeepsTheOldOne()
     QCOMPARE(folder.read(name), good);
 }
 
+void tst_Registro::aRegisterIsThatOfOneSetOnly()
+{
+    const Cartella set(200, 6, 3, 9);
+    const auto isHeld = [&set](QByteArray bytes) {
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::ReadOnly);
+        return Registro::holds(buffer, set);
+    };
+    const QByteArray bytes = written(set);
+    QVERIFY(isHeld(bytes));
+    QVERIFY(!isHeld(bytes + '\n'));
+    QVERIFY(!isHeld(bytes.left(bytes.size() - 1)));
+    QVERIFY(!isHeld(QByteArray()));
+    for (const int place : {0, bytes.size() / 2, bytes.size() - 2}) {
+        QVERIFY(!isHeld(QByteArray(bytes).replace(place, 1, "x")));
+    }
+}
+
+void tst_Registro::aFileThatFailsIsReadUntilThen_data()
+{
+    QTest::addColumn<FileFaults::Effect>("effect");
+    QTest::newRow("once") << FileFaults::Effect::Error;
+    QTest::newRow("for good") << FileFaults::Effect::LastingError;
+}
+
+void tst_Registro::aFileThatFailsIsReadUntilThen()
+{
+    QFETCH(FileFaults::Effect, effect);
+    const ScratchFolder folder;
+    const QString path = folder.path(QStringLiteral("natale.csv"));
+    const Cartella set(200, 6, 3, 9); // more than one read
+    folder.write(path, written(set));
+    bool reached = true;
+    size_t cardsBefore = 0;
+    for (int call = 1; reached; ++call) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const FileFaults faults(path, FileFaults::Calls::Reads, call, effect);
+        const size_t cards = Registro::read(file).schede.size();
+        reached = FileFaults::struck() != nullptr;
+        QVERIFY(cards >= cardsBefore);
+        const bool failed = file.error() != QFile::NoError;
+        QVERIFY(failed ? reached : cards == 1200);
+        QVERIFY(failed || !reached || effect == FileFaults::Effect::Error); // the end is looked for twice
+        cardsBefore = cards;
+    }
+}
+
 void tst_Registro::linesInAnyOrderAreReadInTheOrderOfThePositions()
 {
     const Registro::Lettura reading = readBytes("12;1;|;3\n2;2;|;2\n2;1;|;1\n");
@@ -358,8 +412,8 @@ void tst_Registro::aLineLongerThanAnyCardIsSkipped_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<int>("cardsAfter");
-    QTest::newRow("with its end") << "1;2;|;\"" + QByteArray(10'000'000, 'x') + "\"\n1;3;|;7\n" << 1;
-    QTest::newRow("without its end") << QByteArray(10'000'000, 'x') << 0;
+    QTest::newRow("with its end") << "1;2;|;\"" + QByteArray(20'000'000, 'x') + "\"\n1;3;|;7\n" << 1;
+    QTest::newRow("without its end") << QByteArray(20'000'000, 'x') << 0;
     QTest::newRow("without its end, of a round size") << QByteArray(1 << 24, 'x') << 0;
 }
 
@@ -373,6 +427,35 @@ void tst_Registro::aLineLongerThanAnyCardIsSkipped()
     QCOMPARE(reading.saltate[0].prima, 2);
     QCOMPARE(reading.saltate[0].ultima, 2);
     QCOMPARE(int(reading.saltate[0].motivo), int(Motivo::TroppoLunga));
+}
+
+void tst_Registro::longTextsAreReadBack_data()
+{
+    QTest::addColumn<int>("length");
+    constexpr int around = (1 << 20) - 9; // bytes of the line beside the text
+    for (const int length : {around - 1, around, around + 1, around + 2, 5'000'000}) {
+        QTest::newRow(qPrintable(QString::number(length))) << length;
+    }
+}
+
+void tst_Registro::longTextsAreReadBack()
+{
+    QFETCH(int, length);
+    const auto set = setOfText(QString(length, QLatin1Char('x')));
+    const Registro::Lettura reading = readBytes(written(*set) + "1;2;|;7\n");
+    QVERIFY(reading.saltate.empty());
+    QCOMPARE(reading.schede.size(), size_t(2));
+    QVERIFY(reading.schede[0] == schedeOf(*set)[0]);
+}
+
+void tst_Registro::textsTooLongToBeReadBackAreRefused()
+{
+    const ScratchFolder folder;
+    const auto set = setOfText(QString(3'000'000, QChar(0x20ac)));
+    QString reason;
+    QVERIFY(!Registro::save(QStringLiteral("natale.csv"), *set, reason));
+    QCOMPARE(reason, QStringLiteral("Una scheda ha testi troppo lunghi."));
+    QVERIFY(!QFile::exists(QStringLiteral("natale.csv")));
 }
 
 void tst_Registro::asManyRowsAndCellsAsACardHasAreRead()

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "settings/RigheSaltate.h"
+
+#include <QCoreApplication>
+
+namespace {
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RigheSaltate)
+};
+} // namespace
+
+QString skippedLinesText(int first, int last, const QString &reason)
+{
+    return first == last ? Text::tr("Riga %1: %2.").arg(first).arg(reason)
+                         : Text::tr("Righe da %1 a %2: %3.").arg(first).arg(last).arg(reason);
+}
+
+QString skippedLinesGoOnText(int last)
+{
+    return Text::tr("L'elenco continua fino alla riga %1.").arg(last);
+}
