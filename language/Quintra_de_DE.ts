@@ -1452,18 +1452,6 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
         <translation>Diese Zeilen der Datei beschreiben keine Seite und wurden übersprungen:</translation>
     </message>
-    <message>
-        <source>Riga %1: %2.</source>
-        <translation>Zeile %1: %2.</translation>
-    </message>
-    <message>
-        <source>Righe da %1 a %2: %3.</source>
-        <translation>Zeilen %1 bis %2: %3.</translation>
-    </message>
-    <message>
-        <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation>Die Liste geht bis Zeile %1 weiter.</translation>
-    </message>
 </context>
 <context>
     <name>MemoryQuestion</name>
@@ -1860,6 +1848,13 @@ eccedono il massimo consentito (%2).</source>
         <translation>Diese Zeilen des Registers sind keine Karten und wurden übersprungen:</translation>
     </message>
     <message>
+        <source>Una scheda ha testi troppo lunghi.</source>
+        <translation>Die Texte einer Karte sind zu lang.</translation>
+    </message>
+</context>
+<context>
+    <name>RigheSaltate</name>
+    <message>
         <source>Riga %1: %2.</source>
         <translation>Zeile %1: %2.</translation>
     </message>
@@ -2124,13 +2119,21 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und der alte wird beiseitegelegt.
     </message>
     <message>
         <source>Il file delle chiamate non si può leggere.</source>
-        <translation>Die Datei der gezogenen Zahlen kann nicht gelesen werden.</translation>
+        <translation>Die Datei der Ziehungen kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
 %1</source>
-        <translation>Die früher gezogenen Zahlen sind unlesbar und wurden beiseitegelegt:
+        <translation>Die früheren Ziehungen sind unlesbar und wurden beiseitegelegt:
 %1</translation>
+    </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
+        <translation>Das Register kann nicht bis zum Ende gelesen werden. Gelesene Karten: %1.</translation>
     </message>
 </context>
 <context>

@@ -1452,18 +1452,6 @@ Other pages not generated (counted from 1): %1</translation>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
         <translation>These lines of the file do not describe a page and were skipped:</translation>
     </message>
-    <message>
-        <source>Riga %1: %2.</source>
-        <translation>Line %1: %2.</translation>
-    </message>
-    <message>
-        <source>Righe da %1 a %2: %3.</source>
-        <translation>Lines %1 to %2: %3.</translation>
-    </message>
-    <message>
-        <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation>The list goes on to line %1.</translation>
-    </message>
 </context>
 <context>
     <name>MemoryQuestion</name>
@@ -1860,6 +1848,13 @@ exceeds the maximum allowed (%2).</translation>
         <translation>These lines of the register are not cards and were skipped:</translation>
     </message>
     <message>
+        <source>Una scheda ha testi troppo lunghi.</source>
+        <translation>The texts of a card are too long.</translation>
+    </message>
+</context>
+<context>
+    <name>RigheSaltate</name>
+    <message>
         <source>Riga %1: %2.</source>
         <translation>Line %1: %2.</translation>
     </message>
@@ -2124,13 +2119,21 @@ Continue that one? With No a new one begins, and the old one is put aside.</tran
     </message>
     <message>
         <source>Il file delle chiamate non si può leggere.</source>
-        <translation>The file of the calls cannot be read.</translation>
+        <translation>The file of calls cannot be read.</translation>
     </message>
     <message>
         <source>Le chiamate di prima sono illeggibili e sono state messe da parte:
 %1</source>
         <translation>The calls made before cannot be read and were put aside:
 %1</translation>
+    </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>It is not a file.</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
+        <translation>The register cannot be read to its end. Cards read: %1.</translation>
     </message>
 </context>
 <context>

@@ -1452,18 +1452,6 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
         <translation>Estas líneas del archivo no describen una página y se han omitido:</translation>
     </message>
-    <message>
-        <source>Riga %1: %2.</source>
-        <translation>Línea %1: %2.</translation>
-    </message>
-    <message>
-        <source>Righe da %1 a %2: %3.</source>
-        <translation>Líneas de la %1 a la %2: %3.</translation>
-    </message>
-    <message>
-        <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation>La lista continúa hasta la línea %1.</translation>
-    </message>
 </context>
 <context>
     <name>MemoryQuestion</name>
@@ -1860,6 +1848,13 @@ supera el máximo permitido (%2).</translation>
         <translation>Estas líneas del registro no son cartones y se han omitido:</translation>
     </message>
     <message>
+        <source>Una scheda ha testi troppo lunghi.</source>
+        <translation>Los textos de un cartón son demasiado largos.</translation>
+    </message>
+</context>
+<context>
+    <name>RigheSaltate</name>
+    <message>
         <source>Riga %1: %2.</source>
         <translation>Línea %1: %2.</translation>
     </message>
@@ -2131,6 +2126,14 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
 %1</source>
         <translation>Las bolas anteriores son ilegibles y se han apartado:
 %1</translation>
+    </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
+        <translation>El registro no se puede leer hasta el final. Cartones leídos: %1.</translation>
     </message>
 </context>
 <context>

@@ -1452,18 +1452,6 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
         <translation>Ces lignes du fichier ne décrivent pas une page et ont été ignorées&#xa0;:</translation>
     </message>
-    <message>
-        <source>Riga %1: %2.</source>
-        <translation>Ligne %1&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>Righe da %1 a %2: %3.</source>
-        <translation>Lignes %1 à %2&#xa0;: %3.</translation>
-    </message>
-    <message>
-        <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation>La liste continue jusqu&apos;à la ligne %1.</translation>
-    </message>
 </context>
 <context>
     <name>MemoryQuestion</name>
@@ -1860,6 +1848,13 @@ dépasse le maximum autorisé (%2).</translation>
         <translation>Ces lignes du registre ne sont pas des cartons et ont été ignorées&#xa0;:</translation>
     </message>
     <message>
+        <source>Una scheda ha testi troppo lunghi.</source>
+        <translation>Les textes d&apos;un carton sont trop longs.</translation>
+    </message>
+</context>
+<context>
+    <name>RigheSaltate</name>
+    <message>
         <source>Riga %1: %2.</source>
         <translation>Ligne %1&#xa0;: %2.</translation>
     </message>
@@ -2131,6 +2126,14 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et l&apos;ancienne es
 %1</source>
         <translation>Les tirages précédents sont illisibles et ont été mis de côté&#xa0;:
 %1</translation>
+    </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>Ce n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
+        <translation>Le registre ne peut pas être lu jusqu&apos;au bout. Cartons lus&#xa0;: %1.</translation>
     </message>
 </context>
 <context>

@@ -1452,18 +1452,6 @@ Altre pagine non generate (contate da 1): %1</translation>
         <source>Queste righe del file non descrivono una pagina e sono state saltate:</source>
         <translation>Queste righe del file non descrivono una pagina e sono state saltate:</translation>
     </message>
-    <message>
-        <source>Riga %1: %2.</source>
-        <translation>Riga %1: %2.</translation>
-    </message>
-    <message>
-        <source>Righe da %1 a %2: %3.</source>
-        <translation>Righe da %1 a %2: %3.</translation>
-    </message>
-    <message>
-        <source>L&apos;elenco continua fino alla riga %1.</source>
-        <translation>L&apos;elenco continua fino alla riga %1.</translation>
-    </message>
 </context>
 <context>
     <name>MemoryQuestion</name>
@@ -1860,6 +1848,13 @@ eccedono il massimo consentito (%2).</translation>
         <translation>Queste righe del registro non sono schede e sono state saltate:</translation>
     </message>
     <message>
+        <source>Una scheda ha testi troppo lunghi.</source>
+        <translation>Una scheda ha testi troppo lunghi.</translation>
+    </message>
+</context>
+<context>
+    <name>RigheSaltate</name>
+    <message>
         <source>Riga %1: %2.</source>
         <translation>Riga %1: %2.</translation>
     </message>
@@ -2131,6 +2126,14 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
 %1</source>
         <translation>Le chiamate di prima sono illeggibili e sono state messe da parte:
 %1</translation>
+    </message>
+    <message>
+        <source>Non è un file.</source>
+        <translation>Non è un file.</translation>
+    </message>
+    <message>
+        <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
+        <translation>Il registro non si può leggere fino in fondo. Schede lette: %1.</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,12 @@ Intervallo united(Intervallo a, Intervallo b)
     return {std::min(a.da, b.da), std::max(a.a, b.a)};
 }
 
+Intervallo withUsualNumbers(Intervallo numeri)
+{
+    constexpr Intervallo usual;
+    return numeri.a <= usual.a ? united(numeri, usual) : numeri;
+}
+
 Partita::Partita(std::vector<Scheda> schede)
     : m_schede(std::move(schede))
 {
@@ -146,4 +152,21 @@ quint32 drawOneOf(const std::vector<quint32> &numeri)
 {
     const auto last = static_cast<unsigned>(numeri.size() - 1);
     return numeri[GUtils::generate_X_different_numbers(1, 0, last).first()];
+}
+
+double bytesToPlay(const Cartella &cartella)
+{
+    constexpr size_t bytesOfCell = sizeof(Casella) + 2 * sizeof(quint32); // in the index, which grows ahead
+    constexpr size_t bytesOfRow = 2 * sizeof(std::vector<Casella>);       // with what its allocation loses
+    constexpr size_t bytesOfCard = 2 * sizeof(Scheda);
+    double bytes = 0;
+    for (const Pagina *pagina : cartella.pagine) {
+        for (const Blocco &blocco : *pagina) {
+            bytes += bytesOfCard;
+            for (const Riga &riga : blocco) {
+                bytes += static_cast<double>(bytesOfRow + bytesOfCell * riga.nCelle);
+            }
+        }
+    }
+    return bytes;
 }

@@ -16,9 +16,11 @@ bool contains(Intervallo numeri, quint32 numero);
 Intervallo rangeOf(const std::vector<Scheda> &schede);
 // The smallest range that contains both.
 Intervallo united(Intervallo a, Intervallo b);
+// What cards with these numbers were made for: 1 to 90, of which few cards may miss some, unless one is higher.
+Intervallo withUsualNumbers(Intervallo numeri);
 
 // A game: the numbers called, in order, and what they make of the cards. Cards are named by their index, from 0, in the
-// order of their positions. A call costs time in proportion to the cards that hold the number.
+// order of their positions. A call counts in the cards that hold the number, and goes through the counts of all.
 class Partita final
 {
 public:
@@ -67,3 +69,6 @@ private:
 
 // Draws one of the numbers, which must not be none.
 quint32 drawOneOf(const std::vector<quint32> &numeri);
+
+// What a game on the cards of a set takes in memory (bytes), rather too much than too little.
+double bytesToPlay(const Cartella &cartella);

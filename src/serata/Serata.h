@@ -8,6 +8,11 @@
 #include <memory>
 
 class ElencoSchede;
+class QFile;
+
+namespace Registro {
+struct Lettura;
+}
 
 namespace Ui {
 class Serata;
@@ -52,10 +57,13 @@ private:
     bool putAside(SerataSalvata &serata, SerataSalvata::Parte parte);
     bool beginSet(const Cartella &cartella, std::unique_ptr<SerataSalvata> serata, Intervallo numeri);
     bool beginElsewhere(const Cartella &cartella, Intervallo numeri, const QString &reason);
+    bool requireRegister(const QString &fileName, const Cartella &cartella);
+    bool requireCards(const Registro::Lettura &reading, const QFile &file);
     bool openEvening(std::unique_ptr<SerataSalvata> serata);
     bool goOn(std::unique_ptr<SerataSalvata> serata);
     void adopt(std::unique_ptr<SerataSalvata> serata);
     void tellOfSkippedLines(const QString &description);
+    QWidget *boxParent();
     bool refuse(const QString &text, const QString &reason);
 
     // Commands.

@@ -1,29 +1,36 @@
 // SPDX-License-Identifier: MIT
 #include "serata/Serata.h"
 
+#include "msgarea/MemoryQuestion.h"
 #include "msgarea/MsgArea.h"
 #include "msgarea/WaitCursor.h"
 #include "serata/Registro.h"
 #include "settings/Config.h"
+#include "settings/DiskFile.h"
 #include "ui_Serata.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include <algorithm>
-
 namespace {
 constexpr size_t mostLinesInABox = 5;
+constexpr double bytesPerByteRead = 2 * sizeof(Casella); // a cell has a separator at least, vectors grow ahead
 } // namespace
 
 bool Serata::openSet(const Cartella &cartella, Intervallo numeri)
 {
+    if (!confirmMemory(boxParent(), windowTitle(), bytesToPlay(cartella), QString())) {
+        return false;
+    }
     const QString registro = registerOfTheEvening(globalConfig->defaultSaveDir);
     auto serata = std::make_unique<SerataSalvata>(schedeOf(cartella), registro);
     switch (decideOn(*serata)) {
     case EveningBefore::GoesOn:
-        return serata->isSameEvening() ? goOn(std::move(serata)) : openRegister(registro);
+        if (!serata->isSameEvening()) {
+            return openRegister(registro);
+        }
+        return requireRegister(registro, cartella) && goOn(std::move(serata));
     case EveningBefore::Unclear:
         return false;
     case EveningBefore::PutAside:
@@ -58,7 +65,7 @@ Serata::EveningBefore Serata::askAbout(const SerataSalvata &serata)
             .arg(QDir::toNativeSeparators(SerataSalvata::diarioOf(serata.registro())))
             .arg(serata.callsBefore());
     const QMessageBox::StandardButton answer = QMessageBox::question(
-        this, windowTitle(), text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+        boxParent(), windowTitle(), text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     letClosedDialogsDisappear();
     switch (answer) {
     case QMessageBox::Yes:
@@ -77,7 +84,7 @@ bool Serata::putAside(SerataSalvata &serata, SerataSalvata::Parte parte)
         return refuse(tr("La serata di prima non si può mettere da parte."), serata.errorString());
     }
     if (serata.callsBefore() == 0) { // nobody was asked
-        QMessageBox::warning(this, windowTitle(),
+        QMessageBox::warning(boxParent(), windowTitle(),
                              tr("Le chiamate di prima sono illeggibili e sono state messe da parte:\n%1")
                                  .arg(QDir::toNativeSeparators(SerataSalvata::diarioOf(newName))));
     }
@@ -104,32 +111,60 @@ bool Serata::beginElsewhere(const Cartella &cartella, Intervallo numeri, const Q
 {
     refuse(tr("La serata non si può salvare in %1.").arg(globalConfig->defaultSaveDir), reason);
     const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Dove salvare la serata"), globalConfig->defaultSaveDir);
+        QFileDialog::getExistingDirectory(boxParent(), tr("Dove salvare la serata"), globalConfig->defaultSaveDir);
     if (folder.isEmpty()) {
         return false;
     }
-    globalConfig->defaultSaveDir = folder;
     letClosedDialogsDisappear();
-    return openSet(cartella, numeri);
+    return globalConfig->rememberFolder(registerOfTheEvening(folder)) && openSet(cartella, numeri);
+}
+
+// The register of an evening that goes on may have been deleted or changed.
+bool Serata::requireRegister(const QString &fileName, const Cartella &cartella)
+{
+    const WaitCursor wait(this);
+    QString reason;
+    QFile file(fileName);
+    const bool kept = !isDevice(fileName) && file.open(QIODevice::ReadOnly) && Registro::holds(file, cartella);
+    return kept || Registro::save(fileName, cartella, reason) || refuse(tr("La serata non può continuare."), reason);
 }
 
 bool Serata::openRegister(const QString &fileName)
 {
     const WaitCursor wait(this);
+    if (isDevice(fileName)) {
+        return refuse(tr("Il registro non si può leggere."), tr("Non è un file."));
+    }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         return refuse(tr("Il registro non si può leggere."), file.errorString());
     }
-    Registro::Lettura reading = Registro::read(file);
-    if (reading.schede.empty() && !reading.saltate.empty()) {
-        reading.saltate.resize(std::min(reading.saltate.size(), mostLinesInABox));
-        return refuse(tr("Il registro non contiene schede."), Registro::describe(reading.saltate));
+    if (!confirmMemory(boxParent(), windowTitle(), bytesPerByteRead * static_cast<double>(file.size()), QString())) {
+        return false;
     }
-    if (!openEvening(std::make_unique<SerataSalvata>(std::move(reading.schede), fileName))) {
+    Registro::Lettura reading = Registro::read(file);
+    if (!requireCards(reading, file) ||
+        !openEvening(std::make_unique<SerataSalvata>(std::move(reading.schede), fileName))) {
         return false;
     }
     if (!reading.saltate.empty()) {
         tellOfSkippedLines(Registro::describe(reading.saltate));
+    }
+    return true;
+}
+
+// What can be used of a register is used.
+bool Serata::requireCards(const Registro::Lettura &reading, const QFile &file)
+{
+    if (file.error() != QFile::NoError) {
+        refuse(reading.schede.empty()
+                   ? tr("Il registro non si può leggere.")
+                   : tr("Il registro non si può leggere fino in fondo. Schede lette: %1.").arg(reading.schede.size()),
+               file.errorString());
+        return !reading.schede.empty();
+    }
+    if (reading.schede.empty() && !reading.saltate.empty()) {
+        return refuse(tr("Il registro non contiene schede."), Registro::describe(reading.saltate, mostLinesInABox));
     }
     return true;
 }
@@ -150,7 +185,7 @@ bool Serata::openEvening(std::unique_ptr<SerataSalvata> serata)
     case EveningBefore::None:
         break;
     }
-    if (!serata->begin(serata->partita().numeri())) {
+    if (!serata->begin(withUsualNumbers(serata->partita().numeri()))) {
         return refuse(tr("La serata non si può salvare accanto al registro."), serata->errorString());
     }
     adopt(std::move(serata));
@@ -202,14 +237,21 @@ void Serata::chooseRegister()
 
 void Serata::tellOfSkippedLines(const QString &description)
 {
+    show(); // the report stands before the window
     MsgArea *window = MsgArea::makeFor(this, false);
     window->setText(description, true);
     window->show();
 }
 
+// A box of a window that is not shown yet could lie behind all others.
+QWidget *Serata::boxParent()
+{
+    return isVisible() ? this : parentWidget();
+}
+
 bool Serata::refuse(const QString &text, const QString &reason)
 {
-    QMessageBox box(QMessageBox::Critical, windowTitle(), text, QMessageBox::Ok, this);
+    QMessageBox box(QMessageBox::Critical, windowTitle(), text, QMessageBox::Ok, boxParent());
     box.setInformativeText(reason);
     box.exec();
     return false;

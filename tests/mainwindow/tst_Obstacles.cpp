@@ -6,6 +6,8 @@
 #include "output/CreateOutputFile.h"
 #include "output/SampleSets.h"
 #include "personale/EditorUnderTest.h"
+#include "serata/Registro.h"
+#include "serata/Serata.h"
 #include "settings/MadeTranslations.h"
 #include "support/LogCapture.h"
 #include "support/Obstacle.h"
@@ -70,10 +72,14 @@ class tst_Obstacles final : public QObject
 private slots:
     void aSetIsPrinted_data();
     void aSetIsPrinted();
+    void aRegisterIsSaved_data();
+    void aRegisterIsSaved();
     void aMappingIsSaved_data();
     void aMappingIsSaved();
     void aTextIsSaved_data();
     void aTextIsSaved();
+    void aRegisterIsOpened_data();
+    void aRegisterIsOpened();
     void aMappingIsOpened_data();
     void aMappingIsOpened();
     void aTextIsShown_data();
@@ -144,6 +150,26 @@ void tst_Obstacles::aSetIsPrinted()
     QVERIFY(obstacle.isContentKept());
 }
 
+void tst_Obstacles::aRegisterIsSaved_data()
+{
+    aSetIsPrinted_data();
+}
+
+void tst_Obstacles::aRegisterIsSaved()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("cards.csv"), older);
+    const auto set = SampleSets::classic(2);
+    QString reason;
+    obstacle.strike();
+    const bool saved = Registro::save(obstacle.path(), *set, reason);
+    obstacle.lift();
+    QCOMPARE(saved, obstacle.onWriting() == Obstacle::Effect::None);
+    QCOMPARE(reason.isEmpty(), saved);
+    QVERIFY(saved ? folder.read(obstacle.path()).startsWith("1;1;|;") : obstacle.isContentKept());
+}
+
 void tst_Obstacles::aMappingIsSaved()
 {
     EditorUnderTest t(1, 1, 1);
@@ -193,6 +219,38 @@ void tst_Obstacles::aTextIsSaved()
     obstacle.strike();
     area.findChild<QAction *>(QStringLiteral("actionSalva"))->trigger();
     QVERIFY(written ? folder.read(obstacle.path()) == "changed" : obstacle.isContentKept());
+}
+
+void tst_Obstacles::aRegisterIsOpened_data()
+{
+    aSetIsPrinted_data();
+}
+
+// The calls are written beside the register.
+void tst_Obstacles::aRegisterIsOpened()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    const CurrentConfig config(qApp);
+    const QByteArray content = "1;1;|;7;9\n";
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("cards.csv"), content);
+    const QString kind = QString::fromLatin1(QTest::currentDataTag());
+    const bool opens = kind == QStringLiteral("nothing") || kind == QStringLiteral("read-only file");
+    BoxScript boxes;
+    if (!opens) {
+        boxes.expectBox(QStringLiteral("Quintra - Serata"),
+                        obstacle.onReading() == Obstacle::Effect::None
+                            ? QStringLiteral("La serata non si può salvare accanto al registro.")
+                            : QStringLiteral("Il registro non si può leggere."),
+                        QMessageBox::Ok, [](QMessageBox *box) { QVERIFY(!box->informativeText().isEmpty()); });
+    }
+    Serata window;
+    obstacle.strike();
+    const bool opened = window.openRegister(obstacle.path());
+    obstacle.lift();
+    QCOMPARE(boxes.problems(), QStringList());
+    QCOMPARE(opened, opens);
+    QVERIFY(obstacle.isContentKept());
 }
 
 void tst_Obstacles::aMappingIsOpened()

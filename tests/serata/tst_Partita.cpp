@@ -53,6 +53,9 @@ class tst_Partita final : public QObject
 
 private slots:
     void theRangeIsThatOfTheCards();
+    void theUsualNumbersAreThoseOfTombola_data();
+    void theUsualNumbersAreThoseOfTombola();
+    void theMemoryOfAGameGrowsWithItsCells();
     void cardsAreFoundByTheirPosition();
     void aCallHasItsTurn();
     void aNumberTakenBackMovesTheTurnsOfTheLaterOnes();
@@ -78,6 +81,39 @@ void tst_Partita::theRangeIsThatOfTheCards()
     QVERIFY(united({5, 9}, {1, 7}) == (Intervallo{1, 9}));
     QVERIFY(united({1, 7}, {5, 9}) == (Intervallo{1, 9}));
     QVERIFY(Partita(fewCards()).numeri() == (Intervallo{5, 9}));
+}
+
+void tst_Partita::theUsualNumbersAreThoseOfTombola_data()
+{
+    QTest::addColumn<quint32>("lowest");
+    QTest::addColumn<quint32>("highest");
+    QTest::addColumn<QString>("usual");
+    QTest::newRow("a small set") << 3U << 88U << QStringLiteral("1-90");
+    QTest::newRow("all of them") << 1U << 90U << QStringLiteral("1-90");
+    QTest::newRow("from 0") << 0U << 89U << QStringLiteral("0-90");
+    QTest::newRow("one more") << 3U << 91U << QStringLiteral("3-91");
+    QTest::newRow("high ones") << 100U << 999U << QStringLiteral("100-999");
+}
+
+void tst_Partita::theUsualNumbersAreThoseOfTombola()
+{
+    QFETCH(quint32, lowest);
+    QFETCH(quint32, highest);
+    QFETCH(QString, usual);
+    const Intervallo numeri = withUsualNumbers({lowest, highest});
+    QCOMPARE(QStringLiteral("%1-%2").arg(numeri.da).arg(numeri.a), usual);
+}
+
+void tst_Partita::theMemoryOfAGameGrowsWithItsCells()
+{
+    const double empty = bytesToPlay(Cartella());
+    QCOMPARE(empty, 0.0);
+    const double page = bytesToPlay(Cartella(1, 6, 3, 9));
+    QVERIFY(page >= 6 * 3 * 9 * double(sizeof(Casella)));
+    QVERIFY(page <= 6 * 3 * 9 * double(sizeof(Casella)) * 4);
+    QCOMPARE(bytesToPlay(Cartella(50, 6, 3, 9)), 50 * page);
+    QVERIFY(bytesToPlay(Cartella(1, 6, 3, 10)) > page);
+    QVERIFY(bytesToPlay(Cartella(1, 6, 3, 0)) < page);
 }
 
 void tst_Partita::cardsAreFoundByTheirPosition()

@@ -35,6 +35,7 @@
 #include <cstdio>
 #include <functional>
 #include <numeric>
+#include <sys/stat.h>
 
 namespace {
 using Numbers = std::vector<quint32>;
@@ -232,6 +233,10 @@ private slots:
     void aJournalThatCannotBeReadIsLeftAlone();
     void aJournalWithoutAGameIsPutAside_data();
     void aJournalWithoutAGameIsPutAside();
+    void theRegisterOfTheEveningIsThereAgain_data();
+    void theRegisterOfTheEveningIsThereAgain();
+    void withoutItsRegisterNoEveningGoesOn();
+    void aSetThatDoesNotFitTheMemoryIsAskedAbout();
     void theRangeIsThatOfTheParametersAndOfTheCards();
     void anEveningOfOtherCardsGoesOnIfWanted();
     void anEveningOfOtherCardsIsPutAsideIfNotWanted();
@@ -243,6 +248,7 @@ private slots:
     void aFolderThatTakesNothingIsReplacedByAnother();
     void withoutAFolderNoWindowOpens();
     void withoutARegisterNoWindowOpens();
+    void boxesStandBeforeWindowsThatAreShown();
     void anEveningIsOpenInOneWindowOfTheComputer();
     void theWindowThatIsOpenIsShownAgain();
 
@@ -252,6 +258,10 @@ private slots:
     void aRegisterWithOddLinesIsUsedAsFarAsItGoes();
     void aRegisterWithoutCardsIsRefused();
     void aRegisterThatCannotBeReadIsRefused();
+    void aRegisterThatIsNoFileIsRefused_data();
+    void aRegisterThatIsNoFileIsRefused();
+    void aRegisterIsUsedAsFarAsItCanBeRead();
+    void theReportOfARegisterStandsBeforeItsWindow();
     void theRegisterThatIsOpenStaysOpen();
     void aChangedRegisterAsksAboutItsCalls();
 
@@ -853,6 +863,67 @@ void tst_Serata::aJournalWithoutAGameIsPutAside()
     QCOMPARE(e.folder.read(aside.first()), calls);
 }
 
+void tst_Serata::theRegisterOfTheEveningIsThereAgain_data()
+{
+    QTest::addColumn<QByteArray>("content"); // null: it was deleted
+    QTest::newRow("deleted") << QByteArray();
+    QTest::newRow("emptied") << QByteArray("");
+    QTest::newRow("changed") << QByteArray("1;1;|;77\n");
+}
+
+void tst_Serata::theRegisterOfTheEveningIsThereAgain()
+{
+    QFETCH(QByteArray, content);
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(7);
+    const QByteArray cards = e.folder.read(evening);
+    if (content.isNull()) {
+        QVERIFY(QFile::remove(evening));
+    } else {
+        e.folder.write(evening, content);
+    }
+    QVERIFY(e.openAgain(*fourCards()));
+    QVERIFY(e.isMarked(7));
+    QCOMPARE(e.folder.read(evening), cards);
+}
+
+void tst_Serata::withoutItsRegisterNoEveningGoesOn()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(7);
+    e.window = std::make_unique<Serata>();
+    QVERIFY(QFile::remove(evening));
+    e.boxes.expectBox(title, QStringLiteral("La serata non può continuare."), QMessageBox::Ok,
+                      [](QMessageBox *box) { QVERIFY(!box->informativeText().isEmpty()); });
+    {
+        const FileFaults faults(e.folder.path(QString()), FileFaults::Calls::Changes, 1,
+                                FileFaults::Effect::LastingError);
+        QVERIFY(!e.window->openSet(*fourCards(), {1, 90}));
+    }
+    QCOMPARE(e.saved(), (Numbers{7}));
+}
+
+void tst_Serata::aSetThatDoesNotFitTheMemoryIsAskedAbout()
+{
+    Evening e;
+    Cartella set(1, 255, 255, 1);
+    for (Blocco &blocco : *set.pagine[0]) {
+        for (Riga &riga : blocco) {
+            riga.nCelle = 255; // which nobody looks at
+        }
+    }
+    set.pagine.fill(set.pagine[0], 3000);
+    e.window = std::make_unique<Serata>();
+    e.boxes.expectBox(title, QMessageBox::No, [](QMessageBox *box) {
+        QVERIFY(box->text().startsWith(QStringLiteral("La memoria libera potrebbe non bastare")));
+    });
+    QVERIFY(!e.window->openSet(set, {1, 90}));
+    QCOMPARE(e.files(), QStringList());
+    set.pagine.resize(1);
+}
+
 void tst_Serata::theRangeIsThatOfTheParametersAndOfTheCards()
 {
     Evening e;
@@ -1029,6 +1100,30 @@ void tst_Serata::withoutARegisterNoWindowOpens()
     QVERIFY(QFileInfo(e.folder.path(evening)).isDir());
 }
 
+void tst_Serata::boxesStandBeforeWindowsThatAreShown()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    e.call(7);
+    e.window.reset();
+    QWidget parent;
+    const auto standsBefore = [](const QWidget *window) {
+        return [window](QMessageBox *box) { QCOMPARE(box->parentWidget(), window); };
+    };
+    e.boxes.expectBox(title, QMessageBox::Escape, standsBefore(&parent)); // about the other cards
+    Serata::open(&parent, Cartella(1, 1, 3, 9), 1, 90);
+    e.config.defaultSaveDir = e.folder.path(QStringLiteral("missing"));
+    e.boxes.expectBox(title, QMessageBox::Ok, standsBefore(&parent)); // nothing can be saved
+    e.boxes.expectFileDialog(QStringLiteral("Dove salvare la serata"), QString(),
+                             [&parent](QWidget *dialog) { QCOMPARE(dialog->parentWidget(), &parent); });
+    Serata::open(&parent, *fourCards(), 1, 90);
+    e.config.defaultSaveDir = e.folder.path(QString());
+    Serata::open(&parent, *fourCards(), 1, 90);
+    auto *window = parent.findChild<Serata *>();
+    e.boxes.expectBox(title, QMessageBox::Ok, standsBefore(window)); // it is shown now
+    QVERIFY(!window->openRegister(QStringLiteral("missing.csv")));
+}
+
 void tst_Serata::anEveningIsOpenInOneWindowOfTheComputer()
 {
     Evening e;
@@ -1123,7 +1218,7 @@ void tst_Serata::aRegisterWithOddLinesIsUsedAsFarAsItGoes()
     QVERIFY(e.openSet());
     e.folder.write(QStringLiteral("natale.csv"), "1;1;|;7\n1;2;|;x\n1;3;|;9\n1;4;|;1");
     QVERIFY(e.window->openRegister(e.folder.path(QStringLiteral("natale.csv"))));
-    QCOMPARE(e.status(), QStringLiteral("Schede: 2. Numeri da 7 a 9. Chiamati: 0."));
+    QCOMPARE(e.status(), QStringLiteral("Schede: 2. Numeri da 1 a 90. Chiamati: 0."));
     auto *report = e.window->findChild<MsgArea *>();
     QVERIFY(report != nullptr && report->isVisible());
     QCOMPARE(report->findChild<QTextEdit *>(QStringLiteral("textEdit"))->toPlainText(),
@@ -1169,6 +1264,62 @@ void tst_Serata::aRegisterThatCannotBeReadIsRefused()
     QVERIFY(!e.window->openRegister(folder + QStringLiteral("/natale.csv")));
     QVERIFY(e.isMarked(7));
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void tst_Serata::aRegisterThatIsNoFileIsRefused_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("a pipe") << QStringLiteral("pipe");
+    QTest::newRow("a device without end") << QStringLiteral("/dev/zero");
+}
+
+void tst_Serata::aRegisterThatIsNoFileIsRefused()
+{
+    QFETCH(QString, path);
+    Evening e;
+    QCOMPARE(mkfifo("pipe", S_IRUSR | S_IWUSR), 0);
+    QVERIFY(e.openSet());
+    e.boxes.expectBox(title, QStringLiteral("Il registro non si può leggere."), QMessageBox::Ok,
+                      [](QMessageBox *box) { QCOMPARE(box->informativeText(), QStringLiteral("Non è un file.")); });
+    QVERIFY(!e.window->openRegister(path));
+    e.call(7);
+    QCOMPARE(e.saved(), (Numbers{7}));
+}
+
+void tst_Serata::aRegisterIsUsedAsFarAsItCanBeRead()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    const Cartella many(200, 6, 3, 9); // more than one read
+    const QString path = e.folder.path(QStringLiteral("natale.csv"));
+    QString reason;
+    QVERIFY(Registro::save(path, many, reason));
+    const auto open = [&e, &path](int call) {
+        const FileFaults faults(path, FileFaults::Calls::Reads, call, FileFaults::Effect::Error);
+        return e.window->openRegister(path);
+    };
+    const auto ioError = [](QMessageBox *box) {
+        QCOMPARE(box->informativeText(), QStringLiteral("Input/output error"));
+    };
+    e.boxes.expectBox(title, QStringLiteral("Il registro non si può leggere."), QMessageBox::Ok, ioError);
+    QVERIFY(!open(1));
+    e.boxes.expectBox(title, QMessageBox::Ok, [&ioError](QMessageBox *box) {
+        QVERIFY(box->text().startsWith(QStringLiteral("Il registro non si può leggere fino in fondo. Schede lette: ")));
+        ioError(box);
+    });
+    QVERIFY(open(2));
+    QVERIFY(e.status().startsWith(QStringLiteral("Schede: ")));
+    QVERIFY(!e.status().startsWith(QStringLiteral("Schede: 1200.")));
+}
+
+void tst_Serata::theReportOfARegisterStandsBeforeItsWindow()
+{
+    Evening e;
+    e.folder.write(QStringLiteral("natale.csv"), "1;1;|;7\nx\n");
+    e.window = std::make_unique<Serata>();
+    QVERIFY(e.window->openRegister(e.folder.path(QStringLiteral("natale.csv"))));
+    QVERIFY(e.window->isVisible());
+    QVERIFY(e.window->findChild<MsgArea *>()->isVisible());
 }
 
 void tst_Serata::theRegisterThatIsOpenStaysOpen()

@@ -2,6 +2,7 @@
 // What the evening needs of a real screen: its keys are free there, and it fills all of it.
 #include "serata/Serata.h"
 #include "settings/Config.h"
+#include "support/BoxScript.h"
 #include "support/ScratchFolder.h"
 
 #include <QAction>
@@ -11,6 +12,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -45,6 +47,7 @@ private slots:
     void everyKeyReachesItsCommandFromAField_data();
     void everyKeyReachesItsCommandFromAField();
     void theWholeScreenIsFilled();
+    void aBoxIsSeenBeforeTheWindowIs();
 };
 
 void tst_SerataDesktop::everyKeyReachesItsCommandFromAField_data()
@@ -87,6 +90,27 @@ void tst_SerataDesktop::theWholeScreenIsFilled()
     QTRY_COMPARE(evening.window.frameGeometry(), evening.window.screen()->geometry());
     QTest::keyClick(&evening.window, Qt::Key_F11);
     QTRY_COMPARE(evening.window.geometry().size(), before.size());
+}
+
+// Behind the main window it could not be answered, and the program would seem to have stopped.
+void tst_SerataDesktop::aBoxIsSeenBeforeTheWindowIs()
+{
+    Evening evening;
+    evening.config.defaultSaveDir = evening.folder.path(QStringLiteral("missing"));
+    QWidget before;
+    before.resize(900, 600);
+    before.show();
+    QVERIFY(QTest::qWaitForWindowActive(&before));
+    BoxScript boxes;
+    boxes.expectBox(QStringLiteral("Quintra - Serata"), QMessageBox::Ok, [&before](QMessageBox *box) {
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        QCOMPARE(box->windowHandle()->transientParent(), before.windowHandle());
+        before.raise();
+        QTRY_COMPARE(QApplication::topLevelAt(box->frameGeometry().center()), box);
+    });
+    boxes.expectFileDialog(QStringLiteral("Dove salvare la serata"), QString());
+    Serata::open(&before, Cartella(), 1, 90);
+    QCOMPARE(boxes.problems(), QStringList());
 }
 
 QTEST_MAIN(tst_SerataDesktop)
