@@ -7,6 +7,7 @@
 #include "output/PageImage.h"
 #include "settings/Product.h"
 #include "ui_PagePreview.h"
+#include "widgets/WindowPlace.h"
 
 #include <QAccessibleWidget>
 #include <QPainter>
@@ -75,6 +76,7 @@ PagePreview::PagePreview(QWidget *parent)
     ui->foglio_scrollArea->setWidget(m_sheet);
     const auto turnBack = [this]() { wantPage(m_page - 1); };
     const auto turnOver = [this]() { wantPage(m_page + 1); };
+    placeOver(this, parent);
     connect(ui->precedente_button, &QPushButton::clicked, this, turnBack);
     connect(ui->successiva_button, &QPushButton::clicked, this, turnOver);
     // Also from the zoom and from the sheet, which have a use of their own for these keys.

@@ -8,12 +8,14 @@
 #include "settings/DiskFile.h"
 #include "settings/WholeFile.h"
 #include "ui_MsgArea.h"
+#include "widgets/WindowPlace.h"
 
 #include <QCloseEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QShortcut>
+#include <QTextDocument>
 
 namespace {
 // Content of a Latin-1 file, empty when it cannot be read.
@@ -80,6 +82,31 @@ void MsgArea::setLines(const QStringList &lines)
 {
     // At once: appending one by one lays the whole text out again for every line.
     ui->textEdit->setPlainText(lines.join(QLatin1Char('\n')));
+}
+
+// Not in the event of showing: the window system has got its place by then.
+void MsgArea::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        fitReport();
+        placeOver(this, parentWidget());
+    }
+    QMainWindow::setVisible(visible);
+}
+
+// A short report needs no large window.
+void MsgArea::fitReport()
+{
+    constexpr int fewLines = 100; // more would take their time to be laid out
+    const QTextDocument &report = *ui->textEdit->document();
+    if (m_fileMode || report.blockCount() > fewLines) {
+        return;
+    }
+    const std::unique_ptr<QTextDocument> unbroken(report.clone());
+    unbroken->setTextWidth(-1);
+    const QSize smallest(360, 200);
+    const QMargins margins = ui->verticalLayout->contentsMargins() + ui->textEdit->frameWidth();
+    resize(unbroken->size().toSize().grownBy(margins).expandedTo(smallest).boundedTo(size()));
 }
 
 void MsgArea::closeEvent(QCloseEvent *event)

@@ -30,6 +30,8 @@ public:
     // Shows the lines, each a paragraph of its own.
     void setLines(const QStringList &lines);
 
+    void setVisible(bool visible) override;
+
 protected:
     void closeEvent(QCloseEvent *event) override;
 
@@ -39,6 +41,7 @@ private slots:
 
 private:
     QString loss() const;
+    void fitReport();
 
     std::unique_ptr<Ui::MsgArea> ui;
     bool m_fileMode;

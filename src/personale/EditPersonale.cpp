@@ -10,6 +10,7 @@
 #include "settings/Product.h"
 #include "ui_EditPersonale.h"
 #include "widgets/DisplayAccessibile.h"
+#include "widgets/WindowPlace.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -70,6 +71,7 @@ EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 co
     checkSettings();
     setWindowModality(Qt::ApplicationModal); // without effect once the window is shown
     m_open = true;
+    placeOver(this, parent);
     show();
     fitToolsWidth();
 }

@@ -8,6 +8,7 @@
 #include "serata/ElencoSchede.h"
 #include "serata/NuovaPartita.h"
 #include "ui_Serata.h"
+#include "widgets/WindowPlace.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>
@@ -19,7 +20,7 @@
 namespace {
 constexpr int callsBeforeTheLast = 5;  // shown beside it
 constexpr int lastNumberPart = 5;      // of the window's height is the last number
-constexpr int numbersBeforePart = 14;  // are those before it
+constexpr int numbersBeforePart = 16;  // are those before it
 constexpr int smallestCardColumn = 24; // pixels
 
 void setFontSize(QWidget *widget, int pixels)
@@ -108,6 +109,7 @@ void Serata::open(QWidget *parent, const Cartella &cartella, quint32 da, quint32
         }
         window = opened.release();
         window->setAttribute(Qt::WA_DeleteOnClose);
+        placeOver(window, parent);
     }
     window->show();
     window->raise();

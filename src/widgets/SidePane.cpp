@@ -78,6 +78,22 @@ bool SidePane::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::LayoutRequest && watched == widget()) {
         updateGeometry();
+        showScrollBarIfNeeded();
     }
     return QScrollArea::eventFilter(watched, event);
+}
+
+void SidePane::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    showScrollBarIfNeeded();
+}
+
+// The toolkit keeps a scroll bar once shown: beside it the texts are broken, and higher than without it.
+void SidePane::showScrollBarIfNeeded()
+{
+    const QSize room = maximumViewportSize();
+    const int broken = widget()->heightForWidth(room.width());
+    const int needed = broken >= 0 ? broken : widget()->minimumSizeHint().height();
+    setVerticalScrollBarPolicy(needed <= room.height() ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
 }

@@ -18,8 +18,10 @@ public:
 protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void showFocused(QWidget *focused);
     void leaveWheelToPane();
+    void showScrollBarIfNeeded();
 };

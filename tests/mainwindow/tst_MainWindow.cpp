@@ -55,6 +55,7 @@ class tst_MainWindow final : public QObject
     Q_OBJECT
 
 private slots:
+    void whatLeavingLosesIsOneLine();
     void theWindowOpensMaximisedWithNameAndRelease();
     void theSlotsKeepTheirOrder();
     void theWelcomeIsRedFromTheFirstMoment();
@@ -480,6 +481,18 @@ void tst_MainWindow::theWindowMayGoWhileACellIsEdited()
     const QPointer<MainWindow> window = page.window.get();
     page.window.reset();
     QVERIFY(window.isNull());
+}
+
+void tst_MainWindow::whatLeavingLosesIsOneLine()
+{
+    PageWindow page;
+    page.window->generate(false);
+    page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, QMessageBox::No, [](QMessageBox *box) {
+        const auto *loss = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+        QVERIFY(loss->height() < 2 * loss->fontMetrics().height());
+        QVERIFY(loss->width() >= loss->fontMetrics().horizontalAdvance(box->informativeText()));
+    });
+    page.window->close();
 }
 
 QTEST_MAIN(tst_MainWindow)

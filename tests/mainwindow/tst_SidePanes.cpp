@@ -8,6 +8,8 @@
 #include <QDockWidget>
 #include <QGridLayout>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 const QSize lowWindow(1024, 400);
@@ -31,6 +33,7 @@ private slots:
     void aPaneIsClosedAndComesBackByTheMenu();
     void aPaneIsDrawnNarrower();
     void theTableStaysInTheCentralWidget();
+    void aPaneScrollsOnlyWhereTheWindowIsTooLow();
 
     void theVerdictIsReadBesideItsIcon();
     void emptyPagesAreToldBesideTheIcon();
@@ -98,6 +101,26 @@ void tst_SidePanes::theTableStaysInTheCentralWidget()
     page.window->generate(false);
     QCOMPARE(page.table()->parentWidget(), page.window->centralWidget());
     QVERIFY(layout->indexOf(page.table()) >= 0);
+}
+
+// Also after it has scrolled: beside a scroll bar its texts are broken, and the pane is higher than without one.
+void tst_SidePanes::aPaneScrollsOnlyWhereTheWindowIsTooLow()
+{
+    const PageWindow page;
+    page.window->showNormal();
+    const auto *bar = page.find<QScrollArea>("parametriScrollArea")->verticalScrollBar();
+    const auto scrollsAt = [&](int height) {
+        page.window->resize(lowWindow.width(), height);
+        QCoreApplication::processEvents(); // the layouts settle
+        return bar->isVisible();
+    };
+    int height = 1000;
+    QVERIFY(!scrollsAt(height));
+    while (!scrollsAt(height - 1)) {
+        --height;
+    }
+    QVERIFY(scrollsAt(lowWindow.height()));
+    QVERIFY(!scrollsAt(height));
 }
 
 void tst_SidePanes::theVerdictIsReadBesideItsIcon()

@@ -11,8 +11,10 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <QtTest>
 
 namespace {
@@ -78,6 +80,7 @@ private slots:
     void everyLineIsAParagraph();
     void linesReplaceTheText();
     void aHundredThousandLinesAreShown();
+    void aReportIsAsLargeAsItsText();
 
     void aMessageNeverAsksOnClose();
     void theFirstCloseAfterLoadingAsks();
@@ -294,6 +297,30 @@ void tst_MsgArea::aHundredThousandLinesAreShown()
     area.window->setLines(lines);
     QCoreApplication::processEvents();
     QCOMPARE(area.edit()->document()->blockCount(), 100000);
+}
+
+void tst_MsgArea::aReportIsAsLargeAsItsText()
+{
+    const MsgArea full(nullptr, false); // the size of the form
+    MsgArea brief(nullptr, false);
+    brief.setText(QStringLiteral("File creato con successo!"), true);
+    brief.show();
+    QVERIFY(brief.width() < full.width());
+    QVERIFY(brief.height() < full.height());
+
+    MsgArea report(nullptr, false);
+    report.setText(QStringLiteral("Una riga piuttosto lunga, come quella di un percorso\n").repeated(14), true);
+    report.show();
+    QVERIFY(report.height() > brief.height());
+    QVERIFY(report.height() < full.height());
+    QCoreApplication::processEvents(); // the layout settles
+    QVERIFY(!report.findChild<QTextEdit *>()->verticalScrollBar()->isVisible());
+    QCOMPARE(report.findChild<QTextEdit *>()->document()->firstBlock().layout()->lineCount(), 1);
+
+    MsgArea list(nullptr, false);
+    list.setLines(QStringList(QVector<QString>(1000, QStringLiteral("Pag 2 blocco 1 = Pag 1 blocco 1")).toList()));
+    list.show();
+    QCOMPARE(list.size(), full.size());
 }
 
 void tst_MsgArea::aMessageNeverAsksOnClose()

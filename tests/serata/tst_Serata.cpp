@@ -196,6 +196,7 @@ class tst_Serata final : public QObject
     Q_OBJECT
 
 private slots:
+    void theWindowHasTheIconOfTheProgram();
     void theBoardHasAllNumbersOfTheRange_data();
     void theBoardHasAllNumbersOfTheRange();
     void aClickCallsANumberAndASecondTakesItBack();
@@ -273,6 +274,13 @@ private slots:
     void theEveningIsPlayedByKeysAlone();
     void killedAtAnyMomentTheEveningGoesOn();
 };
+
+void tst_Serata::theWindowHasTheIconOfTheProgram()
+{
+    Evening e;
+    QVERIFY(e.openSet());
+    QVERIFY(!e.window->windowIcon().pixmap(32, 32).isNull());
+}
 
 void tst_Serata::theBoardHasAllNumbersOfTheRange_data()
 {
