@@ -119,6 +119,10 @@ private slots:
     void labelsAreThoseOfTheProgram();
     void quotesAreThoseOfTheProgram_data();
     void quotesAreThoseOfTheProgram();
+    void keysStandInTheirTable_data();
+    void keysStandInTheirTable();
+    void linksLeadToFiles_data();
+    void linksLeadToFiles();
     void explainedMessagesAreThoseOfTheProgram_data();
     void explainedMessagesAreThoseOfTheProgram();
     void everyMessageIsExplained_data();
@@ -202,6 +206,37 @@ void tst_ManualTexts::quotesAreThoseOfTheProgram()
         const bool found = std::any_of(entries.begin(), entries.end(),
                                        [&quote](const auto &entry) { return reads(entry.translation, quote); });
         QVERIFY2(found, qPrintable(quote));
+    }
+}
+
+void tst_ManualTexts::keysStandInTheirTable_data()
+{
+    addPages({QStringLiteral("it"), QStringLiteral("en")});
+}
+
+void tst_ManualTexts::keysStandInTheirTable()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, name);
+    const QString pattern = QStringLiteral("`((?:Ctrl|Alt|Shift)\\+[^`]+|F[0-9]+)`");
+    const QStringList table = all(pattern, page(language, QStringLiteral("shortcuts.md")));
+    QVERIFY(table.contains(QStringLiteral("F11")));
+    for (const QString &key : all(pattern, page(language, name))) {
+        QVERIFY2(table.contains(key), qPrintable(key));
+    }
+}
+
+void tst_ManualTexts::linksLeadToFiles_data()
+{
+    addPages({QStringLiteral("it"), QStringLiteral("en")});
+}
+
+void tst_ManualTexts::linksLeadToFiles()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, name);
+    for (const QString &link : all(QStringLiteral("\\]\\(([^)#]+)[^)]*\\)"), page(language, name))) {
+        QVERIFY2(QFileInfo(pagesOf(language).filePath(link)).isFile(), qPrintable(link));
     }
 }
 
