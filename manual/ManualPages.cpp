@@ -181,8 +181,7 @@ void Book::addPage(const QString &name)
     addAnchors(name, page);
     turnLinks(name, page);
     embedPictures(name, page);
-    m_anchors << name;
-    m_built.html += "<a name=\"" + name.toUtf8() + "\"></a>\n" + page.html();
+    m_built.html += page.html();
     if (name != contentsPage) {
         m_built.html +=
             "<p><a href=\"#" + contentsPage.toUtf8() + "\">" + m_title.toHtmlEscaped().toUtf8() + "</a></p>\n";
@@ -190,14 +189,17 @@ void Book::addPage(const QString &name)
     m_built.html += "<hr>\n";
 }
 
+// The first heading is that of the page. Each has one anchor: the text browser of the program forgets others before it.
 void Book::addAnchors(const QString &name, const Page &page)
 {
+    bool first = true;
     for (cmark_node *heading : page.headings()) {
-        const QString anchor = name + QLatin1Char('.') + headingAnchor(textOf(heading));
-        m_anchors << anchor;
+        const QString anchor = first ? name : name + QLatin1Char('.') + headingAnchor(textOf(heading));
         cmark_node *node = cmark_node_new(CMARK_NODE_CUSTOM_INLINE);
         cmark_node_set_on_enter(node, QStringLiteral("<a name=\"%1\"></a>").arg(anchor).toUtf8().constData());
         cmark_node_prepend_child(heading, node); // which owns it
+        m_anchors << anchor;
+        first = false;
     }
 }
 

@@ -23,5 +23,5 @@ int main(int argc, char **argv)
     if (!written) {
         std::fprintf(stderr, "%s: %s\n", argv[3], qPrintable(file.errorString()));
     }
-    return written ? 0 : 1;
+    return written && manual.problems.isEmpty() ? 0 : 1;
 }

@@ -77,7 +77,7 @@ void tst_ManualPages::linksLeadWithinTheOnePage()
     QFETCH(QByteArray, link);
     QFETCH(QString, target);
     const ScratchFolder folder;
-    folder.write(contents, "# Here\n[to](" + link + ") [page](other.md)\n");
+    folder.write(contents, "# Contents\n## Here\n[to](" + link + ") [page](other.md)\n");
     folder.write(other, "# Other\n## The place\n");
     QVERIFY(html().contains(QStringLiteral("<a href=\"#%1\">to</a>").arg(target)));
     QCOMPARE(html().count(QStringLiteral("<a name=\"%1\"></a>").arg(target)), 1);
