@@ -1469,7 +1469,7 @@ Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>La memoria libera non è bastata: nulla è cambiato.</source>
-        <translation>Der freie Speicher hat nicht gereicht: Nichts hat sich geändert.</translation>
+        <translation>Der freie Speicher hat nicht gereicht; nichts wurde geändert.</translation>
     </message>
 </context>
 <context>
@@ -2111,7 +2111,7 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und der alte wird beiseitegelegt.
     </message>
     <message>
         <source>Righe illeggibili nel file delle chiamate: %1!</source>
-        <translation>Unlesbare Zeilen in der Datei der Ziehungen: %1!</translation>
+        <translation>Unlesbare Zeilen in der Datei der gezogenen Zahlen: %1!</translation>
     </message>
     <message>
         <source>Tombola: %1</source>
