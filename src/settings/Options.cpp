@@ -7,6 +7,7 @@
 #include "resources/Resources.h"
 #include "settings/Config.h"
 #include "ui_Options.h"
+#include "widgets/WholeTitle.h"
 
 #include <QFile>
 #include <QMessageBox>
@@ -19,6 +20,7 @@ Options::Options(QWidget *parent)
 {
     initQuintraResources();
     ui->setupUi(this);
+    showWholeTitle(ui->groupBox);
     setWindowTitle(tr("Quintra - Opzioni")); // of its boxes too
     show();
     if (parent != nullptr && parent->windowHandle() != nullptr) {

@@ -197,7 +197,8 @@ bool isTitleCut(const QGroupBox *group)
     option.text = group->title();
     option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
     const QRect place = group->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, group);
-    return place.left() + group->fontMetrics().horizontalAdvance(group->title()) > group->width();
+    const int text = group->fontMetrics().horizontalAdvance(group->title());
+    return text > place.width() || place.left() + text > group->width();
 }
 
 bool isCut(const QWidget *widget)
