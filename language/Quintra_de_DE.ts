@@ -1384,7 +1384,7 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     </message>
     <message>
         <source>Svuota le celle selezionate</source>
-        <translation>Leert die ausgewählten Zellen</translation>
+        <translation>Ausgewählte Felder leeren</translation>
     </message>
 </context>
 <context>
@@ -1524,7 +1524,7 @@ Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>Chiude la finestra</source>
-        <translation>Schließt das Fenster</translation>
+        <translation>Fenster schließen</translation>
     </message>
 </context>
 <context>

@@ -1384,7 +1384,7 @@ Other pages not generated (counted from 1): %1</translation>
     </message>
     <message>
         <source>Svuota le celle selezionate</source>
-        <translation>Empties the selected cells</translation>
+        <translation>Empty the selected cells</translation>
     </message>
 </context>
 <context>
@@ -1524,7 +1524,7 @@ Do you want to continue anyway?</translation>
     </message>
     <message>
         <source>Chiude la finestra</source>
-        <translation>Closes the window</translation>
+        <translation>Close the window</translation>
     </message>
 </context>
 <context>

@@ -1384,7 +1384,7 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     </message>
     <message>
         <source>Svuota le celle selezionate</source>
-        <translation>Vacía las celdas seleccionadas</translation>
+        <translation>Vaciar las casillas seleccionadas</translation>
     </message>
 </context>
 <context>
@@ -1524,7 +1524,7 @@ MB libres: %2
     </message>
     <message>
         <source>Chiude la finestra</source>
-        <translation>Cierra la ventana</translation>
+        <translation>Cerrar la ventana</translation>
     </message>
 </context>
 <context>

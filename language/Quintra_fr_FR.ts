@@ -1384,7 +1384,7 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     </message>
     <message>
         <source>Svuota le celle selezionate</source>
-        <translation>Vide les cellules sélectionnées</translation>
+        <translation>Vider les cases sélectionnées</translation>
     </message>
 </context>
 <context>
@@ -1524,7 +1524,7 @@ Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>Chiude la finestra</source>
-        <translation>Ferme la fenêtre</translation>
+        <translation>Fermer la fenêtre</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,14 @@ const QHash<QString, QStringList> notCounted = {
     {QStringLiteral("es"), QStringLiteral("a de guardada no y bytes MB").split(QLatin1Char(' '))},
 };
 
+// What other programs call blocks and cells: players have words of their own for them.
+const QHash<QString, QString> foreignWords = {
+    {QStringLiteral("en"), QStringLiteral("blocks?|tickets?")},
+    {QStringLiteral("de"), QStringLiteral("Bl[oö]cke?n?|Zellen?")},
+    {QStringLiteral("fr"), QStringLiteral("blocs?|cellules?")},
+    {QStringLiteral("es"), QStringLiteral("bloques?|celdas?")},
+};
+
 QString speechOf(const Entry &entry)
 {
     return entry.language.section(QLatin1Char('_'), 0, 0);
@@ -200,6 +208,15 @@ bool lacksSpanishSigns(const Entry &entry)
     return speechOf(entry) == QLatin1String("es") && !opened;
 }
 
+bool usesForeignWords(const Entry &entry)
+{
+    const auto words = foreignWords.constFind(speechOf(entry));
+    return words != foreignWords.constEnd() &&
+           entry.translation.contains(QRegularExpression(QStringLiteral("\\b(%1)\\b").arg(*words),
+                                                         QRegularExpression::CaseInsensitiveOption |
+                                                             QRegularExpression::UseUnicodePropertiesOption));
+}
+
 QStringList problems(const QVector<Entry> &entries)
 {
     struct Check
@@ -215,7 +232,8 @@ QStringList problems(const QVector<Entry> &entries)
                                    {countsAWord, QStringLiteral("a number before what it counts")},
                                    {misplacesPercentSigns, QStringLiteral("spacing of a percent sign")},
                                    {misplacesFrenchSigns, QStringLiteral("spacing of a French sign")},
-                                   {lacksSpanishSigns, QStringLiteral("a Spanish sign not opened")}};
+                                   {lacksSpanishSigns, QStringLiteral("a Spanish sign not opened")},
+                                   {usesForeignWords, QStringLiteral("a word that players do not use")}};
     QStringList found;
     for (const Entry &entry : entries) {
         for (const Check &check : checks) {

@@ -47,6 +47,8 @@ bool misplacesPercentSigns(const Entry &entry);
 bool misplacesFrenchSigns(const Entry &entry);
 // Spanish opens what ends in "!" or "?".
 bool lacksSpanishSigns(const Entry &entry);
+// A block is a card, and a cell has the word that players of the language use.
+bool usesForeignWords(const Entry &entry);
 
 // One line for everything wrong with the entries.
 QStringList problems(const QVector<Entry> &entries);

@@ -250,6 +250,14 @@ void tst_TranslationChecks::theWordingOfAFileIsChecked_data()
     QTest::newRow("Spanish, a question not opened") << fileOf("es_ES", "Uscire?", "Salir?") << spanish;
     QTest::newRow("Spanish, a call not opened") << fileOf("es_ES", "Vuota!", "Vacía!") << spanish;
     QTest::newRow("Spanish, both opened") << fileOf("es_ES", "No! Uscire?", "¡No! ¿Salir?") << QString();
+
+    const QString foreign = QStringLiteral("a word that players do not use: ");
+    QTest::newRow("a German cell") << fileOf("de_DE", "Celle", "Leere Zellen") << foreign;
+    QTest::newRow("a French block") << fileOf("fr_FR", "Blocchi", "Blocs") << foreign;
+    QTest::newRow("a Spanish cell") << fileOf("es_ES", "Celle", "Las celdas") << foreign;
+    QTest::newRow("an English block") << fileOf("en_GB", "Blocchi", "Compare blocks") << foreign;
+    QTest::newRow("an Italian block") << fileOf("it_IT", "Blocco", "Blocco") << QString();
+    QTest::newRow("a German cell of players") << fileOf("de_DE", "Celle", "Leere Felder") << QString();
 }
 
 void tst_TranslationChecks::theWordingOfAFileIsChecked()
