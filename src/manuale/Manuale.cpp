@@ -4,6 +4,7 @@
 #include "manuale/FittedPictures.h"
 #include "resources/Resources.h"
 #include "ui_Manuale.h"
+#include "widgets/WindowPlace.h"
 
 #include <QScrollBar>
 
@@ -27,6 +28,7 @@ Manuale::Manuale(QWidget *parent)
     ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    placeOver(this, parent);
     ui->testo_browser->document()->setDocumentMargin(pageMargin);
     new FittedPictures(ui->testo_browser->document());
     connectCommands();

@@ -489,6 +489,7 @@ void tst_MainWindow::whatLeavingLosesIsOneLine()
     page.window->generate(false);
     page.boxes.expectBox(QStringLiteral("Quintra"), leaveQuestion, QMessageBox::No, [](QMessageBox *box) {
         const auto *loss = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+        QVERIFY(loss != nullptr);
         QVERIFY(loss->height() < 2 * loss->fontMetrics().height());
         QVERIFY(loss->width() >= loss->fontMetrics().horizontalAdvance(box->informativeText()));
     });
