@@ -79,7 +79,8 @@ CellaSchema cellOf(QChar letter)
 bool comesBackWhole(const SchemaPagina &pagina)
 {
     constexpr int lastLatin1 = 255;
-    return pagina.nRighe * pagina.nColonne < lengthModulus && pagina.nRighe + rowCountBase <= lastLatin1;
+    const int cells = pagina.nRighe * pagina.nColonne;
+    return cells > 0 && cells < lengthModulus && pagina.nRighe + rowCountBase <= lastLatin1;
 }
 
 void writePage(QTextStream &stream, const SchemaPagina &pagina)

@@ -49,8 +49,8 @@ QChar letterOf(const CellaSchema &cella);
 CellaSchema cellOf(QChar letter);
 
 void writePage(QTextStream &stream, const SchemaPagina &pagina);
-// Whether the line of such a page is read back as it was: only 8 bits of its length count, and the character of its row
-// count must be one of Latin-1.
+// Whether the line of such a page is read back as it was: only 8 bits of its length count, the character of its row
+// count must be one of Latin-1, and a line without letters gives no page.
 bool comesBackWhole(const SchemaPagina &pagina);
 // Reads to the end of the stream; lineRead is told the number of lines read so far. Never fails: odd lines are skipped.
 Lettura read(QTextStream &stream, const std::function<void(int)> &lineRead);

@@ -25,7 +25,7 @@ constexpr int hexadecimal = 16;
 constexpr size_t longestCell = 11;     // bytes of a number of 32 bits and a separator
 constexpr size_t longestCharacter = 6; // bytes of an escaped one
 constexpr int bytesAtOnce = 1 << 16;   // are written
-constexpr int usualLine = 1 << 20;     // bytes: more than 255 rows of 255 numbers need
+constexpr int usualLine = 1 << 10;     // bytes: more than the cards of most sets need
 constexpr int longestLine = 1 << 24;   // bytes: of texts longer than anyone types
 constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
 

@@ -391,6 +391,7 @@ void tst_MappingFile::onlyPagesOfAtMost255CellsComeBackWhole()
     QVERIFY(!whole(224, 1)); // its row count is no character of Latin-1
     QVERIFY(!whole(16, 16));
     QVERIFY(!whole(30, 9));
+    QVERIFY(!whole(30, 0)); // as such a page is read back
 }
 
 QTEST_GUILESS_MAIN(tst_MappingFile)

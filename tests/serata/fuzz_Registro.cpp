@@ -2,24 +2,14 @@
 #include "serata/Registro.h"
 
 #include "serata/MadeCards.h"
+#include "support/Fuzzing.h"
 
 #include <QBuffer>
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 namespace {
 constexpr size_t mostPerCard = 255;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 Registro::Lettura readBytes(QByteArray bytes)
 {
@@ -51,8 +41,7 @@ void requireSound(const Scheda &scheda)
 // Whatever was read are cards, each once; written anew they are read back as they were.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const Registro::Lettura reading =
-        readBytes(QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)));
+    const Registro::Lettura reading = readBytes(bytesOf(data, size));
     Posizione before;
     for (const Scheda &scheda : reading.schede) {
         requireSound(scheda);

@@ -89,6 +89,7 @@ private slots:
     void oddLinesAreSkipped_data();
     void oddLinesAreSkipped();
     void aTextThatWasCutLosesOnlyItsLastLine();
+    void linesOfAnyLengthAreRead();
     void aLineLongerThanAnyCardIsSkipped_data();
     void aLineLongerThanAnyCardIsSkipped();
     void longTextsAreReadBack_data();
@@ -406,6 +407,24 @@ void tst_Registro::aTextThatWasCutLosesOnlyItsLastLine()
         QCOMPARE(int(reading.saltate[0].motivo), int(Motivo::Tronca));
     }
     QCOMPARE(readBytes(whole).schede.size(), size_t(2));
+}
+
+// However the lines lie to the sizes that a buffer may have.
+void tst_Registro::linesOfAnyLengthAreRead()
+{
+    QByteArray text;
+    int cards = 0;
+    for (const int size : {1 << 10, 1 << 11, 1 << 12, 1 << 16}) {
+        for (int length = size - 16; length < size + 3; ++length) {
+            text += QByteArray::number(++cards) + ";1;|;\"" + QByteArray(length, 'x') + "\"\n";
+            text += QByteArray::number(++cards) + ";1;|;7\n";
+        }
+    }
+    const Registro::Lettura reading = readBytes(text);
+    QVERIFY(reading.saltate.empty());
+    QCOMPARE(int(reading.schede.size()), cards);
+    QCOMPARE(reading.schede[2].righe[0][0].testo, QString((1 << 10) - 15, QLatin1Char('x')));
+    QCOMPARE(reading.schede.back().righe[0][0].numero, 7U);
 }
 
 void tst_Registro::aLineLongerThanAnyCardIsSkipped_data()

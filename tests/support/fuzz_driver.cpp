@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Stands in for libFuzzer where the compiler has none: runs the files of a folder, each as it is and changed in a
-// thousand ways, always the same ones.
+// Stands in for libFuzzer where the compiler has none: runs the files of a folder, each as it is and changed in many
+// ways, always the same ones.
+#include "support/Fuzzing.h"
+
 #include <QDir>
 #include <QFile>
 
-#include <cstdint>
 #include <cstdio>
 #include <random>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
-
 namespace {
-constexpr int changedCopies = 1000; // of each file
-constexpr int mostChanges = 8;      // of one copy
+constexpr int mostChanges = 8; // of one copy
 
 void run(const QByteArray &bytes)
 {
@@ -50,10 +48,12 @@ int main(int argc, char **argv)
 {
     const QDir folder(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString());
     const QStringList names = folder.entryList(QDir::Files, QDir::Name);
-    if (argc < 2 || names.isEmpty()) {
-        std::fputs("usage: fuzz_<reader> <folder with files>\n", stderr);
+    const int runs = argc > 2 ? QByteArray(argv[2]).toInt() : 0;
+    if (runs == 0 || names.isEmpty()) {
+        std::fputs("usage: fuzz_<reader> <folder with files> <runs>\n", stderr);
         return 2;
     }
+    const int changedCopies = runs / names.size();
     std::mt19937 random(1);
     for (const QString &name : names) {
         QFile file(folder.filePath(name));
