@@ -119,6 +119,7 @@ void MainWindow::takeTypedText(const TablePosition &place, const QString &text)
     const CELL_VALUE before = cellAt(*page, place.row, place.column)->tipo;
     const WatchedPages::Hold asked(m_watchedPages, page);
     QTableWidget *const table = m_table;
+    const bool askedAlready = m_tableAsking == table; // this is in the middle of another question
     const bool keyboardInTable = table->isAncestorOf(QApplication::focusWidget());
     Cella typed;
     {
@@ -126,7 +127,7 @@ void MainWindow::takeTypedText(const TablePosition &place, const QString &text)
         const QScopedValueRollback<QTableWidget *> asking(m_tableAsking, table);
         typed = askWhatIsTyped(text);
     }
-    if (m_table != table) {
+    if (m_table != table && !askedAlready) {
         table->deleteLater();
     }
     Cella *cell = asked.page() != nullptr ? cellAt(*asked.page(), place.row, place.column) : nullptr;

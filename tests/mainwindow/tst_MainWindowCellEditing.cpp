@@ -109,6 +109,8 @@ private slots:
     void aFillerIsNoCell();
     void theGuardIsDownAfterEveryEdit();
     void aPageLoadedDuringAQuestionIsSafe();
+    void aPageLoadedDuringAQuestionWithinAnotherIsSafe();
+    void anEditorThatIsLeftTwiceStaysWhileItIsAskedAbout();
     void aPageLoadedDuringAQuestionShowsTheEdit();
     void aPageDeletedDuringAQuestionIsNotWritten_data();
     void aPageDeletedDuringAQuestionIsNotWritten();
@@ -342,6 +344,42 @@ void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionIsSafe()
     QCOMPARE(w.window->findChildren<QTableWidget *>().size(), 1);
     w.type(0, 0, QStringLiteral("5"));
     QCOMPARE(w.cell(0, 0, 0).numero, 5U);
+}
+
+void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionWithinAnotherIsSafe()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    const QPointer<QTableWidget> asked = w.table();
+    w.boxes.expectBox(title, asText, QMessageBox::No,
+                      [&w](QMessageBox *) { w.item(0, 1)->setText(QStringLiteral("due")); });
+    w.boxes.expectBox(title, asText, QMessageBox::Yes, [&w](QMessageBox *) { w.window->loadPagina(0); });
+    w.boxes.expectBox(title, asEmpty, QMessageBox::Yes, [&asked](QMessageBox *) {
+        QVERIFY(!asked.isNull()); // one of its signals is still being handled
+    });
+    w.type(0, 0, QStringLiteral("via"));
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.cell(0, 0, 1).testo, QStringLiteral("due"));
+    QTRY_VERIFY(asked.isNull());
+}
+
+// The return key takes effect by an event, which comes after the loss of the focus here.
+void tst_MainWindowCellEditing::anEditorThatIsLeftTwiceStaysWhileItIsAskedAbout()
+{
+    PageWindow w;
+    w.showPages({{1, 1, 2}});
+    QApplication::setActiveWindow(w.window.get());
+    w.table()->editItem(w.item(0, 0));
+    const QPointer<QLineEdit> editor = w.table()->viewport()->findChild<QLineEdit *>();
+    editor->setFocus();
+    QTest::keyClicks(editor, QStringLiteral("ciao"));
+    w.boxes.expectBox(title, asText, QMessageBox::No);
+    w.boxes.expectBox(title, asEmpty, QMessageBox::Yes, [&editor](QMessageBox *) { QVERIFY(!editor.isNull()); });
+    QTest::keyClick(editor, Qt::Key_Return);
+    w.pageNumber()->setFocus();
+    QCOMPARE(w.boxes.answered(), 2);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QTRY_VERIFY(editor.isNull());
 }
 
 void tst_MainWindowCellEditing::aPageLoadedDuringAQuestionShowsTheEdit()
