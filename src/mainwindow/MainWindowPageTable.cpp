@@ -5,6 +5,7 @@
 #include "mainwindow/PageTable.h"
 #include "mainwindow/TabellaPagina.h"
 #include "model/Positions.h"
+#include "model/ReadableOn.h"
 #include "msgarea/WaitCursor.h"
 #include "ui_MainWindow.h"
 #include "widgets/ElidedTextTips.h"
@@ -92,6 +93,7 @@ QTableWidget *MainWindow::replaceTable()
     };
     m_table = new TabellaPagina(cellName, ui->centralwidget);
     m_table->setObjectName(QStringLiteral("tableWidget"));
+    m_table->setLayoutDirection(Qt::LeftToRight); // as on paper
     m_table->setAccessibleName(tr("Celle della pagina"));
     m_table->setTabKeyNavigation(false); // else the keyboard cannot leave it
     m_table->setItemDelegate(new ElidedTextTips(m_table));

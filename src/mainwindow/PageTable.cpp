@@ -4,6 +4,7 @@
 #include "generation/GUtils.h"
 #include "mainwindow/TabellaPagina.h"
 #include "model/Positions.h"
+#include "model/ReadableOn.h"
 #include "model/SpokenContent.h"
 #include "model/Types.h"
 
@@ -134,12 +135,6 @@ std::optional<quint32> typedNumber(const QString &text)
         return std::nullopt;
     }
     return text.toUInt();
-}
-
-QColor readableOn(const QColor &background)
-{
-    constexpr int middleGrey = 128;
-    return qGray(background.rgb()) < middleGrey ? Qt::white : Qt::black;
 }
 
 void fillTable(QTableWidget *table, const Pagina &page, int columns, const QString &emptyText)

@@ -21,8 +21,5 @@ class QTableWidget;
 // The number that a text stands for: one to six decimal digits and nothing else.
 [[nodiscard]] std::optional<quint32> typedNumber(const QString &text);
 
-// Black or white, whichever reads better on the background.
-[[nodiscard]] QColor readableOn(const QColor &background);
-
 // Fills an empty table, not yet connected, with the items of the page. `columns` is at least the longest row.
 void fillTable(QTableWidget *table, const Pagina &page, int columns, const QString &emptyText);

@@ -3,18 +3,13 @@
 
 #include "model/Cartella.h"
 #include "model/Positions.h"
+#include "model/ReadableOn.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
 namespace {
 constexpr int points = 6;
-constexpr int darkestLight = 128; // of the 256 greys
-
-QColor readableOn(const QColor &ground)
-{
-    return qGray(ground.rgb()) < darkestLight ? Qt::white : Qt::black;
-}
 } // namespace
 
 CardNumbers::CardNumbers(QPainter *painter, const DocumentLayout &document)

@@ -49,7 +49,7 @@ QColor tileColor(CELL_VALUE tipo, bool ticked)
     case CELL_VUOTA:
         break;
     }
-    color.setAlpha(ticked ? 130 : 35);
+    color.setAlpha(ticked ? 80 : 35); // more would hide the letters of a dark palette
     return color;
 }
 

@@ -23,7 +23,6 @@ private slots:
     void anUnknownTypeStopsTheProgram();
     void onlyDecimalDigitsAreANumber_data();
     void onlyDecimalDigitsAreANumber();
-    void textIsReadableOnItsBackground();
     void itemsShowTextColoursAndAlignmentOfTheirCells();
     void itemsOfEqualLookDoNotShareChanges();
     void aMissingPictureIsToldInTheToolTip();
@@ -99,15 +98,6 @@ void tst_PageTable::onlyDecimalDigitsAreANumber()
     QFETCH(QString, text);
     const auto number = typedNumber(text);
     QTEST(number ? static_cast<int>(*number) : noCell, "number");
-}
-
-void tst_PageTable::textIsReadableOnItsBackground()
-{
-    QCOMPARE(readableOn(Qt::white), QColor(Qt::black));
-    QCOMPARE(readableOn(Qt::yellow), QColor(Qt::black));
-    QCOMPARE(readableOn(Qt::lightGray), QColor(Qt::black));
-    QCOMPARE(readableOn(Qt::black), QColor(Qt::white));
-    QCOMPARE(readableOn(Qt::blue), QColor(Qt::white));
 }
 
 void tst_PageTable::itemsShowTextColoursAndAlignmentOfTheirCells()

@@ -34,6 +34,7 @@ using Window = std::unique_ptr<QWidget>;
 
 const QSize smallestScreen(1024, 700); // device-independent pixels
 constexpr U8 columns = 9;
+constexpr int depthOfLayouts = 3;
 
 template<class Widget>
 Widget *find(const QWidget *window, const char *name)
@@ -271,7 +272,9 @@ std::unique_ptr<QWidget> show(const QString &name, Stage &stage)
     if (!QTest::qWaitForWindowActive(window.get())) {
         qFatal("%s is not shown", qPrintable(name));
     }
-    QCoreApplication::processEvents(); // the layouts settle
+    for (int i = 0; i < depthOfLayouts; ++i) {
+        QCoreApplication::processEvents(); // one may make the next one settle
+    }
     return window;
 }
 
