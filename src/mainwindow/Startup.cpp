@@ -7,7 +7,7 @@
 #include "settings/Config.h"
 #include "settings/FormatSelection.h"
 #include "settings/Product.h"
-#include "widgets/FocusStyle.h"
+#include "widgets/ReadableStyle.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -52,7 +52,7 @@ int startQuintra(int &argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     tellTheDesktopWhoWeAre();
-    QApplication::setStyle(new FocusStyle); // which the application owns
+    QApplication::setStyle(new ReadableStyle); // which the application owns
 
     const auto forgetAll = qScopeGuard([]() {
         globalUtils = nullptr;

@@ -238,5 +238,5 @@ void PersonaleChkBox::paintEvent(QPaintEvent *)
 
     painter.setFont(signFont(font()));
     painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(option.rect, Qt::AlignRight | Qt::AlignVCenter, statusTip().left(1));
+    painter.drawText(option.rect, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter, statusTip().left(1));
 }

@@ -46,8 +46,7 @@ namespace {
 const QSize smallestScreen(1024, 700); // device-independent pixels
 constexpr int desktopFontSize = 10;    // points
 const QString sourceLanguage = QStringLiteral("it_IT");
-const QStringList languages = {sourceLanguage, QStringLiteral("en_GB"), QStringLiteral("de_DE"),
-                               QStringLiteral("fr_FR"), QStringLiteral("es_ES")};
+const QStringList languages = QStringLiteral(QUINTRA_PLACES).split(QLatin1Char(','));
 
 // What the windows need to live: the translation files of the build, a picture, the settings, the utilities.
 class Program final

@@ -44,8 +44,8 @@ private:
 void tst_TranslationFiles::addLocales()
 {
     QTest::addColumn<QString>("locale");
-    for (const char *locale : {"it_IT", "en_GB", "de_DE", "fr_FR", "es_ES"}) {
-        QTest::newRow(locale) << QString::fromLatin1(locale);
+    for (const QString &locale : QStringLiteral(QUINTRA_PLACES).split(QLatin1Char(','))) {
+        QTest::newRow(qPrintable(locale)) << locale;
     }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "personale/PersonaleChkBox.h"
+#include "widgets/ReadableStyle.h"
 #include "windows/EveryWindow.h"
 #include "windows/Palettes.h"
 
@@ -15,6 +16,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
@@ -300,11 +302,14 @@ class tst_Contrast final : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void cleanup();
     void everyTextStandsOut_data();
     void everyTextStandsOut();
     void everyMessageStandsOut_data();
     void everyMessageStandsOut();
+    void boxesToTickAreSeen_data();
+    void boxesToTickAreSeen();
     void tipsStandOut_data();
     void tipsStandOut();
     void aTextThatDoesNotStandOutIsFound();
@@ -312,6 +317,11 @@ private slots:
 private:
     static void addPalettes();
 };
+
+void tst_Contrast::initTestCase()
+{
+    QApplication::setStyle(new ReadableStyle); // as the program does
+}
 
 void tst_Contrast::cleanup()
 {
@@ -379,6 +389,32 @@ void tst_Contrast::everyMessageStandsOut()
         bar->showMessage(QStringLiteral("Message") + QLatin1String(sign));
         const double found = contrastIn(bar->grab(placeOfText(bar)).toImage());
         QVERIFY2(found >= wanted, qPrintable(QStringLiteral("\"%1\" %2").arg(QLatin1String(sign)).arg(found)));
+    }
+}
+
+void tst_Contrast::boxesToTickAreSeen_data()
+{
+    addPalettes();
+}
+
+void tst_Contrast::boxesToTickAreSeen()
+{
+    constexpr double wantedOfMarks = 3;
+    QFETCH(QPalette, palette);
+    QApplication::setPalette(palette);
+    Stage stage;
+    const auto window = show(QStringLiteral("EditPersonale"), stage);
+    for (const char *name : {"selezione_tutte_ckbox", "txt_radioButton"}) {
+        auto *button = window->findChild<QAbstractButton *>(QString::fromLatin1(name));
+        QVERIFY(!button->isChecked());
+        const bool check = button->inherits("QCheckBox");
+        const QStyleOptionButton option = optionOf(button);
+        const QRect place = button->style()->subElementRect(
+            check ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator, &option, button);
+        QImage picture = window->grab(QRect(button->mapTo(window.get(), place.topLeft()), place.size())).toImage();
+        QPainter(&picture).fillRect(picture.rect().adjusted(3, 3, -3, -3), palette.color(QPalette::Window));
+        const double found = contrastIn(picture);
+        QVERIFY2(found >= wantedOfMarks, qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(found)));
     }
 }
 

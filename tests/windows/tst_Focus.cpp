@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "widgets/FocusStyle.h"
+#include "widgets/ReadableStyle.h"
 #include "windows/EveryWindow.h"
 #include "windows/Palettes.h"
 
@@ -151,7 +151,7 @@ private slots:
 void tst_Focus::initTestCase()
 {
     QApplication::setCursorFlashTime(0);
-    QApplication::setStyle(new FocusStyle); // as the program does
+    QApplication::setStyle(new ReadableStyle); // as the program does
 }
 
 void tst_Focus::cleanup()

@@ -3,9 +3,10 @@
 
 #include <QProxyStyle>
 
-// The desktop's style, with a focus that is seen on every background: around a button or an item, and around a list, a
-// text or another framed area, which most styles leave as it is.
-class FocusStyle final : public QProxyStyle
+// The desktop's style, with what must be seen on every background: the focus, around a button or an item, and around a
+// list, a text or another framed area, which most styles leave as it is; and boxes to be ticked, which are lost on
+// black.
+class ReadableStyle final : public QProxyStyle
 {
 public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

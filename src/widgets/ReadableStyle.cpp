@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "widgets/FocusStyle.h"
+#include "widgets/ReadableStyle.h"
 
 #include <QAbstractItemView>
 #include <QPainter>
@@ -19,6 +19,23 @@ void drawFrame(QPainter *painter, const QRect &rect)
     painter->restore();
 }
 
+void drawOutline(QStyle::PrimitiveElement element, const QStyleOption &option, QPainter *painter)
+{
+    constexpr int halfSeen = 130; // of 255
+    QColor colour = option.palette.color(QPalette::WindowText);
+    colour.setAlpha(halfSeen);
+    painter->save();
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(colour);
+    if (element == QStyle::PE_IndicatorRadioButton) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->drawEllipse(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    } else {
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+    painter->restore();
+}
+
 // Who works with the mouse sees where he clicked, but not where the keyboard is in a list.
 bool isAskedFor(const QStyleOption &option, const QWidget *widget)
 {
@@ -27,8 +44,8 @@ bool isAskedFor(const QStyleOption &option, const QWidget *widget)
 }
 } // namespace
 
-void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
-                               const QWidget *widget) const
+void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                                  const QWidget *widget) const
 {
     if (element == PE_FrameFocusRect) {
         if (isAskedFor(*option, widget)) {
@@ -37,6 +54,9 @@ void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
+        drawOutline(element, *option, painter);
+    }
     if (element == PE_Frame && option->state.testFlag(State_HasFocus)) {
         painter->save();
         painter->setPen(option->palette.color(QPalette::Highlight));
@@ -46,8 +66,8 @@ void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
 }
 
 // The default button of a dialog has the outline of a focus all the time.
-void FocusStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                             const QWidget *widget) const
+void ReadableStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                                const QWidget *widget) const
 {
     constexpr int inside = 3;
     QProxyStyle::drawControl(element, option, painter, widget);
