@@ -504,6 +504,18 @@ eccedono il massimo consentito (%2).</source>
         <translation>Die gewünschte Gesamtzahl der Seiten (%1)
 übersteigt das erlaubte Maximum (%2).</translation>
     </message>
+    <message>
+        <source>Aiuto</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Wie man das Programm benutzt, Schritt für Schritt</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -1379,10 +1391,6 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
         <translation>Wie man das Programm benutzt, Schritt für Schritt</translation>
     </message>
     <message>
-        <source>Il manuale non è in %1!</source>
-        <translation>Das Handbuch ist nicht in %1!</translation>
-    </message>
-    <message>
         <source>Svuota le celle selezionate</source>
         <translation>Ausgewählte Felder leeren</translation>
     </message>
@@ -1428,6 +1436,10 @@ Weitere nicht erzeugte Seiten (ab 1 gezählt): %1</translation>
     <message>
         <source>Quintra - Manuale</source>
         <translation>Quintra - Handbuch</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>Das Handbuch ist nicht in %1!</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2146,18 @@ Diesen fortsetzen? Mit Nein beginnt ein neuer, und der alte wird beiseitegelegt.
     <message>
         <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
         <translation>Das Register kann nicht bis zum Ende gelesen werden. Gelesene Karten: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Wie man das Programm benutzt, Schritt für Schritt</translation>
     </message>
 </context>
 <context>

@@ -504,6 +504,18 @@ eccedono il massimo consentito (%2).</source>
         <translation>The total number of pages requested (%1)
 exceeds the maximum allowed (%2).</translation>
     </message>
+    <message>
+        <source>Aiuto</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>How to use the program, step by step</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -1379,10 +1391,6 @@ Other pages not generated (counted from 1): %1</translation>
         <translation>How to use the program, step by step</translation>
     </message>
     <message>
-        <source>Il manuale non è in %1!</source>
-        <translation>The manual is not in %1!</translation>
-    </message>
-    <message>
         <source>Svuota le celle selezionate</source>
         <translation>Empty the selected cells</translation>
     </message>
@@ -1428,6 +1436,10 @@ Other pages not generated (counted from 1): %1</translation>
     <message>
         <source>Quintra - Manuale</source>
         <translation>Quintra - Manual</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>The manual is not in %1!</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2146,18 @@ Continue that one? With No a new one begins, and the old one is put aside.</tran
     <message>
         <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
         <translation>The register cannot be read to its end. Cards read: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>How to use the program, step by step</translation>
     </message>
 </context>
 <context>

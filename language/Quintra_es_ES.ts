@@ -504,6 +504,18 @@ eccedono il massimo consentito (%2).</source>
         <translation>El total de páginas solicitadas (%1)
 supera el máximo permitido (%2).</translation>
     </message>
+    <message>
+        <source>Aiuto</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Cómo se usa el programa, paso a paso</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -1379,10 +1391,6 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
         <translation>Cómo se usa el programa, paso a paso</translation>
     </message>
     <message>
-        <source>Il manuale non è in %1!</source>
-        <translation>¡El manual no está en %1!</translation>
-    </message>
-    <message>
         <source>Svuota le celle selezionate</source>
         <translation>Vaciar las casillas seleccionadas</translation>
     </message>
@@ -1428,6 +1436,10 @@ Otras páginas no generadas (contadas desde 1): %1</translation>
     <message>
         <source>Quintra - Manuale</source>
         <translation>Quintra - Manual</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>¡El manual no está en %1!</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2146,18 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
         <translation>El registro no se puede leer hasta el final. Cartones leídos: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Cómo se usa el programa, paso a paso</translation>
     </message>
 </context>
 <context>

@@ -504,6 +504,18 @@ eccedono il massimo consentito (%2).</source>
         <translation>Le nombre total de pages demandé (%1)
 dépasse le maximum autorisé (%2).</translation>
     </message>
+    <message>
+        <source>Aiuto</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Comment utiliser le programme, pas à pas</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -1379,10 +1391,6 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
         <translation>Comment utiliser le programme, pas à pas</translation>
     </message>
     <message>
-        <source>Il manuale non è in %1!</source>
-        <translation>Le manuel n&apos;est pas dans %1&#xa0;!</translation>
-    </message>
-    <message>
         <source>Svuota le celle selezionate</source>
         <translation>Vider les cases sélectionnées</translation>
     </message>
@@ -1428,6 +1436,10 @@ Autres pages non générées (comptées à partir de 1)&#xa0;: %1</translation>
     <message>
         <source>Quintra - Manuale</source>
         <translation>Quintra - Manuel</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>Le manuel n&apos;est pas dans %1&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2146,18 @@ Continuer celle-là&#xa0;? Avec Non, une nouvelle commence et l&apos;ancienne es
     <message>
         <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
         <translation>Le registre ne peut pas être lu jusqu&apos;au bout. Cartons lus&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Comment utiliser le programme, pas à pas</translation>
     </message>
 </context>
 <context>

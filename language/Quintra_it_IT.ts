@@ -504,6 +504,18 @@ eccedono il massimo consentito (%2).</source>
         <translation>Le pagine totali richieste (%1)
 eccedono il massimo consentito (%2).</translation>
     </message>
+    <message>
+        <source>Aiuto</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manuale</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Come si usa il programma, passo per passo</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>
@@ -1379,10 +1391,6 @@ Altre pagine non generate (contate da 1): %1</translation>
         <translation>Come si usa il programma, passo per passo</translation>
     </message>
     <message>
-        <source>Il manuale non è in %1!</source>
-        <translation>Il manuale non è in %1!</translation>
-    </message>
-    <message>
         <source>Svuota le celle selezionate</source>
         <translation>Svuota le celle selezionate</translation>
     </message>
@@ -1428,6 +1436,10 @@ Altre pagine non generate (contate da 1): %1</translation>
     <message>
         <source>Quintra - Manuale</source>
         <translation>Quintra - Manuale</translation>
+    </message>
+    <message>
+        <source>Il manuale non è in %1!</source>
+        <translation>Il manuale non è in %1!</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2146,18 @@ Continuare quella? Con No ne comincia una nuova, e quella viene messa da parte.<
     <message>
         <source>Il registro non si può leggere fino in fondo. Schede lette: %1.</source>
         <translation>Il registro non si può leggere fino in fondo. Schede lette: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Aiuto</source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message>
+        <source>Manuale</source>
+        <translation>Manuale</translation>
+    </message>
+    <message>
+        <source>Come si usa il programma, passo per passo</source>
+        <translation>Come si usa il programma, passo per passo</translation>
     </message>
 </context>
 <context>

@@ -27,7 +27,7 @@ const char head[] = R"(<!DOCTYPE html>
 <title>%2</title>
 <style>
 :root { max-width: 54em; margin: auto; padding: 1em; font-family: sans-serif; line-height: 1.4; }
-table { border-collapse: collapse; }
+table { border-collapse: collapse; margin-top: 8px; margin-bottom: 8px; }
 th, td { border: 1px solid gray; padding: 4px; text-align: left; }
 img { max-width: 100%; }
 </style>

@@ -3,7 +3,6 @@
 
 #include "generation/GUtils.h"
 #include "generation/GeneraCartellaClassica.h"
-#include "manuale/ManualFile.h"
 #include "manuale/Manuale.h"
 #include "msgarea/Confirmation.h"
 #include "msgarea/MsgArea.h"
@@ -16,7 +15,6 @@
 
 #include <QCloseEvent>
 #include <QColorDialog>
-#include <QDir>
 #include <QMessageBox>
 #include <QTableWidget>
 
@@ -65,7 +63,7 @@ void MainWindow::connectCommands()
     connect(ui->actionNumeraBlocchi, &QAction::toggled, this, &MainWindow::updatePreview);
     connect(ui->actionSalvaRegistro, &QAction::triggered, this, &MainWindow::saveRegister);
     connect(ui->actionSerata, &QAction::triggered, this, &MainWindow::openEvening);
-    connect(ui->actionManuale, &QAction::triggered, this, &MainWindow::openManual);
+    connect(ui->actionManuale, &QAction::triggered, this, [this]() { Manuale::openFor(this); });
 }
 
 void MainWindow::welcome()
@@ -214,19 +212,6 @@ void MainWindow::on_actionOpzioni_triggered()
 void MainWindow::on_actionOpen_triggered() {}
 
 void MainWindow::on_actionSave_triggered() {}
-
-void MainWindow::openManual()
-{
-    const QString file = manualFile(shownLanguage());
-    if (file.isEmpty()) {
-        updateStatusBar(tr("Il manuale non è in %1!").arg(QDir::toNativeSeparators(manualFolder())));
-        return;
-    }
-    if (m_manual == nullptr) {
-        m_manual = new Manuale(this);
-    }
-    m_manual->showFile(file);
-}
 
 void MainWindow::on_actionInformazioni_triggered()
 {

@@ -18,7 +18,6 @@
 
 class EditPersonale;
 class GeneraCartellaClassica;
-class Manuale;
 class MsgArea;
 class Options;
 class PagePreview;
@@ -163,9 +162,6 @@ private:
     void saveRegister();
     void openEvening();
 
-    // Help.
-    void openManual();
-
     // The page table.
     QTableWidget *replaceTable();
     void reloadPage();
@@ -215,7 +211,6 @@ private:
     QFont m_currentFont;
     QString m_imageFilter; // of file names, the last one chosen for pictures
     QPointer<MsgArea> m_about;
-    Manuale *m_manual = nullptr;      // child, made when it is first asked for
     QPointer<PagePreview> m_preview;  // deletes itself when closed
     QPointer<EditPersonale> m_editor; // deletes itself when closed
     int m_pageShown = 0;              // 1-based, 0 for none

@@ -1,14 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "manuale/Manuale.h"
 
+#include "generation/GUtils.h"
 #include "manuale/FittedPictures.h"
+#include "manuale/ManualFile.h"
 #include "resources/Resources.h"
 #include "ui_Manuale.h"
 #include "widgets/WindowPlace.h"
 
+#include <QDir>
+#include <QMainWindow>
+#include <QPointer>
 #include <QScrollBar>
+#include <QStatusBar>
 
 namespace {
+QPointer<Manuale> opened; // goes with the window it belongs to
+
 constexpr int pageMargin = 16;     // pixels
 constexpr int darkLightness = 128; // of a background, below it
 
@@ -48,6 +56,21 @@ void Manuale::connectCommands()
     connect(ui->actionCerca, &QAction::triggered, ui->cerca_edit, &QLineEdit::selectAll);
     connect(ui->cerca_edit, &QLineEdit::returnPressed, this, &Manuale::findNext);
     connect(ui->cerca_edit, &QLineEdit::textChanged, ui->esito_label, &QLabel::clear);
+}
+
+void Manuale::openFor(QMainWindow *asker)
+{
+    const QString file = manualFile(shownLanguage());
+    if (file.isEmpty()) {
+        asker->statusBar()->showMessage(tr("Il manuale non è in %1!").arg(QDir::toNativeSeparators(manualFolder())));
+        return;
+    }
+    if (opened.isNull()) {
+        opened = new Manuale(asker);
+    } else if (opened->parentWidget() != asker) {
+        opened->setParent(asker, opened->windowFlags());
+    }
+    opened->showFile(file);
 }
 
 void Manuale::showFile(const QString &fileName)

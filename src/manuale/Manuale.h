@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QMainWindow;
+
 namespace Ui {
 class Manuale;
 }
@@ -18,6 +20,11 @@ class Manuale final : public QDialog
 public:
     explicit Manuale(QWidget *parent = nullptr);
     ~Manuale() override;
+
+    // Shows the manual, in the language of the texts, over the window that asks for it. There is one for all windows;
+    // it goes to the one that asked last, so that no modal one blocks it. Where there is no manual the window's status
+    // bar says where it was looked for.
+    static void openFor(QMainWindow *asker);
 
     // Shows a manual, which manualFile() has found, in front of the other windows.
     void showFile(const QString &fileName);

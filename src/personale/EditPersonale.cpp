@@ -2,6 +2,7 @@
 #include "personale/EditPersonale.h"
 
 #include "generation/GUtils.h"
+#include "manuale/Manuale.h"
 #include "msgarea/OpenDialogs.h"
 #include "msgarea/WaitCursor.h"
 #include "personale/CasellaAccessibile.h"
@@ -67,6 +68,7 @@ EditPersonale::EditPersonale(QWidget *parent, Cartella *cartella, U8 rows, U8 co
     ui->pageNumSpinBox->setValue(1);
     showPageCount();
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocusedCell(now); });
+    connect(ui->actionManuale, &QAction::triggered, this, [this]() { Manuale::openFor(this); });
     setWindowTitle(Product::nameAndRelease() + QStringLiteral(" - ") + tr("MAPPATURA MANUALE"));
     checkSettings();
     setWindowModality(Qt::ApplicationModal); // without effect once the window is shown

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "serata/Serata.h"
 
+#include "manuale/Manuale.h"
 #include "model/SpokenContent.h"
 #include "msgarea/OpenDialogs.h"
 #include "resources/Resources.h"
@@ -141,6 +142,7 @@ void Serata::setupCommands()
     connect(ui->actionApriRegistro, &QAction::triggered, this, &Serata::chooseRegister);
     connect(ui->actionSchermoIntero, &QAction::toggled, this, &Serata::showWholeScreen);
     connect(ui->actionChiudi, &QAction::triggered, this, &QWidget::close);
+    connect(ui->actionManuale, &QAction::triggered, this, [this]() { Manuale::openFor(this); });
     connect(ui->estrai_button, &QPushButton::clicked, this, &Serata::draw);
     connect(ui->numero_edit, &QLineEdit::returnPressed, this, &Serata::takeTypedNumber);
     connect(ui->scheda_edit, &QLineEdit::returnPressed, this, &Serata::takeTypedCard);

@@ -3,6 +3,8 @@
 
 #include "generation/GUtils.h"
 #include "mainwindow/PageWindow.h"
+#include "personale/EditPersonale.h"
+#include "serata/Serata.h"
 
 #include <QAction>
 #include <QBuffer>
@@ -145,6 +147,8 @@ private slots:
     void itIsInTheLanguageOfTheTexts();
     void aMissingManualIsToldOfWithItsPlace();
     void askedAgainItIsTheSameWindowAtTheSamePlace();
+    void itGoesToTheWindowThatAsks();
+    void itGoesWithItsWindow();
     void escapeHidesIt();
     void linksAreFollowedByKeysAndBack();
     void theContentsAreAKeyAway();
@@ -208,6 +212,43 @@ void tst_Manuale::askedAgainItIsTheSameWindowAtTheSamePlace()
     QCOMPARE(t.place(), place);
     t.open();
     QCOMPARE(t.page.window->findChildren<Manuale *>().size(), 1);
+}
+
+void tst_Manuale::itGoesToTheWindowThatAsks()
+{
+    const ManualWindow t;
+    const Manuale *first = t.open();
+    t.followLink();
+    const int place = t.place();
+    t.page.check("MappaManuale");
+    t.page.window->generate(false);
+    auto *editor = t.page.window->findChild<EditPersonale *>();
+    QApplication::setActiveWindow(editor);
+    QTest::keyClick(editor, Qt::Key_F1);
+    QCOMPARE(editor->findChild<Manuale *>(), first);
+    QVERIFY(first->isVisible());
+    QCOMPARE(t.place(), place);
+    QCOMPARE(QApplication::activeModalWidget(), editor);
+    QTest::keyClick(t.text(), Qt::Key_Escape); // not blocked by the editor
+    QVERIFY(!first->isVisible());
+}
+
+void tst_Manuale::itGoesWithItsWindow()
+{
+    const PageWindow page;
+    ManualWindow::write("it", longManual());
+    {
+        Serata evening;
+        evening.show();
+        QApplication::setActiveWindow(&evening);
+        QTest::keyClick(&evening, Qt::Key_F1);
+        const auto *manual = evening.findChild<Manuale *>();
+        QVERIFY(manual != nullptr && manual->isVisible());
+    }
+    QApplication::setActiveWindow(page.window.get());
+    QTest::keyClick(page.window.get(), Qt::Key_F1);
+    const auto *manual = page.window->findChild<Manuale *>();
+    QVERIFY(manual != nullptr && manual->isVisible());
 }
 
 void tst_Manuale::escapeHidesIt()
