@@ -6,7 +6,7 @@
 #include <algorithm>
 
 namespace {
-constexpr int mostAtOnce = 500; // rows
+constexpr size_t mostAtOnce = 500; // rows
 } // namespace
 
 ElencoSchede::ElencoSchede(Elenco elenco, Nota nota, QObject *parent)
@@ -20,19 +20,32 @@ void ElencoSchede::show(const Partita *partita)
 {
     beginResetModel();
     m_partita = partita;
-    m_given = 0;
-    m_given = std::min(left(), mostAtOnce);
+    m_given.clear();
+    give();
     endResetModel();
 }
 
-size_t ElencoSchede::schedaAt(const QModelIndex &index) const
+std::optional<size_t> ElencoSchede::schedaAt(const QModelIndex &index) const
 {
-    return cards()[static_cast<size_t>(index.row())];
+    return index.isValid() ? std::optional<size_t>(m_given[static_cast<size_t>(index.row())]) : std::nullopt;
+}
+
+QModelIndex ElencoSchede::indexOf(size_t scheda)
+{
+    const auto found = std::lower_bound(cards().begin(), cards().end(), scheda);
+    if (found == cards().end() || *found != scheda) {
+        return QModelIndex();
+    }
+    const auto row = static_cast<int>(found - cards().begin());
+    while (row >= rowCount()) {
+        fetchMore(QModelIndex());
+    }
+    return index(row);
 }
 
 int ElencoSchede::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_given;
+    return parent.isValid() ? 0 : static_cast<int>(m_given.size());
 }
 
 QVariant ElencoSchede::data(const QModelIndex &index, int role) const
@@ -40,7 +53,7 @@ QVariant ElencoSchede::data(const QModelIndex &index, int role) const
     if (!index.isValid() || role != Qt::DisplayRole) {
         return QVariant();
     }
-    return m_nota(*m_partita, schedaAt(index));
+    return m_nota(*m_partita, *schedaAt(index));
 }
 
 bool ElencoSchede::canFetchMore(const QModelIndex &parent) const
@@ -50,17 +63,26 @@ bool ElencoSchede::canFetchMore(const QModelIndex &parent) const
 
 void ElencoSchede::fetchMore(const QModelIndex &parent)
 {
-    const int more = std::min(left(), mostAtOnce);
+    const auto more = static_cast<int>(std::min(left(), mostAtOnce));
     if (!parent.isValid() && more > 0) {
-        beginInsertRows(QModelIndex(), m_given, m_given + more - 1);
-        m_given += more;
+        beginInsertRows(QModelIndex(), rowCount(), rowCount() + more - 1);
+        give();
         endInsertRows();
     }
 }
 
-int ElencoSchede::left() const
+size_t ElencoSchede::left() const
 {
-    return m_partita == nullptr ? 0 : static_cast<int>(cards().size()) - m_given;
+    const size_t given = m_given.size();
+    return m_partita == nullptr ? 0 : std::max(cards().size(), given) - given;
+}
+
+void ElencoSchede::give()
+{
+    if (left() > 0) {
+        const auto next = cards().begin() + static_cast<std::ptrdiff_t>(m_given.size());
+        m_given.insert(m_given.end(), next, next + static_cast<std::ptrdiff_t>(std::min(left(), mostAtOnce)));
+    }
 }
 
 QString noteOfTombola(const Partita &partita, size_t scheda)

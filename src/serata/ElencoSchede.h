@@ -19,8 +19,10 @@ public:
 
     // Shows the list of a game as it is now. The game must live until another one is shown.
     void show(const Partita *partita);
-    // The card of a row.
-    size_t schedaAt(const QModelIndex &index) const;
+    // The card of a row as it was when the list was shown; none for no row.
+    std::optional<size_t> schedaAt(const QModelIndex &index) const;
+    // The row of a card, which is given then; none of a card that is not in the list.
+    QModelIndex indexOf(size_t scheda);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -29,12 +31,13 @@ public:
 
 private:
     const std::vector<quint32> &cards() const { return (m_partita->*m_elenco)(); }
-    int left() const;
+    size_t left() const;
+    void give();
 
     Elenco m_elenco;
     Nota m_nota;
     const Partita *m_partita = nullptr; // not owned
-    int m_given = 0;                    // rows
+    std::vector<quint32> m_given;       // the cards of the rows
 };
 
 // "12.3: chiamata 45", "12.3: manca il 34".

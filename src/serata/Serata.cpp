@@ -12,9 +12,9 @@
 #include "widgets/WindowPlace.h"
 
 #include <QCloseEvent>
-#include <QMessageBox>
+#include <QHeaderView>
+#include <QKeyEvent>
 #include <QResizeEvent>
-#include <QShortcut>
 
 #include <algorithm>
 
@@ -86,6 +86,14 @@ void fill(QTableWidget *table, const Scheda &scheda, const Partita &partita)
     }
 }
 
+// The current card stays the current one, unless it is not in the list any more.
+void showKeepingCurrent(QListView *view, ElencoSchede *elenco, const Partita &partita)
+{
+    const auto scheda = elenco->schedaAt(view->currentIndex());
+    elenco->show(&partita);
+    view->setCurrentIndex(scheda ? elenco->indexOf(*scheda) : QModelIndex());
+}
+
 QStringList describe(const Partita &partita, size_t scheda)
 {
     QStringList lines;
@@ -128,6 +136,7 @@ Serata::Serata(QWidget *parent)
     setupCommands();
     setupBoard();
     setupLists();
+    catchDigits();
     ui->numero_edit->setFocus();
 }
 
@@ -140,24 +149,18 @@ void Serata::setupCommands()
     connect(ui->actionEstrai, &QAction::triggered, this, &Serata::draw);
     connect(ui->actionNuovaPartita, &QAction::triggered, this, &Serata::startGame);
     connect(ui->actionApriRegistro, &QAction::triggered, this, &Serata::chooseRegister);
-    connect(ui->actionSchermoIntero, &QAction::toggled, this, &Serata::showWholeScreen);
+    connect(ui->actionSchermoIntero, &QAction::triggered, this, &Serata::showWholeScreen);
     connect(ui->actionChiudi, &QAction::triggered, this, &QWidget::close);
     connect(ui->actionManuale, &QAction::triggered, this, [this]() { Manuale::openFor(this); });
     connect(ui->estrai_button, &QPushButton::clicked, this, &Serata::draw);
     connect(ui->numero_edit, &QLineEdit::returnPressed, this, &Serata::takeTypedNumber);
     connect(ui->scheda_edit, &QLineEdit::returnPressed, this, &Serata::takeTypedCard);
     connect(ui->controlla_button, &QPushButton::clicked, this, &Serata::takeTypedCard);
-    // Their shortcuts work while the menu bar is hidden too.
-    addActions(findChildren<QAction *>(QRegularExpression(QStringLiteral("^action"))));
 }
 
 void Serata::setupBoard()
 {
     connect(ui->tabellone, &Tabellone::numberChosen, this, &Serata::toggle);
-    connect(ui->tabellone, &Tabellone::digitTyped, ui->numero_edit, [this](const QString &digit) {
-        ui->numero_edit->setFocus();
-        ui->numero_edit->setText(digit);
-    });
     ui->scheda_table->setItemDelegate(new CaselleDelegate(ui->scheda_table));
     for (QHeaderView *header : {ui->scheda_table->horizontalHeader(), ui->scheda_table->verticalHeader()}) {
         header->setMinimumSectionSize(smallestCardColumn);
@@ -180,6 +183,51 @@ void Serata::setupLists()
 void Serata::closeEvent(QCloseEvent *event)
 {
     event->setAccepted(!isAsking(*this));
+}
+
+void Serata::catchDigits()
+{
+    for (QWidget *view : findChildren<QAbstractItemView *>()) {
+        view->installEventFilter(this);
+    }
+}
+
+// Views would look for a digit among their entries.
+bool Serata::eventFilter(QObject *watched, QEvent *event)
+{
+    return (event->type() == QEvent::KeyPress && beginNumber(*static_cast<QKeyEvent *>(event))) ||
+           QMainWindow::eventFilter(watched, event);
+}
+
+// Keys that the widget with the focus has no use for.
+void Serata::keyPressEvent(QKeyEvent *event)
+{
+    if (!beginNumber(*event)) {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+// A scanner types a card wherever the focus is: its first digit, if it is one, brings that to the field for numbers,
+// which takes the others. Whether it was one.
+bool Serata::beginNumber(const QKeyEvent &key)
+{
+    const QString text = key.text();
+    const bool isCommand = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    if (isCommand || text.size() != 1 || !text.at(0).isDigit()) {
+        return false;
+    }
+    ui->numero_edit->setFocus();
+    ui->numero_edit->setText(text);
+    return true;
+}
+
+// The window leaves the full screen by other ways than its command, too.
+void Serata::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        ui->actionSchermoIntero->setChecked(isFullScreen());
+    }
 }
 
 void Serata::resizeEvent(QResizeEvent *event)
@@ -301,8 +349,8 @@ void Serata::showCalls()
 void Serata::showLists()
 {
     const Partita &partita = m_serata->partita();
-    m_tombole->show(&partita);
-    m_quasiTombole->show(&partita);
+    showKeepingCurrent(ui->tombole_view, m_tombole, partita);
+    showKeepingCurrent(ui->quasi_view, m_quasiTombole, partita);
     ui->tombole_label->setText(tr("Tombola: %1").arg(partita.tombole().size()));
     ui->quasi_label->setText(tr("In attesa di un numero: %1").arg(partita.quasiTombole().size()));
     ui->tombole_view->setAccessibleName(ui->tombole_label->text());

@@ -40,6 +40,9 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -47,6 +50,7 @@ private:
     void setupCommands();
     void setupBoard();
     void setupLists();
+    void catchDigits();
 
     // What is to become of the evening of which a journal tells.
     enum class EveningBefore { None, GoesOn, PutAside, Unclear };
@@ -71,6 +75,7 @@ private:
     void startGame();
     void toggle(quint32 numero);
     void draw();
+    bool beginNumber(const QKeyEvent &key);
     void takeTypedNumber();
     void takeTypedCard();
     void check(const QString &text);

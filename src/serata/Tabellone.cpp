@@ -102,13 +102,10 @@ Tabellone::Tabellone(QWidget *parent)
 
 void Tabellone::keyPressEvent(QKeyEvent *event)
 {
-    const QString text = event->text();
-    if (isChoosingKey(event->key())) {
-        choose(currentIndex());
-    } else if (!text.isEmpty() && text.at(0).isDigit()) {
-        emit digitTyped(text);
-    } else {
+    if (!isChoosingKey(event->key())) {
         QTableView::keyPressEvent(event);
+    } else if (!event->isAutoRepeat()) { // a key held down would call and take back
+        choose(currentIndex());
     }
 }
 

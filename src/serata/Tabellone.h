@@ -48,8 +48,6 @@ public:
 
 signals:
     void numberChosen(quint32 numero);
-    // A digit was typed, which the board itself has no use for.
-    void digitTyped(const QString &digit);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

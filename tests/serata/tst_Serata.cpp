@@ -214,10 +214,15 @@ private slots:
     void aCardIsShownWithItsNumbersAndPrizes();
     void theCardShownFollowsTheCalls();
     void aScannedCardIsTakenInEitherField();
+    void aScannedCardIsTakenFromEveryFocus_data();
+    void aScannedCardIsTakenFromEveryFocus();
+    void aKeyHeldDownIsOneKey_data();
+    void aKeyHeldDownIsOneKey();
     void aCardThatDoesNotExistChangesNothing_data();
     void aCardThatDoesNotExistChangesNothing();
     void theListsFollowEveryCall();
     void anEntryOfAListShowsItsCard();
+    void aListKeepsItsCurrentCard();
     void longListsAreGivenInParts();
     void aNewGameForgetsTheCalls();
     void aNewGameThatIsCancelledChangesNothing();
@@ -340,6 +345,7 @@ void tst_Serata::aDoubleClickCallsANumberOnce()
     const QPoint centre = e.board()->visualRect(e.place(34)).center();
     QTest::mouseClick(e.board()->viewport(), Qt::LeftButton, {}, centre);
     QTest::mouseDClick(e.board()->viewport(), Qt::LeftButton, {}, centre);
+    QTest::mouseRelease(e.board()->viewport(), Qt::LeftButton, {}, centre);
     QCOMPARE(e.saved(), (Numbers{34}));
 }
 
@@ -556,6 +562,61 @@ void tst_Serata::aScannedCardIsTakenInEitherField()
     QCOMPARE(e.text("esito_label"), QStringLiteral("Scheda 2.2"));
 }
 
+void tst_Serata::aScannedCardIsTakenFromEveryFocus_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"numero_edit", "estrai_button", "scheda_edit", "controlla_button", "scheda_table",
+                             "vincite_list", "tombole_view", "quasi_view", "tabellone"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void tst_Serata::aScannedCardIsTakenFromEveryFocus()
+{
+    QFETCH(QString, name);
+    Evening e;
+    QVERIFY(e.openSet());
+    for (const quint32 number : {1U, 21U, 11U, 3U, 23U}) {
+        e.call(number);
+    }
+    e.check(QStringLiteral("1.1"));
+    auto *widget = e.window->findChild<QWidget *>(name);
+    widget->setFocus();
+    QVERIFY(widget->hasFocus());
+    if (auto *view = qobject_cast<QAbstractItemView *>(widget)) {
+        view->setCurrentIndex(view->model()->index(0, 0));
+    }
+    for (const Qt::Key key : {Qt::Key_2, Qt::Key_Period, Qt::Key_2, Qt::Key_Return}) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+    }
+    QCOMPARE(e.text("esito_label"), QStringLiteral("Scheda 2.2"));
+    QCOMPARE(e.saved(), (Numbers{1, 21, 11, 3, 23}));
+}
+
+void tst_Serata::aKeyHeldDownIsOneKey_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("drawing") << int(Qt::Key_F5);
+    QTest::newRow("the whole screen") << int(Qt::Key_F11);
+    QTest::newRow("a number of the board") << int(Qt::Key_Return);
+}
+
+void tst_Serata::aKeyHeldDownIsOneKey()
+{
+    QFETCH(int, key);
+    Evening e;
+    QVERIFY(e.openSet());
+    e.board()->setFocus();
+    e.board()->setCurrentIndex(e.place(7));
+    QTest::keyClick(e.board(), Qt::Key(key));
+    const Numbers once = e.saved();
+    const bool whole = e.window->isFullScreen();
+    QVERIFY(once.size() == 1 || whole);
+    QTest::simulateEvent(e.board(), true, key, Qt::NoModifier, QString(), true);
+    QCOMPARE(e.saved(), once);
+    QCOMPARE(e.window->isFullScreen(), whole);
+}
+
 void tst_Serata::aCardThatDoesNotExistChangesNothing_data()
 {
     QTest::addColumn<QString>("typed");
@@ -623,6 +684,32 @@ void tst_Serata::anEntryOfAListShowsItsCard()
     nearly->setCurrentIndex(nearly->model()->index(0, 0));
     QTest::keyClick(nearly, Qt::Key_Return);
     QCOMPARE(e.text("esito_label"), QStringLiteral("Scheda 1.2"));
+}
+
+void tst_Serata::aListKeepsItsCurrentCard()
+{
+    Evening e;
+    const Cartella many(400, 3, 1, 2);
+    for (Pagina *pagina : many.pagine) {
+        for (Blocco &blocco : *pagina) {
+            blocco = blockOf(made({1, 1}, {QStringLiteral("7 8")}));
+        }
+    }
+    many.pagine[0]->blocchi[0] = blockOf(made({1, 1}, {QStringLiteral("7 9")}));
+    QVERIFY(e.openSet(many));
+    e.call(7);
+    auto *nearly = e.find<QListView>("quasi_view");
+    nearly->model()->fetchMore(QModelIndex());
+    nearly->setFocus();
+    nearly->setCurrentIndex(nearly->model()->index(900, 0));
+    QCOMPARE(nearly->currentIndex().data().toString(), QStringLiteral("301.1: manca il 8"));
+    e.call(9); // the first card leaves the list
+    QCOMPARE(nearly->currentIndex().row(), 899);
+    QCOMPARE(nearly->currentIndex().data().toString(), QStringLiteral("301.1: manca il 8"));
+    QTest::keyClick(nearly, Qt::Key_Return);
+    QCOMPARE(e.text("esito_label"), QStringLiteral("Scheda 301.1"));
+    e.call(8); // and so does this one
+    QVERIFY(!nearly->currentIndex().isValid());
 }
 
 void tst_Serata::longListsAreGivenInParts()
@@ -739,6 +826,14 @@ void tst_Serata::theScreenIsFilledAndLeft()
     QVERIFY(e.window->isFullScreen());
     QTest::keyClick(e.find<QLineEdit>("numero_edit"), Qt::Key_F11);
     QVERIFY(!e.window->isFullScreen());
+    auto *command = e.find<QAction>("actionSchermoIntero");
+    QVERIFY(!command->isChecked());
+    e.window->showFullScreen(); // by other ways than the command
+    QVERIFY(command->isChecked());
+    e.window->showNormal();
+    QVERIFY(!command->isChecked());
+    QTest::keyClick(e.window.get(), Qt::Key_F11);
+    QVERIFY(e.window->isFullScreen());
 }
 
 void tst_Serata::aCallThatCannotBeSavedIsNotShown()
