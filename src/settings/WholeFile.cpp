@@ -133,7 +133,15 @@ QString WholeFile::writtenName() const
 
 bool WholeFile::commit()
 {
-    return m_beside.isEmpty() || (bringToDisk(m_beside, m_error) && takeName());
+    if (m_beside.isEmpty()) {
+        return true;
+    }
+    if (!bringToDisk(m_beside, m_error) || !takeName()) {
+        return false;
+    }
+    static_cast<void>(
+        isFolderSynced(m_target)); // the file is there and whole, whether its name outlives the machine or not
+    return true;
 }
 
 void WholeFile::leaveIncomplete()

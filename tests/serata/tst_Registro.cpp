@@ -225,6 +225,7 @@ void tst_Registro::afterAnyFaultTheOldRegisterIsThere()
     const QString name = QStringLiteral("natale.csv");
     const Cartella set(200, 6, 3, 9); // more than one write
     bool reached = true;
+    int callsAfterTheFile = 0;
     for (int call = 1; reached; ++call) {
         folder.write(name, good);
         QString reason;
@@ -237,8 +238,10 @@ void tst_Registro::afterAnyFaultTheOldRegisterIsThere()
         }
         QCOMPARE(folder.read(name), saved ? written(set) : good);
         QCOMPARE(reason.isEmpty(), saved);
-        QCOMPARE(saved, !reached);
+        QVERIFY(saved || reached);
+        callsAfterTheFile += saved && reached ? 1 : 0;
     }
+    QCOMPARE(callsAfterTheFile, 2); // the folder is synced and closed
 }
 
 void tst_Registro::aFullDiskIsToldOfByItsReason()
