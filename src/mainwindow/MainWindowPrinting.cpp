@@ -36,8 +36,8 @@ void MainWindow::on_butt_stampa_clicked()
     warnOfPagesWithoutRoom();
     letClosedDialogsDisappear();
     QString report;
-    int numbersLeftOut = 0;
-    if (!writeOutputFile(fileName, report, numbersLeftOut)) {
+    const CreateOutputFile::Printed printed = writeOutputFile(fileName, report);
+    if (printed.bytes < 0) {
         updateStatusBar(tr("Stampa non riuscita!"));
         warn(tr("Errore nella creazione del file:\n%1").arg(fileName), report);
         return;
@@ -46,9 +46,10 @@ void MainWindow::on_butt_stampa_clicked()
     MsgArea *window = MsgArea::makeFor(this, false);
     window->setText(report, true);
     window->show();
-    if (numbersLeftOut > 0) {
-        QMessageBox::warning(window, boxTitle(),
-                             tr("Numeri di blocco non stampati per mancanza di posto: %1.").arg(numbersLeftOut));
+    if (printed.numbersLeftOut > 0) {
+        QMessageBox::warning(
+            window, boxTitle(),
+            tr("Numeri di blocco non stampati per mancanza di posto: %1.").arg(printed.numbersLeftOut));
     }
 }
 
@@ -65,13 +66,14 @@ QString MainWindow::askFileName(const QString &caption, const QString &format)
     return !chosen.isEmpty() && sure && globalConfig->rememberFolder(chosen) ? fileName : QString();
 }
 
-bool MainWindow::writeOutputFile(const QString &fileName, QString &report, int &numbersLeftOut)
+CreateOutputFile::Printed MainWindow::writeOutputFile(const QString &fileName, QString &report)
 {
     const WaitCursor wait(this);
     CreateOutputFile output(this);
     connect(&output, &CreateOutputFile::status, this, &MainWindow::updateStatusBar);
-    int *const numbered = ui->actionNumeraBlocchi->isChecked() ? &numbersLeftOut : nullptr;
-    return output.create(fileName, m_cartella.get(), report, numbered) >= 0;
+    const bool numbered = ui->actionNumeraBlocchi->isChecked();
+    return output.create(fileName, m_cartella.get(), report,
+                         numbered ? CreateOutputFile::Numbers::BesideBlocks : CreateOutputFile::Numbers::None);
 }
 
 void MainWindow::openPreview()

@@ -49,7 +49,13 @@ CreateOutputFile::CreateOutputFile(QObject *parent)
 {
 }
 
-int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QString &report, int *numbersLeftOut)
+int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QString &report)
+{
+    return create(outputFileName, set, report, Numbers::None).bytes;
+}
+
+CreateOutputFile::Printed CreateOutputFile::create(const QString &outputFileName, Cartella *set, QString &report,
+                                                   Numbers numbers)
 {
     fileName = outputFileName;
     cartella = set;
@@ -58,16 +64,21 @@ int CreateOutputFile::create(const QString &outputFileName, Cartella *set, QStri
     const int id = globalConfig->outputFormatId;
     if (suffix != globalConfig->outputFormatName || id == noFormatId) {
         report += tr("Formato file sconosciuto!");
-        return failure;
+        return {failure};
     }
     if (id != pdfFormatId) {
         report += tr("Formato %1 non disponibile. Creazione annullata.").arg(globalConfig->formatName(id));
-        return 0;
+        return {};
     }
-    return printPdf(report, numbersLeftOut);
+    return printPdf(report, numbers);
 }
 
-int CreateOutputFile::printPdf(QString &report, int *numbersLeftOut)
+int CreateOutputFile::printPdf(QString &report)
+{
+    return printPdf(report, Numbers::None).bytes;
+}
+
+CreateOutputFile::Printed CreateOutputFile::printPdf(QString &report, Numbers numbers)
 {
     WholeFile file(fileName);
     const bool created = file.create();
@@ -76,32 +87,31 @@ int CreateOutputFile::printPdf(QString &report, int *numbersLeftOut)
     QPainter painter;
     if (!created || !painter.begin(&printer)) {
         report += tr("Impossibile scrivere sul file!");
-        return failure;
+        return {failure};
     }
-    if (!printInto(file, painter, printer, numbersLeftOut)) {
+    const std::optional<int> leftOut = printInto(file, painter, printer, numbers);
+    if (!leftOut) {
         report += tr("Impossibile continuare a scrivere sul file!");
-        return failure;
+        return {failure};
     }
     const qint64 bytes = QFileInfo(fileName).size();
     report += successReport(bytes);
     emit status(tr("Stampa PDF completata!"));
-    return static_cast<int>(bytes);
+    return {static_cast<int>(bytes), *leftOut};
 }
 
-bool CreateOutputFile::printInto(WholeFile &file, QPainter &painter, QPrinter &printer, int *numbersLeftOut)
+std::optional<int> CreateOutputFile::printInto(WholeFile &file, QPainter &painter, QPrinter &printer, Numbers numbers)
 {
     const DocumentLayout document = documentLayout(sheetOf(printer.pageLayout(), printer.resolution(), *cartella));
     const PagePainter pages(&painter, document);
-    CardNumbers numbers(&painter, document);
-    if (!printPages(pages, numbersLeftOut != nullptr ? &numbers : nullptr, printer)) {
+    CardNumbers numbering(&painter, document);
+    if (!printPages(pages, numbers == Numbers::BesideBlocks ? &numbering : nullptr, printer)) {
         painter.end();
         file.leaveIncomplete();
-        return false;
+        return std::nullopt;
     }
-    if (numbersLeftOut != nullptr) {
-        *numbersLeftOut = numbers.leftOut();
-    }
-    return painter.end() && isComplete(file.writtenName()) && file.commit();
+    const bool whole = painter.end() && isComplete(file.writtenName()) && file.commit();
+    return whole ? std::optional(numbering.leftOut()) : std::nullopt;
 }
 
 bool CreateOutputFile::printPages(const PagePainter &painter, CardNumbers *numbers, QPrinter &printer)

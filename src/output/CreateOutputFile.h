@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 class CardNumbers;
 class Cartella;
 class PagePainter;
@@ -20,14 +22,23 @@ class CreateOutputFile final : public QObject
 public:
     explicit CreateOutputFile(QObject *parent = nullptr);
 
+    // Whether each block has its number beside it.
+    enum class Numbers { None, BesideBlocks };
+    struct Printed
+    {
+        int bytes = 0;
+        int numbersLeftOut = 0; // for which there was no room
+    };
+
     // Chooses the writer by the suffix of fileName. The size of the file in bytes, 0 when the format is not available,
-    // negative on failure. `set` is not owned. With `numbersLeftOut` each block has its number beside it, and it is
-    // told for how many there was no room.
-    int create(const QString &outputFileName, Cartella *set, QString &report, int *numbersLeftOut = nullptr);
+    // negative on failure. `set` is not owned.
+    int create(const QString &outputFileName, Cartella *set, QString &report);
+    Printed create(const QString &outputFileName, Cartella *set, QString &report, Numbers numbers);
     // Writes `fileName` from `cartella`. The size of the file in bytes, -1 on failure. The file takes its name only
     // when it is whole, so that a failed print leaves an older one; what was written until a page failed is left as
     // well.
-    int printPdf(QString &report, int *numbersLeftOut = nullptr);
+    int printPdf(QString &report);
+    Printed printPdf(QString &report, Numbers numbers);
 
     QString fileName;
     Cartella *cartella = nullptr; // not owned
@@ -36,8 +47,8 @@ signals:
     void status(const QString &text);
 
 private:
-    // False when not all of it came into the file.
-    bool printInto(WholeFile &file, QPainter &painter, QPrinter &printer, int *numbersLeftOut);
+    // How many numbers were left out; none when not all of it came into the file.
+    std::optional<int> printInto(WholeFile &file, QPainter &painter, QPrinter &printer, Numbers numbers);
     // False when the file cannot be written on. `numbers` may be null.
     bool printPages(const PagePainter &painter, CardNumbers *numbers, QPrinter &printer);
     QString successReport(qint64 bytes) const;
