@@ -6,6 +6,7 @@
 #include "mainwindow/Selezione.h"
 #include "mainwindow/WatchedPages.h"
 #include "model/Cartella.h"
+#include "output/CreateOutputFile.h"
 
 #include <QElapsedTimer>
 #include <QFont>
@@ -151,7 +152,7 @@ private:
 
     // Printing.
     QString askFileName(const QString &caption, const QString &format);
-    bool writeOutputFile(const QString &fileName, QString &report, int &numbersLeftOut);
+    CreateOutputFile::Printed writeOutputFile(const QString &fileName, QString &report);
     void openPreview();
     void updatePreview();
     void cardSetChanged();
@@ -161,6 +162,7 @@ private:
     // The evening.
     void saveRegister();
     void openEvening();
+    void rememberNumbers(NumberRange numbers, int pagesBefore);
 
     // The page table.
     QTableWidget *replaceTable();
@@ -215,6 +217,8 @@ private:
     QPointer<EditPersonale> m_editor; // deletes itself when closed
     int m_pageShown = 0;              // 1-based, 0 for none
     int m_pagesBeforeEditor = 0;      // page count of the set when the editor got it
+    NumberRange m_editorNumbers;      // that the editor got
+    NumberRange m_numbers;            // that the pages of the set were made with
     bool m_leaving = false;           // the user has confirmed leaving
     bool m_generated = false;         // a card set has been generated
     bool m_unprinted = false;         // it was changed after it was printed

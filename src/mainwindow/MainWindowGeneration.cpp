@@ -95,6 +95,7 @@ bool MainWindow::generate(bool append)
     }
     const CardParameters requested = parameters();
     letClosedDialogsDisappear();
+    const int pagesBefore = append ? m_cartella->getNumPages() : 0;
     if (append) {
         if (!appendEmptyPages(requested)) {
             return false;
@@ -104,7 +105,8 @@ bool MainWindow::generate(bool append)
     }
     updateStatusBar(withShape(tr("Cartella di %1 pagine, %2 blocchi %3X%4 generata"), requested));
     m_cellsInMemory += ParameterRules::cellsRequested(requested);
-    fillPages(append ? m_cartella->getNumPages() - requested.pages : 0, requested);
+    fillPages(pagesBefore, requested);
+    rememberNumbers({requested.minimum, requested.maximum}, pagesBefore);
     m_generated = true;
     ui->pagine_lcdNumber->display(m_cartella->getNumPages());
     cardSetChanged();
@@ -228,6 +230,7 @@ void MainWindow::makeEditor(bool append)
 {
     const WaitCursor wait(this);
     const CardParameters p = parameters();
+    m_editorNumbers = {p.minimum, p.maximum};
     m_editor = new EditPersonale(this, m_cartella.get(), static_cast<U8>(p.rows), static_cast<U8>(p.columns),
                                  static_cast<U16>(p.pages), p.minimum, p.maximum, append ? 1 : 0);
     connect(m_editor, &EditPersonale::done, this, &MainWindow::generatePersDone);
@@ -240,6 +243,7 @@ void MainWindow::generatePersDone()
         return;
     }
     m_generated = true;
+    rememberNumbers(m_editorNumbers, m_pagesBeforeEditor);
     ui->pagine_lcdNumber->display(pages);
     cardSetChanged();
     ui->pagina_corrente_spinBox->setValue(m_pageShown + 1);

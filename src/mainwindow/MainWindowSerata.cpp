@@ -6,6 +6,8 @@
 #include "serata/Serata.h"
 #include "ui_MainWindow.h"
 
+#include <algorithm>
+
 void MainWindow::saveRegister()
 {
     if (!requirePages()) {
@@ -31,5 +33,15 @@ void MainWindow::openEvening()
     letClosedDialogsDisappear();
     const WaitCursor wait(this);
     const CardParameters now = parameters();
-    Serata::open(this, *m_cartella, static_cast<quint32>(now.minimum), static_cast<quint32>(now.maximum));
+    const bool empty = m_cartella->getNumPages() == 0;
+    const NumberRange numbers = empty ? NumberRange{now.minimum, now.maximum} : m_numbers;
+    Serata::open(this, *m_cartella, static_cast<quint32>(numbers.lowest), static_cast<quint32>(numbers.highest));
+}
+
+// Pages were made with these numbers; those before, if any, with theirs.
+void MainWindow::rememberNumbers(NumberRange numbers, int pagesBefore)
+{
+    m_numbers = pagesBefore == 0 ? numbers
+                                 : NumberRange{std::min(m_numbers.lowest, numbers.lowest),
+                                               std::max(m_numbers.highest, numbers.highest)};
 }

@@ -5,6 +5,13 @@
 
 #include <QString>
 
+// Of the numbers that are drawn, both ends included.
+struct NumberRange
+{
+    int lowest = 1;
+    int highest = 90;
+};
+
 // The parameters of a classic card set, as the user set them.
 struct CardParameters
 {

@@ -5,6 +5,7 @@
 #include "output/CreateOutputFile.h"
 #include "output/PageImage.h"
 #include "output/PdfTools.h"
+#include "personale/EditPersonale.h"
 #include "serata/Registro.h"
 #include "serata/Serata.h"
 #include "support/FileFaults.h"
@@ -32,6 +33,8 @@ private slots:
     void aRegisterThatCannotBeWrittenIsToldOf();
     void theEveningOpensOnTheSet();
     void whatHappensToTheSetChangesNothingInTheEvening();
+    void theNumbersAreThoseOfAllPages();
+    void handDrawnPagesHaveTheirNumbers();
     void theEveningOpensOnceAndAgain();
     void theEveningGoesWithTheWindow();
 
@@ -196,8 +199,9 @@ void tst_MainWindowSerata::aRegisterThatCannotBeWrittenIsToldOf()
 void tst_MainWindowSerata::theEveningOpensOnTheSet()
 {
     PageWindow page;
-    generate(page);
     page.find<QSpinBox>("box_classica_numeromassimo")->setValue(95);
+    generate(page);
+    page.find<QSpinBox>("box_classica_numeromassimo")->setValue(99); // for the next set
     page.find<QAction>("actionSerata")->trigger();
     const auto *evening = page.window->findChild<Serata *>();
     QVERIFY(evening != nullptr && evening->isVisible());
@@ -235,6 +239,52 @@ void tst_MainWindowSerata::whatHappensToTheSetChangesNothingInTheEvening()
     QTest::keyClick(card, Qt::Key_Return);
     const auto *table = evening->findChild<QTableWidget *>(QStringLiteral("scheda_table"));
     QVERIFY(!table->findItems(number, Qt::MatchExactly).isEmpty());
+}
+
+void tst_MainWindowSerata::theNumbersAreThoseOfAllPages()
+{
+    PageWindow page;
+    const auto range = [&page](int lowest, int highest) {
+        page.find<QSpinBox>("box_classica_numeromassimo")->setValue(highest);
+        page.find<QSpinBox>("box_classica_numerominimo")->setValue(lowest);
+    };
+    const auto opened = [&page]() {
+        page.find<QAction>("actionSerata")->trigger();
+        QPointer<Serata> evening = page.window->findChild<Serata *>();
+        const QString status = evening->statusBar()->currentMessage();
+        evening->close();
+        return QTest::qWaitFor([&evening]() { return evening.isNull(); }) ? status : QStringLiteral("still there");
+    };
+    range(1, 75);
+    QCOMPARE(opened(), QStringLiteral("Schede: 0. Numeri da 1 a 75. Chiamati: 0.")); // no set yet
+    range(5, 95);
+    generate(page);
+    range(2, 92);
+    QVERIFY(page.window->generate(true));
+    range(1, 99);
+    QCOMPARE(opened(), QStringLiteral("Schede: 36. Numeri da 2 a 95. Chiamati: 0."));
+    QVERIFY(page.window->generate(false)); // the others are gone
+    QCOMPARE(opened(), QStringLiteral("Schede: 18. Numeri da 1 a 99. Chiamati: 0."));
+}
+
+void tst_MainWindowSerata::handDrawnPagesHaveTheirNumbers()
+{
+    PageWindow page;
+    page.config.defaultSaveDir = QDir::currentPath();
+    page.find<QSpinBox>("box_classica_numeromassimo")->setValue(95);
+    page.check("MappaManuale");
+    QVERIFY(page.window->generate(true));
+    QPointer<EditPersonale> editor = page.window->findChild<EditPersonale *>();
+    const QString title = QStringLiteral("Quintra - Mappatura manuale");
+    page.boxes.expectBox(title, QStringLiteral("Pagine create e aggiunte alla cartella principale!"), QMessageBox::Ok);
+    editor->on_creapagineButton_clicked();
+    page.boxes.expectBox(title, QStringLiteral("Sei sicuro di voler chiudere?"), QMessageBox::Yes);
+    editor->close();
+    QTRY_VERIFY(editor.isNull());
+    page.find<QSpinBox>("box_classica_numeromassimo")->setValue(99);
+    page.find<QAction>("actionSerata")->trigger();
+    QCOMPARE(page.window->findChild<Serata *>()->statusBar()->currentMessage(),
+             QStringLiteral("Schede: 1. Numeri da 1 a 95. Chiamati: 0."));
 }
 
 void tst_MainWindowSerata::theEveningOpensOnceAndAgain()
