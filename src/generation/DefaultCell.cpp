@@ -19,12 +19,19 @@ struct ReadPicture
     QImage picture;
 };
 
-ReadPicture read(const QFileInfo &file)
+bool isOfSameState(const ReadPicture &a, const ReadPicture &b)
+{
+    return a.path == b.path && a.modified == b.modified && a.size == b.size;
+}
+
+// Adds the picture; nothing is known of one that found no memory.
+ReadPicture read(ReadPicture state)
 {
     try {
-        return {file.absoluteFilePath(), file.lastModified(), file.size(), loadCellImage(file.filePath())};
+        state.picture = loadCellImage(state.path);
+        return state;
     } catch (const std::bad_alloc &) {
-        qWarning("DefaultCell::image(): no memory for %s", qPrintable(file.filePath()));
+        qWarning("DefaultCell::image(): no memory for %s", qPrintable(state.path));
         return {};
     }
 }
@@ -50,10 +57,9 @@ QImage DefaultCell::image()
     static ReadPicture last;
 
     const QFileInfo file(imagePath());
-    const bool unchanged =
-        last.path == file.absoluteFilePath() && last.modified == file.lastModified() && last.size == file.size();
-    if (!unchanged) {
-        last = read(file);
+    const ReadPicture now{file.absoluteFilePath(), file.lastModified(), file.size(), QImage()};
+    if (!isOfSameState(last, now)) {
+        last = read(now);
     }
     return last.picture;
 }

@@ -134,6 +134,8 @@ private:
     void showSettingStatus(Verdict verdict, const QString &toolTip);
 
     // Generation.
+    bool confirmNewSet();
+    bool confirmGeneration(bool append);
     bool confirmVerdict(int verdict, const QString &message);
     void replaceCardSet(std::unique_ptr<Cartella> cartella);
     bool generateUndisturbed(bool append);

@@ -38,9 +38,7 @@ void MainWindow::on_butt_aggiungi_pagine_clicked()
 
 void MainWindow::on_actionCrea_triggered()
 {
-    if (m_generated &&
-        !confirmLoss(this, boxTitle(), tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
-                     unprintedPages())) {
+    if (!confirmNewSet()) {
         return;
     }
     const bool generated = generateUndisturbed(false);
@@ -48,6 +46,16 @@ void MainWindow::on_actionCrea_triggered()
     if (generated) {
         warnOfUnreadableImage();
     }
+}
+
+// Whether the present card set may go.
+bool MainWindow::confirmNewSet()
+{
+    if (!m_generated) {
+        return true;
+    }
+    return confirmLoss(this, boxTitle(), tr("Sei sicuro di voler cancellare la cartella e crearne una nuova?"),
+                       unprintedPages());
 }
 
 // No second generation and no comparison can start from a box that a generation shows.
@@ -87,9 +95,7 @@ bool MainWindow::generate(bool append)
     if (ui->MappaManuale->isChecked()) {
         return openEditor(append);
     }
-    QString message;
-    if (!confirmVerdict(checkParameters(&message, append), message) ||
-        !confirmMemory(this, boxTitle(), ParameterRules::bytesRequested(parameters()), unprintedPages())) {
+    if (!confirmGeneration(append)) {
         updateStatusBar(tr("Creazione annullata."));
         return false;
     }
@@ -114,6 +120,15 @@ bool MainWindow::generate(bool append)
         showFirstPage();
     }
     return true;
+}
+
+bool MainWindow::confirmGeneration(bool append)
+{
+    QString message;
+    if (!confirmVerdict(checkParameters(&message, append), message)) {
+        return false;
+    }
+    return confirmMemory(this, boxTitle(), ParameterRules::bytesRequested(parameters()), unprintedPages());
 }
 
 // Tells the user of an error, asks about a warning; whether to go on. A verdict that is none stops the program.

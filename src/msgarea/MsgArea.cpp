@@ -111,10 +111,15 @@ void MsgArea::fitReport()
 
 void MsgArea::closeEvent(QCloseEvent *event)
 {
-    const bool stays =
-        isAsking(*this) || (m_fileMode && m_modified &&
-                            !confirmLoss(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"), loss()));
-    event->setAccepted(!stays);
+    event->setAccepted(!isAsking(*this) && confirmClosing());
+}
+
+bool MsgArea::confirmClosing()
+{
+    if (!m_fileMode || !m_modified) {
+        return true;
+    }
+    return confirmLoss(this, tr("Testo modificato"), tr("Vuoi uscire senza salvare?"), loss());
 }
 
 // What leaving would lose. A text counts as modified from its loading on, though the user did not touch it.

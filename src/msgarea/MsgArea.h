@@ -40,6 +40,7 @@ private slots:
     void fileModified();
 
 private:
+    bool confirmClosing();
     QString loss() const;
     void fitReport();
 

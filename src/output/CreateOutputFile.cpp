@@ -39,8 +39,11 @@ bool isComplete(const QString &fileName)
     constexpr char endMark[] = "%%EOF";
     constexpr qint64 tail = sizeof(endMark) + 1; // line ends included
     QFile file(fileName);
-    return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) && file.size() >= tail &&
-           file.seek(file.size() - tail) && file.read(tail).contains(endMark);
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    file.seek(qMax<qint64>(0, file.size() - tail));
+    return file.readAll().contains(endMark);
 }
 } // namespace
 

@@ -35,7 +35,10 @@ QString fileFilter()
 // The suffix counts only in its exact case.
 QString withSuffix(const QString &fileName)
 {
-    return QFileInfo(fileName).suffix() == fileSuffix() ? fileName : fileName + QLatin1Char('.') + fileSuffix();
+    if (QFileInfo(fileName).suffix() == fileSuffix()) {
+        return fileName;
+    }
+    return fileName + QLatin1Char('.') + fileSuffix();
 }
 
 MappingFile::SchemaPagina schemeOf(const PaginaPersonale &page)
@@ -102,8 +105,10 @@ QString EditPersonale::askSaveFileName()
         return QString();
     }
     const QString fileName = withSuffix(chosen);
-    const bool sure =
-        fileName == chosen || confirmOverwriting(this, Product::titleFor(tr("Mappatura manuale")), fileName);
+    if (fileName == chosen) {
+        return fileName;
+    }
+    const bool sure = confirmOverwriting(this, Product::titleFor(tr("Mappatura manuale")), fileName);
     return sure ? fileName : QString();
 }
 

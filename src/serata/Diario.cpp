@@ -128,7 +128,10 @@ bool Diario::begin(quint64 impronta, Intervallo numeri)
     if (!add(cardsLine(impronta) + '\n' + gameLine(numeri))) {
         return false;
     }
-    return isFolderSynced(m_file.fileName()) || fail(qt_error_string(errno));
+    if (!isFolderSynced(m_file.fileName())) {
+        return fail(qt_error_string(errno));
+    }
+    return true;
 }
 
 std::optional<Diario::Corso> Diario::resume()

@@ -69,9 +69,11 @@ QString SerataSalvata::putAside(Parte parte)
     const QString diario = diarioOf(m_registro);
     const QString newName = nameAside(m_registro);
     const bool held = !QFile::exists(diario) || m_diario.resume();
-    const bool moved = held && renameIfThere(diario, diarioOf(newName)) &&
-                       (parte == Parte::Chiamate || renameIfThere(m_registro, newName));
-    return moved ? newName : QString();
+    if (!held || !renameIfThere(diario, diarioOf(newName))) {
+        return QString();
+    }
+    const bool whole = parte == Parte::Chiamate || renameIfThere(m_registro, newName);
+    return whole ? newName : QString();
 }
 
 bool SerataSalvata::startGame(Intervallo numeri)

@@ -49,9 +49,9 @@ QString fallbackCellImage()
     return QDir::currentPath() + QStringLiteral("/default.png");
 }
 
-bool isTextKey(const QByteArray &key)
+bool isTextKey(const QString &key)
 {
-    return key == keyCellText.toLatin1() || key == keyCellImage.toLatin1() || key == keySaveDir.toLatin1();
+    return key == keyCellText || key == keyCellImage || key == keySaveDir;
 }
 
 bool endsInLoneBackslash(const QByteArray &text)
@@ -68,7 +68,7 @@ bool endsInLoneBackslash(const QByteArray &text)
 QByteArray mended(const QByteArray &line)
 {
     const int equals = line.indexOf('=');
-    if (equals < 0 || !isTextKey(line.left(equals).trimmed())) {
+    if (equals < 0 || !isTextKey(QString::fromLatin1(line.left(equals).trimmed()))) {
         return line;
     }
     QByteArray text = line.mid(equals + 1).trimmed();
@@ -111,7 +111,10 @@ public:
     int number(const QString &key, int fallback) const { return text(key, QString::number(fallback)).toInt(); }
     QString text(const QString &key, const QString &fallback) const
     {
-        return m_settings ? m_settings->value(key, fallback).toString() : fallback;
+        if (!m_settings) {
+            return fallback;
+        }
+        return m_settings->value(key, fallback).toString();
     }
 
 private:

@@ -35,12 +35,21 @@ int byteCount(const QString &name)
     return QFile::encodeName(name).size();
 }
 
+bool isTaken(const QFileInfo &file)
+{
+    return file.exists() || file.isSymLink();
+}
+
 // A file that cannot be written is not replaced either: its own opening tells why.
 bool isReplaceable(const QFileInfo &file)
 {
-    const bool regular = file.isFile() && opensForWriting(file.filePath());
-    const bool missing = !file.exists() && !file.isSymLink() && byteCount(file.fileName()) <= longestName;
-    return (regular || missing) && QFileInfo(file.path()).isWritable();
+    if (!QFileInfo(file.path()).isWritable()) {
+        return false;
+    }
+    if (file.isFile()) {
+        return opensForWriting(file.filePath());
+    }
+    return !isTaken(file) && byteCount(file.fileName()) <= longestName;
 }
 
 QString nameBeside(const QFileInfo &file, int number)
@@ -51,12 +60,6 @@ QString nameBeside(const QFileInfo &file, int number)
         name.chop(1);
     }
     return file.path() + QLatin1Char('/') + name + suffix;
-}
-
-bool isTaken(const QString &fileName)
-{
-    const QFileInfo file(fileName);
-    return file.exists() || file.isSymLink();
 }
 
 // With the rights of the file that it is to replace; empty when there can be none, for the reason in `error`.
@@ -72,7 +75,7 @@ QString createBeside(const QFileInfo &file, QString &error)
             return beside.fileName();
         }
         error = beside.errorString();
-        if (!isTaken(beside.fileName())) {
+        if (!isTaken(QFileInfo(beside))) {
             break;
         }
     }
@@ -146,7 +149,7 @@ bool WholeFile::commit()
 
 void WholeFile::leaveIncomplete()
 {
-    if (!m_beside.isEmpty() && !isTaken(m_target)) {
+    if (!m_beside.isEmpty() && !isTaken(QFileInfo(m_target))) {
         takeName();
     }
     m_beside.clear();

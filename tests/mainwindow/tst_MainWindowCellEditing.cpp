@@ -118,6 +118,9 @@ private slots:
     void anotherPageDeletedDuringAQuestionKeepsTheEdit();
     void coloursGivenDuringAQuestionStay();
     void aPageDeletedDuringTheChoiceOfAPictureIsNotWritten();
+    void aPictureChosenForAPageNoLongerShownIsItsOwn();
+    void cellsClearedWhileThePageTurnsAreThoseSelected();
+    void withoutAPageNothingIsCleared();
     void aCellThatIsNoPictureAnyMoreGetsNone();
     void aClickThatEndsTheEditingStepsOnePage();
     void aClickThatEndsTheEditingPressesAButton();
@@ -468,6 +471,48 @@ void tst_MainWindowCellEditing::aPageDeletedDuringTheChoiceOfAPictureIsNotWritte
     w.press("buttSelezionaImmagine");
     QCOMPARE(w.set()->getNumPages(), 1);
     QVERIFY(w.cell(0, 0, 0).immagine.isNull());
+}
+
+void tst_MainWindowCellEditing::aPictureChosenForAPageNoLongerShownIsItsOwn()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 2});
+    w.cell(0, 0, 0).tipo = CELL_IMMAGINE;
+    w.window->loadPagina(0);
+    w.select(0, 0);
+    w.boxes.expectFileDialog(openCaption, QDir::currentPath() + QStringLiteral("/default.png"),
+                             [&w](QWidget *) { w.pageNumber()->setValue(2); });
+    w.boxes.expectBox(title, imageBox, QMessageBox::Yes);
+    w.press("buttSelezionaImmagine");
+    QVERIFY(!w.cell(0, 0, 0).immagine.isNull());
+    QCOMPARE(w.cell(1, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.item(0, 0)->text(), QString());
+    QCOMPARE(w.status(), QStringLiteral("Immagine impostata correttamente."));
+}
+
+void tst_MainWindowCellEditing::cellsClearedWhileThePageTurnsAreThoseSelected()
+{
+    PageWindow w;
+    w.showPages(2, {1, 1, 2});
+    w.cell(0, 0, 0).tipo = CELL_NUMERO;
+    w.cell(1, 0, 0).tipo = CELL_NUMERO;
+    w.window->loadPagina(0);
+    w.select(0, 0);
+    w.table()->setFocus();
+    w.boxes.expectBox(title, asText, QMessageBox::No, [&w](QMessageBox *) { w.pageNumber()->setValue(2); });
+    w.boxes.expectBox(title, asEmpty, QMessageBox::Yes);
+    QTest::keyClick(w.table(), Qt::Key_Delete);
+    QCOMPARE(w.cell(0, 0, 0).tipo, CELL_VUOTA);
+    QCOMPARE(w.cell(1, 0, 0).tipo, CELL_NUMERO);
+}
+
+void tst_MainWindowCellEditing::withoutAPageNothingIsCleared()
+{
+    PageWindow w;
+    w.table()->setFocus();
+    QTest::keyClick(w.table(), Qt::Key_Delete);
+    QCOMPARE(w.boxes.problems(), QStringList());
+    QCOMPARE(w.set()->getNumPages(), 0);
 }
 
 void tst_MainWindowCellEditing::aCellThatIsNoPictureAnyMoreGetsNone()

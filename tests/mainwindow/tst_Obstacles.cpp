@@ -6,6 +6,7 @@
 #include "output/CreateOutputFile.h"
 #include "output/SampleSets.h"
 #include "personale/EditorUnderTest.h"
+#include "serata/Diario.h"
 #include "serata/Registro.h"
 #include "serata/Serata.h"
 #include "settings/MadeTranslations.h"
@@ -55,6 +56,11 @@ QByteArray png()
     return buffer.data();
 }
 
+bool tellsWhy(const QString &reason)
+{
+    return !reason.isEmpty() && reason != QStringLiteral("Unknown error");
+}
+
 // Strikes when the user has chosen the file and nothing has been done with it yet.
 std::function<void(QWidget *)> strikingWhenChosen(Obstacle &obstacle)
 {
@@ -86,6 +92,10 @@ private slots:
     void aTextIsShown();
     void aPictureIsLoaded_data();
     void aPictureIsLoaded();
+    void anEveningIsBegun_data();
+    void anEveningIsBegun();
+    void aJournalIsRead_data();
+    void aJournalIsRead();
     void aTranslationIsLoaded_data();
     void aTranslationIsLoaded();
 };
@@ -303,6 +313,44 @@ void tst_Obstacles::aPictureIsLoaded()
     const QImage picture = loadCellImage(obstacle.path());
     obstacle.lift();
     QCOMPARE(picture.isNull(), obstacle.onReading() != Obstacle::Effect::None);
+}
+
+void tst_Obstacles::anEveningIsBegun_data()
+{
+    aSetIsPrinted_data();
+}
+
+void tst_Obstacles::anEveningIsBegun()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("a.chiamate"), QByteArray());
+    obstacle.strike();
+    Diario diario(obstacle.path());
+    const bool begun = diario.begin(5, {1, 90});
+    obstacle.lift();
+    QCOMPARE(begun, obstacle.onWriting() == Obstacle::Effect::None);
+    QVERIFY(begun || tellsWhy(diario.errorString()));
+    QCOMPARE(Diario::read(obstacle.path()).numeri.has_value(), begun);
+}
+
+void tst_Obstacles::aJournalIsRead_data()
+{
+    aSetIsPrinted_data();
+}
+
+void tst_Obstacles::aJournalIsRead()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    Obstacle obstacle(folder, kindNow(), QStringLiteral("a.chiamate"), "schede 5\nnumeri 1 90\n+34\n");
+    obstacle.strike();
+    const Diario::Corso corso = Diario::read(obstacle.path());
+    const bool seen = QFileInfo::exists(obstacle.path());
+    obstacle.lift();
+    const bool read = obstacle.onReading() == Obstacle::Effect::None;
+    QCOMPARE(corso.chiamate.size(), size_t(read ? 1 : 0));
+    QVERIFY(read || tellsWhy(corso.errore) || !seen);
 }
 
 void tst_Obstacles::aTranslationIsLoaded_data()

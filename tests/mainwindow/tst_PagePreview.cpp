@@ -70,6 +70,7 @@ class tst_PagePreview final : public QObject
     Q_OBJECT
 
 private slots:
+    void aSetThatIsGoneIsNotDrawn();
     void commandStandsAfterTheOptions();
     void pageOnDisplayIsShownAsPrinted();
     void previewFollowsThePageShown();
@@ -287,6 +288,21 @@ void tst_PagePreview::largestPageIsShown()
     page.showPages(1, {99, 9, 99});
     const PagePreview *preview = openPreview(page);
     QVERIFY(shows(preview, page, 0));
+}
+
+void tst_PagePreview::aSetThatIsGoneIsNotDrawn()
+{
+    const ScratchFolder folder;
+    const CurrentConfig config(qApp);
+    auto set = std::make_unique<Cartella>(quint16(2), U8(1), U8(1), U8(1));
+    PagePreview preview(nullptr);
+    preview.show();
+    preview.showPage(set.get(), 0, false);
+    const QImage drawn = seen(&preview);
+    set.reset();
+    QVERIFY(seen(&preview) != drawn);
+    preview.showPage(nullptr, 0, false);
+    QVERIFY(!sheet(&preview)->isVisible());
 }
 
 QTEST_MAIN(tst_PagePreview)

@@ -2,6 +2,7 @@
 // The panes at the sides of the main window and of the editor of manual mappings, and what they tell and offer.
 #include "mainwindow/PageWindow.h"
 #include "personale/EditPersonale.h"
+#include "widgets/SidePane.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -29,6 +30,7 @@ class tst_SidePanes final : public QObject
     Q_OBJECT
 
 private slots:
+    void aPaneWithoutContentHasTheSizeOfAScrollArea();
     void aPaneIsClosedAndComesBackByTheMenu_data();
     void aPaneIsClosedAndComesBackByTheMenu();
     void aPaneIsDrawnNarrower();
@@ -184,6 +186,11 @@ void tst_SidePanes::whatNewWillMakeIsTold()
     QCOMPARE(page.text("label_nuova"), QStringLiteral("Nuova: si apre l'editor della mappatura manuale"));
     page.check("MappaManuale");
     QCOMPARE(page.text("label_nuova"), QStringLiteral("Nuova: 50 pagine × 6 blocchi = 300 blocchi"));
+}
+
+void tst_SidePanes::aPaneWithoutContentHasTheSizeOfAScrollArea()
+{
+    QCOMPARE(SidePane().sizeHint(), QScrollArea().sizeHint());
 }
 
 QTEST_MAIN(tst_SidePanes)

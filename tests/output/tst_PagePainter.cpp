@@ -212,6 +212,18 @@ void tst_PagePainter::looksAndReadsAsIfEachCallWereMade_data()
             each.numero % 7 == 0 ? setPicture(each, picture) : void();
         });
     });
+    QTest::newRow("texts and pictures under translucent separators") << classicSet([](Cartella &set) {
+        const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
+        for (int b = 0; b < SampleSets::blocks; ++b) {
+            block(set, b).spessoreLineaInterna = 4;
+            block(set, b).coloreLineaInterna = QColor(0, 0, 255, 100);
+        }
+        forEachCell(set, [&](Cella &each) {
+            each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
+            each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
+            each.numero % 7 == 0 ? setPicture(each, picture) : void();
+        });
+    });
     QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
     QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
     QTest::newRow("outlines that reach those of the next block") << classicSet([](Cartella &set) {

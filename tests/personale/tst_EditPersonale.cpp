@@ -50,6 +50,7 @@ class tst_EditPersonale final : public QObject
     Q_OBJECT
 
 private slots:
+    void withoutAMainWindowItOpensAndCloses();
     void theWindowOpensOnPageOne();
     void withoutPagesTheWindowClosesAtOnce();
     void theWindowThatOpenedItTakesNoInput();
@@ -1130,6 +1131,24 @@ void tst_EditPersonale::textAndImageCellsGetTheDefaultTextAndImage()
         QCOMPARE(cellAt(*page, 0, 1)->immagine.size(), QSize(5, 4));
         QCOMPARE(cellAt(*page, 0, 2)->testo, QString());
     }
+}
+
+void tst_EditPersonale::withoutAMainWindowItOpensAndCloses()
+{
+    const ScratchFolder folder;
+    const CurrentConfig config(qApp);
+    Cartella set;
+    BoxScript boxes;
+    const QPointer<EditPersonale> editor = new EditPersonale(nullptr, &set, 1, 2, 1, 1, 90, 0);
+    const QSignalSpy done(editor, &EditPersonale::done);
+    QVERIFY(editor->isVisible());
+    boxes.expectBox(QStringLiteral("Quintra - Mappatura manuale"), QStringLiteral("Sei sicuro di voler chiudere?"),
+                    QMessageBox::Yes);
+    editor->close();
+    QCOMPARE(boxes.problems(), QStringList());
+    QCOMPARE(done.size(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(editor.isNull());
 }
 
 QTEST_MAIN(tst_EditPersonale)

@@ -105,6 +105,7 @@ private slots:
     void aLostMappingIsToldBesideTheReport();
     void afterAnyFaultTheOldMappingOrTheNewOneIsWhole_data();
     void afterAnyFaultTheOldMappingOrTheNewOneIsWhole();
+    void killedAtAnyCallTheOldMappingOrTheNewOneIsWhole();
     void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted_data();
     void aFileMetByTheAppendedSuffixIsOverwrittenOnlyWhenWanted();
 
@@ -333,6 +334,27 @@ void tst_EditPersonaleFile::aLostMappingIsToldBesideTheReport()
     }
     reportMatches(t, QStringLiteral("out"), 1, "what was there");
     QCOMPARE(t.folder.read(QStringLiteral("out.QcF")), QByteArray("what was there"));
+}
+
+void tst_EditPersonaleFile::killedAtAnyCallTheOldMappingOrTheNewOneIsWhole()
+{
+    EditorUnderTest t(1, 1, 1);
+    const QString path = t.folder.path(QStringLiteral("out.QcF"));
+    int call = 1;
+    for (bool killed = true; killed; ++call) {
+        t.folder.write(QStringLiteral("out.QcF"), "what was there");
+        killed = isKilledDuring([&]() {
+            t.expectSave(path);
+            t.boxes.expectBox(QStringLiteral("Salva le cartelle su file"),
+                              QStringLiteral("out.QcF already exists.\nDo you want to replace it?"), QMessageBox::Yes);
+            const FileFaults fault(path, FileFaults::Calls::Changes, call, FileFaults::Effect::Death);
+            t.trigger("actionSave");
+        });
+        const QByteArray found = t.folder.read(QStringLiteral("out.QcF"));
+        QVERIFY2(found == "!o\n" || (killed && found == "what was there"), qPrintable(QString::number(call)));
+        QFile::remove(path + QStringLiteral(".part"));
+    }
+    QVERIFY(call > 4);
 }
 
 void tst_EditPersonaleFile::afterAnyFaultTheOldMappingOrTheNewOneIsWhole_data()

@@ -53,6 +53,7 @@ class tst_Partita final : public QObject
 
 private slots:
     void theRangeIsThatOfTheCards();
+    void rangesDifferByEitherEnd();
     void theUsualNumbersAreThoseOfTombola_data();
     void theUsualNumbersAreThoseOfTombola();
     void theMemoryOfAGameGrowsWithItsCells();
@@ -114,6 +115,12 @@ void tst_Partita::theMemoryOfAGameGrowsWithItsCells()
     QCOMPARE(bytesToPlay(Cartella(50, 6, 3, 9)), 50 * page);
     QVERIFY(bytesToPlay(Cartella(1, 6, 3, 10)) > page);
     QVERIFY(bytesToPlay(Cartella(1, 6, 3, 0)) < page);
+}
+
+void tst_Partita::rangesDifferByEitherEnd()
+{
+    QVERIFY(!(Intervallo{1, 90} == Intervallo{1, 89}));
+    QVERIFY(!(Intervallo{1, 90} == Intervallo{2, 90}));
 }
 
 void tst_Partita::cardsAreFoundByTheirPosition()

@@ -38,6 +38,7 @@ private slots:
     void aCardOfFewNumbersWinsWithThem();
     void aNumberThatStandsTwiceCountsOnce();
     void onlyNumbersCount();
+    void prizesDifferByKindAndCall();
     void aCardWithoutNumbersWinsNothing();
 };
 
@@ -107,6 +108,14 @@ void tst_Premi::onlyNumbersCount()
     Scheda scheda = made({1, 1}, {QStringLiteral("1 jolly * - 2")});
     scheda.righe[0][1].testo = QStringLiteral("3");
     QCOMPARE(won(scheda, {3, 1, 2}), QStringLiteral("Ambo 3, Tombola 3"));
+}
+
+void tst_Premi::prizesDifferByKindAndCall()
+{
+    const Vincita ambo{Premio::Ambo, 3};
+    QVERIFY(ambo == (Vincita{Premio::Ambo, 3}));
+    QVERIFY(!(ambo == Vincita{Premio::Ambo, 4}));
+    QVERIFY(!(ambo == Vincita{Premio::Terno, 3}));
 }
 
 void tst_Premi::aCardWithoutNumbersWinsNothing()

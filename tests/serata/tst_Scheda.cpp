@@ -16,6 +16,7 @@ class tst_Scheda final : public QObject
 private slots:
     void theCardsOfASetAreItsBlocksInOrder();
     void aCardHoldsWhatItsBlockShows();
+    void cellsDifferByTypeNumberAndText();
     void whatACellHeldBeforeIsNotPartOfTheCard();
     void aCopyDoesNotFollowTheSet();
     void theNumbersOfARowAreDifferentAndAscending();
@@ -54,6 +55,15 @@ void tst_Scheda::aCardHoldsWhatItsBlockShows()
     QVERIFY(!(schedaOf(block, {1, 2}) == wanted));
     block.righe[1].celle[1].testo = QStringLiteral("Jolly");
     QVERIFY(!(schedaOf(block, {1, 1}) == wanted));
+}
+
+void tst_Scheda::cellsDifferByTypeNumberAndText()
+{
+    const Casella number{CELL_NUMERO, 5, QString()};
+    QVERIFY(number == (Casella{CELL_NUMERO, 5, QString()}));
+    QVERIFY(!(number == Casella{CELL_NUMERO, 6, QString()}));
+    QVERIFY(!(number == Casella{CELL_VUOTA, 5, QString()}));
+    QVERIFY(!(number == Casella{CELL_NUMERO, 5, QStringLiteral("5")}));
 }
 
 void tst_Scheda::whatACellHeldBeforeIsNotPartOfTheCard()

@@ -32,6 +32,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <cerrno>
 #include <cstdio>
 #include <functional>
 #include <numeric>
@@ -387,8 +388,11 @@ void tst_Serata::aDigitTypedOnTheBoardBeginsANumber()
     Evening e;
     QVERIFY(e.openSet());
     e.board()->setFocus();
-    QTest::keyClick(e.board(), Qt::Key_3);
     auto *edit = e.find<QLineEdit>("numero_edit");
+    QTest::keyClick(e.board(), Qt::Key_X);
+    QVERIFY(e.board()->hasFocus());
+    QCOMPARE(edit->text(), QString());
+    QTest::keyClick(e.board(), Qt::Key_3);
     QVERIFY(edit->hasFocus());
     QTest::keyClick(edit, Qt::Key_4);
     QTest::keyClick(edit, Qt::Key_Return);

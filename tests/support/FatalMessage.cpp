@@ -7,8 +7,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Of a build that measures which code ran; the end of the child would forget it.
-extern "C" __attribute__((weak)) void __gcov_dump();
+#ifdef QUINTRA_COVERAGE
+extern "C" void __gcov_dump();
+#endif
 
 namespace {
 constexpr int diedFatally = 42;
@@ -21,9 +22,9 @@ void reportFatal(QtMsgType type, const QMessageLogContext &, const QString &mess
     }
     const QByteArray text = message.toUtf8();
     const bool sent = write(reportPipe, text.constData(), static_cast<size_t>(text.size())) == text.size();
-    if (__gcov_dump != nullptr) {
-        __gcov_dump();
-    }
+#ifdef QUINTRA_COVERAGE
+    __gcov_dump(); // the end of the child would forget which code ran
+#endif
     _exit(sent ? diedFatally : 1);
 }
 
