@@ -52,7 +52,8 @@ int startQuintra(int &argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     tellTheDesktopWhoWeAre();
-    QApplication::setStyle(new ReadableStyle); // which the application owns
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
+    QApplication::setStyle(new ReadableStyle);
 
     const auto forgetAll = qScopeGuard([]() {
         globalUtils = nullptr;
