@@ -3,8 +3,6 @@
 
 #include "serata/Diario.h"
 
-#include <memory>
-
 // An evening every step of which is on the disk before it counts: a game on the cards of a register, and its journal in
 // a file beside that.
 class SerataSalvata final

@@ -6,6 +6,7 @@
 #include "manuale/Manuale.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
+#include "serata/Serata.h"
 #include "settings/FormatSelection.h"
 #include "settings/Options.h"
 
@@ -120,6 +121,9 @@ void tst_Shortcuts::noWindowHasOthers()
                  (QStringList{QStringLiteral("Ctrl+Q"), QStringLiteral("Ctrl+S")}));
     }
     QCOMPARE(shortcutsOf(Manuale()), (QStringList{QStringLiteral("Alt+Up"), QStringLiteral("Ctrl+F")}));
+    QCOMPARE(shortcutsOf(Serata()), (QStringList{QStringLiteral("Ctrl+N"), QStringLiteral("Ctrl+O"),
+                                                 QStringLiteral("Ctrl+W"), QStringLiteral("F1"), QStringLiteral("F11"),
+                                                 QStringLiteral("F2"), QStringLiteral("F3"), QStringLiteral("F5")}));
     QCOMPARE(shortcutsOf(Options(nullptr)), QStringList());
     QCOMPARE(shortcutsOf(FormatSelection(nullptr)), QStringList());
 }
