@@ -44,7 +44,7 @@ const Cella *cellAt(const Pagina &page, int tableRow, int column)
     return column >= 0 && column < row.nCelle ? begin(row) + column : nullptr;
 }
 
-QString cardNumber(int page, int block)
+QString blockNumber(int page, int block)
 {
     return QStringLiteral("%1.%2").arg(page).arg(block);
 }

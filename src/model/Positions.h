@@ -33,4 +33,4 @@ struct RowPosition
 [[nodiscard]] const Cella *cellAt(const Pagina &page, int tableRow, int column);
 
 // The number of a block in its set, as players know it: "12.3" is the third block of page 12, both counted from 1.
-[[nodiscard]] QString cardNumber(int page, int block);
+[[nodiscard]] QString blockNumber(int page, int block);

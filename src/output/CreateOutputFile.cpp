@@ -3,8 +3,8 @@
 
 #include "generation/GUtils.h"
 #include "model/Cartella.h"
-#include "output/CardNumbers.h"
 #include "output/Megabytes.h"
+#include "output/NumeriBlocchi.h"
 #include "output/PagePainter.h"
 #include "output/PaperSheet.h"
 #include "settings/Config.h"
@@ -107,7 +107,7 @@ std::optional<int> CreateOutputFile::printInto(WholeFile &file, QPainter &painte
 {
     const DocumentLayout document = documentLayout(sheetOf(printer.pageLayout(), printer.resolution(), *cartella));
     const PagePainter pages(&painter, document);
-    CardNumbers numbering(&painter, document);
+    NumeriBlocchi numbering(&painter, document);
     if (!printPages(pages, numbers == Numbers::BesideBlocks ? &numbering : nullptr, printer)) {
         painter.end();
         file.leaveIncomplete();
@@ -117,7 +117,7 @@ std::optional<int> CreateOutputFile::printInto(WholeFile &file, QPainter &painte
     return whole ? std::optional(numbering.leftOut()) : std::nullopt;
 }
 
-bool CreateOutputFile::printPages(const PagePainter &painter, CardNumbers *numbers, QPrinter &printer)
+bool CreateOutputFile::printPages(const PagePainter &painter, NumeriBlocchi *numbers, QPrinter &printer)
 {
     const int count = cartella->getNumPages();
     for (int p = 0; p < count; ++p) {

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-class CardNumbers;
+class NumeriBlocchi;
 class Cartella;
 class PagePainter;
 class QPainter;
@@ -50,7 +50,7 @@ private:
     // How many numbers were left out; none when not all of it came into the file.
     std::optional<int> printInto(WholeFile &file, QPainter &painter, QPrinter &printer, Numbers numbers);
     // False when the file cannot be written on. `numbers` may be null.
-    bool printPages(const PagePainter &painter, CardNumbers *numbers, QPrinter &printer);
+    bool printPages(const PagePainter &painter, NumeriBlocchi *numbers, QPrinter &printer);
     QString successReport(qint64 bytes) const;
 };
 

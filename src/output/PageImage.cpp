@@ -2,7 +2,7 @@
 #include "output/PageImage.h"
 
 #include "model/Cartella.h"
-#include "output/CardNumbers.h"
+#include "output/NumeriBlocchi.h"
 #include "output/PagePainter.h"
 #include "output/PaperSheet.h"
 
@@ -40,7 +40,7 @@ QImage pageImage(const Cartella &set, int page, const QSize &size, int resolutio
     painter.translate(layout.paintRectPixels(resolution).topLeft());
     PagePainter(&painter, documentLayout(sheet)).paintPage(*set.pagine.at(page));
     if (numbered) {
-        CardNumbers(&painter, documentLayout(sheet)).paint(*set.pagine.at(page), page + 1);
+        NumeriBlocchi(&painter, documentLayout(sheet)).paint(*set.pagine.at(page), page + 1);
     }
     return image;
 }

@@ -146,7 +146,7 @@ std::vector<quint32> numbersOf(const Scheda &scheda)
 
 QString positionText(Posizione posizione)
 {
-    return cardNumber(posizione.pagina, posizione.blocco);
+    return blockNumber(posizione.pagina, posizione.blocco);
 }
 
 std::optional<Posizione> parsePosition(const QString &text)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/CardNumbers.h"
+#include "output/NumeriBlocchi.h"
 
 #include "generation/GUtils.h"
 #include "output/CreateOutputFile.h"
@@ -142,7 +142,7 @@ QImage upright(const QString &text)
 }
 } // namespace
 
-class tst_CardNumbers final : public QObject
+class tst_NumeriBlocchi final : public QObject
 {
     Q_OBJECT
 
@@ -169,19 +169,19 @@ private:
     std::unique_ptr<CurrentConfig> m_config;
 };
 
-void tst_CardNumbers::init()
+void tst_NumeriBlocchi::init()
 {
     m_folder = std::make_unique<ScratchFolder>();
     m_config = std::make_unique<CurrentConfig>(qApp);
 }
 
-void tst_CardNumbers::cleanup()
+void tst_NumeriBlocchi::cleanup()
 {
     m_config.reset();
     m_folder.reset();
 }
 
-void tst_CardNumbers::everyBlockOfEveryPageHasItsNumber()
+void tst_NumeriBlocchi::everyBlockOfEveryPageHasItsNumber()
 {
     const auto set = SampleSets::classic(12);
     set->pagine[1]->nBlocchi = 4; // pages need not be alike
@@ -202,7 +202,7 @@ void tst_CardNumbers::everyBlockOfEveryPageHasItsNumber()
     }
 }
 
-void tst_CardNumbers::numbersStandInTheMarginOfEveryPaperFormat_data()
+void tst_NumeriBlocchi::numbersStandInTheMarginOfEveryPaperFormat_data()
 {
     QTest::addColumn<int>("format");
     for (int format = 0; format < GUtils::selectablePaperFormats; ++format) {
@@ -210,7 +210,7 @@ void tst_CardNumbers::numbersStandInTheMarginOfEveryPaperFormat_data()
     }
 }
 
-void tst_CardNumbers::numbersStandInTheMarginOfEveryPaperFormat()
+void tst_NumeriBlocchi::numbersStandInTheMarginOfEveryPaperFormat()
 {
     QFETCH(int, format);
     const auto set = SampleSets::classic(1);
@@ -231,7 +231,7 @@ void tst_CardNumbers::numbersStandInTheMarginOfEveryPaperFormat()
     }
 }
 
-void tst_CardNumbers::numbersAreReadWhenTheSheetIsTurnedClockwise()
+void tst_NumeriBlocchi::numbersAreReadWhenTheSheetIsTurnedClockwise()
 {
     constexpr int a6 = 10;
     constexpr int scale = 8;
@@ -249,7 +249,7 @@ void tst_CardNumbers::numbersAreReadWhenTheSheetIsTurnedClockwise()
     QVERIFY(agreement(shapeOf(beside.transformed(QTransform().rotate(-90))), number) < 0.8);
 }
 
-void tst_CardNumbers::theBlocksThemselvesAreUntouched_data()
+void tst_NumeriBlocchi::theBlocksThemselvesAreUntouched_data()
 {
     QTest::addColumn<int>("format");
     for (int format = 0; format < GUtils::selectablePaperFormats; ++format) {
@@ -260,7 +260,7 @@ void tst_CardNumbers::theBlocksThemselvesAreUntouched_data()
     }
 }
 
-void tst_CardNumbers::theBlocksThemselvesAreUntouched()
+void tst_NumeriBlocchi::theBlocksThemselvesAreUntouched()
 {
     QFETCH(int, format);
     const auto set = SampleSets::classic(1);
@@ -276,7 +276,7 @@ void tst_CardNumbers::theBlocksThemselvesAreUntouched()
     QCOMPARE(numbered.copy(blocks), plain.copy(blocks));
 }
 
-void tst_CardNumbers::numbersAreReadableOnAnyPage_data()
+void tst_NumeriBlocchi::numbersAreReadableOnAnyPage_data()
 {
     QTest::addColumn<QColor>("page");
     QTest::addColumn<QColor>("ink");
@@ -286,7 +286,7 @@ void tst_CardNumbers::numbersAreReadableOnAnyPage_data()
     QTest::newRow("black") << QColor(Qt::black) << QColor(Qt::white);
 }
 
-void tst_CardNumbers::numbersAreReadableOnAnyPage()
+void tst_NumeriBlocchi::numbersAreReadableOnAnyPage()
 {
     QFETCH(QColor, page);
     QFETCH(QColor, ink);
@@ -304,7 +304,7 @@ void tst_CardNumbers::numbersAreReadableOnAnyPage()
     QVERIFY2(inked > 300, qPrintable(QString::number(inked)));
 }
 
-void tst_CardNumbers::withoutRoomANumberIsLeftOut_data()
+void tst_NumeriBlocchi::withoutRoomANumberIsLeftOut_data()
 {
     QTest::addColumn<double>("margin");
     QTest::addColumn<int>("outline");
@@ -319,7 +319,7 @@ void tst_CardNumbers::withoutRoomANumberIsLeftOut_data()
     QTest::newRow("low blocks") << 2.0 << 1 << 46.0F << 6;
 }
 
-void tst_CardNumbers::withoutRoomANumberIsLeftOut()
+void tst_NumeriBlocchi::withoutRoomANumberIsLeftOut()
 {
     QFETCH(double, margin);
     QFETCH(int, outline);
@@ -337,7 +337,7 @@ void tst_CardNumbers::withoutRoomANumberIsLeftOut()
     QCOMPARE(numbersOn(1).size(), 6 - leftOut);
 }
 
-void tst_CardNumbers::theReportStaysAsItIs()
+void tst_NumeriBlocchi::theReportStaysAsItIs()
 {
     const auto set = SampleSets::classic(1);
     set->margineSinistro = 0.0;
@@ -347,7 +347,7 @@ void tst_CardNumbers::theReportStaysAsItIs()
     QVERIFY(printed.report.endsWith(QStringLiteral("Dimensioni pagina: A4 (210x297mm)")));
 }
 
-void tst_CardNumbers::withoutTheChoiceThereAreNoNumbers()
+void tst_NumeriBlocchi::withoutTheChoiceThereAreNoNumbers()
 {
     const auto set = SampleSets::classic(2);
     QString report;
@@ -360,7 +360,7 @@ void tst_CardNumbers::withoutTheChoiceThereAreNoNumbers()
     QVERIFY(bytes != withoutDates(m_folder->read(fileName)));
 }
 
-void tst_CardNumbers::theMarginBesideABlockEndsAtItsOutline()
+void tst_NumeriBlocchi::theMarginBesideABlockEndsAtItsOutline()
 {
     BlockLayout block;
     block.left = 8;
@@ -371,5 +371,5 @@ void tst_CardNumbers::theMarginBesideABlockEndsAtItsOutline()
     QCOMPARE(marginBeside(block, 4), QRectF(0, 30, 6, 50));
 }
 
-QTEST_MAIN(tst_CardNumbers)
-#include "tst_CardNumbers.moc"
+QTEST_MAIN(tst_NumeriBlocchi)
+#include "tst_NumeriBlocchi.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/CardNumbers.h"
+#include "output/NumeriBlocchi.h"
 
 #include "model/Cartella.h"
 #include "model/Positions.h"
@@ -12,14 +12,14 @@ namespace {
 constexpr int points = 6;
 } // namespace
 
-CardNumbers::CardNumbers(QPainter *painter, const DocumentLayout &document)
+NumeriBlocchi::NumeriBlocchi(QPainter *painter, const DocumentLayout &document)
     : m_painter(painter)
     , m_document(document)
     , m_font(defaultCellFont().family(), points)
 {
 }
 
-void CardNumbers::paint(const Pagina &page, int pageNumber)
+void NumeriBlocchi::paint(const Pagina &page, int pageNumber)
 {
     const PageLayout layout = pageLayout(m_document, page.nBlocchi, page.spazioBlocchi);
     m_painter->save();
@@ -28,7 +28,7 @@ void CardNumbers::paint(const Pagina &page, int pageNumber)
     int index = 0;
     for (const Blocco &block : page) {
         const BlockLayout place = blockLayout(layout, index++, block.nRighe);
-        if (!paintBeside(marginBeside(place, block.spessoreLineaEsterna), cardNumber(pageNumber, index))) {
+        if (!paintBeside(marginBeside(place, block.spessoreLineaEsterna), blockNumber(pageNumber, index))) {
             ++m_leftOut;
         }
     }
@@ -36,7 +36,7 @@ void CardNumbers::paint(const Pagina &page, int pageNumber)
 }
 
 // False when there is no room.
-bool CardNumbers::paintBeside(const QRectF &margin, const QString &number)
+bool NumeriBlocchi::paintBeside(const QRectF &margin, const QString &number)
 {
     const QFontMetricsF metrics(m_font, m_painter->device());
     const qreal height = metrics.capHeight(); // that of the digits

@@ -11,10 +11,10 @@ struct Pagina;
 // Paints the number of each block (page.block, as "12.3") small into the left margin of the page, beside the block: it
 // is read when the sheet is turned clockwise. A number for which the margin has no room is left out. The painter is not
 // owned and must be active.
-class CardNumbers final
+class NumeriBlocchi final
 {
 public:
-    CardNumbers(QPainter *painter, const DocumentLayout &document);
+    NumeriBlocchi(QPainter *painter, const DocumentLayout &document);
 
     // After the page itself. `pageNumber` counts from 1.
     void paint(const Pagina &page, int pageNumber);
