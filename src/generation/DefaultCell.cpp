@@ -57,7 +57,10 @@ QImage DefaultCell::image()
     static ReadPicture last;
 
     const QFileInfo file(imagePath());
-    const ReadPicture now{file.absoluteFilePath(), file.lastModified(), file.size(), QImage()};
+    ReadPicture now;
+    now.path = file.absoluteFilePath();
+    now.modified = file.lastModified();
+    now.size = file.size();
     if (!isOfSameState(last, now)) {
         last = read(now);
     }

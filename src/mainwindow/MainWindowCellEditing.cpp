@@ -162,8 +162,10 @@ void MainWindow::showContent(const TablePosition &place, bool asTyped)
 void MainWindow::clearSelectedCells()
 {
     Pagina *page = shownPage();
-    const QVector<TablePosition> places =
-        page != nullptr ? withCell(*page, selectedPositions()) : QVector<TablePosition>();
+    if (page == nullptr) {
+        return;
+    }
+    const QVector<TablePosition> places = withCell(*page, selectedPositions());
     if (places.isEmpty()) {
         return;
     }

@@ -69,7 +69,10 @@ QString typeText(const Selezione &selection, const Cartella &cartella)
     if (selection.cell != nullptr) {
         return QStringLiteral("(%1)").arg(cartella.cellType2String(selection.cell->tipo));
     }
-    return selection.kind == Selezione::Several ? QStringLiteral("(%1)").arg(selection.places) : QString();
+    if (selection.kind != Selezione::Several) {
+        return QString();
+    }
+    return QStringLiteral("(%1)").arg(selection.places);
 }
 } // namespace
 
@@ -89,7 +92,10 @@ QTableWidget *MainWindow::replaceTable()
     }
     const auto cellName = [this](int row, int column) {
         const Pagina *page = shownPage();
-        return page != nullptr ? spokenCell(*page, row, column, DefaultCell::text()) : QString();
+        if (page == nullptr) {
+            return QString();
+        }
+        return spokenCell(*page, row, column, DefaultCell::text());
     };
     m_table = new TabellaPagina(cellName, ui->centralwidget);
     m_table->setObjectName(QStringLiteral("tableWidget"));
@@ -210,7 +216,10 @@ QVector<TablePosition> MainWindow::selectedPositions() const
 Selezione MainWindow::selection() const
 {
     Pagina *page = shownPage();
-    return page != nullptr ? selectionOf(*page, selectedPositions()) : Selezione();
+    if (page == nullptr) {
+        return Selezione();
+    }
+    return selectionOf(*page, selectedPositions());
 }
 
 void MainWindow::tableItemSelectionChanged()

@@ -60,10 +60,15 @@ QString MainWindow::askFileName(const QString &caption, const QString &format)
     const QString suffix = format.toLower();
     const QString filter = QStringLiteral("%1 (*.%2);;").arg(format, suffix);
     const QString chosen = QFileDialog::getSaveFileName(this, caption, globalConfig->defaultSaveDir, filter);
-    const bool hasSuffix = QFileInfo(chosen).fileName().contains(QLatin1Char('.'));
-    const QString fileName = hasSuffix ? chosen : chosen + QLatin1Char('.') + suffix;
-    const bool sure = chosen.isEmpty() || hasSuffix || confirmOverwriting(this, boxTitle(), fileName);
-    return !chosen.isEmpty() && sure && globalConfig->rememberFolder(chosen) ? fileName : QString();
+    if (chosen.isEmpty()) {
+        return QString();
+    }
+    QString fileName = chosen;
+    if (!QFileInfo(chosen).fileName().contains(QLatin1Char('.'))) {
+        fileName += QLatin1Char('.') + suffix;
+    }
+    const bool sure = fileName == chosen || confirmOverwriting(this, boxTitle(), fileName);
+    return sure && globalConfig->rememberFolder(chosen) ? fileName : QString();
 }
 
 CreateOutputFile::Printed MainWindow::writeOutputFile(const QString &fileName, QString &report)

@@ -59,7 +59,10 @@ namespace {
 QAccessibleInterface *interfaceOf(const QString &, QObject *object)
 {
     auto *sheet = dynamic_cast<Foglio *>(object);
-    return sheet != nullptr ? new QAccessibleWidget(sheet, QAccessible::Graphic) : nullptr; // the toolkit owns it
+    if (sheet == nullptr) {
+        return nullptr;
+    }
+    return new QAccessibleWidget(sheet, QAccessible::Graphic); // the toolkit owns it
 }
 } // namespace
 
@@ -106,10 +109,12 @@ void PagePreview::showTexts()
     const int pages = m_set.isNull() ? 0 : m_set->getNumPages();
     ui->precedente_button->setEnabled(m_page > 0);
     ui->successiva_button->setEnabled(m_page + 1 < pages);
-    ui->pagina_label->setText(
-        m_set.isNull()
-            ? tr("La cartella è vuota!")
-            : tr("Pagina %1 di %2, %3").arg(m_page + 1).arg(pages).arg(GUtils::paperFormatName(m_set->formato)));
+    if (m_set.isNull()) {
+        ui->pagina_label->setText(tr("La cartella è vuota!"));
+    } else {
+        const QString format = GUtils::paperFormatName(m_set->formato);
+        ui->pagina_label->setText(tr("Pagina %1 di %2, %3").arg(m_page + 1).arg(pages).arg(format));
+    }
     m_sheet->setAccessibleName(ui->pagina_label->text());
 }
 

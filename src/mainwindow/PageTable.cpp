@@ -35,7 +35,10 @@ public:
     QVariant data(int role) const override
     {
         const auto *table = role == Qt::AccessibleTextRole ? dynamic_cast<TabellaPagina *>(tableWidget()) : nullptr;
-        return table != nullptr ? table->cellName(row(), column()) : QTableWidgetItem::data(role);
+        if (table == nullptr) {
+            return QTableWidgetItem::data(role);
+        }
+        return table->cellName(row(), column());
     }
 };
 

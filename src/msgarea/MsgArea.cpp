@@ -21,7 +21,8 @@ namespace {
 // Content of a Latin-1 file, empty when it cannot be read.
 QString readLatin1(QFile &file)
 {
-    if (isDevice(file.fileName()) || !file.open(QIODevice::ReadOnly)) {
+    const bool device = isDevice(file.fileName());
+    if (device || !file.open(QIODevice::ReadOnly)) {
         return QString();
     }
     QString text = QString::fromLatin1(file.readAll());

@@ -39,7 +39,8 @@ bool isComplete(const QString &fileName)
     constexpr char endMark[] = "%%EOF";
     constexpr qint64 tail = sizeof(endMark) + 1; // line ends included
     QFile file(fileName);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    const bool regular = QFileInfo(file).isFile();
+    if (!regular || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
     file.seek(qMax<qint64>(0, file.size() - tail));
@@ -113,8 +114,12 @@ std::optional<int> CreateOutputFile::printInto(WholeFile &file, QPainter &painte
         file.leaveIncomplete();
         return std::nullopt;
     }
-    const bool whole = painter.end() && isComplete(file.writtenName()) && file.commit();
-    return whole ? std::optional(numbering.leftOut()) : std::nullopt;
+    const bool ended = painter.end();
+    const bool complete = isComplete(file.writtenName());
+    if (!ended || !complete || !file.commit()) {
+        return std::nullopt;
+    }
+    return numbering.leftOut();
 }
 
 bool CreateOutputFile::printPages(const PagePainter &painter, NumeriBlocchi *numbers, QPrinter &printer)

@@ -15,7 +15,10 @@ class Text
 QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 {
     auto *box = className == QLatin1String("PersonaleChkBox") ? qobject_cast<PersonaleChkBox *>(object) : nullptr;
-    return box != nullptr ? new CasellaAccessibile(box) : nullptr; // the toolkit owns it
+    if (box == nullptr) {
+        return nullptr;
+    }
+    return new CasellaAccessibile(box); // the toolkit owns it
 }
 } // namespace
 

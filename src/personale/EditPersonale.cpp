@@ -287,10 +287,15 @@ bool EditPersonale::ask(const QString &title, const QString &question)
            QMessageBox::Yes;
 }
 
+bool EditPersonale::confirmClosing()
+{
+    return ask(Product::titleFor(tr("Mappatura manuale")), tr("Sei sicuro di voler chiudere?"));
+}
+
 void EditPersonale::closeEvent(QCloseEvent *event)
 {
     if (m_open) {
-        if (isAsking(*this) || !ask(Product::titleFor(tr("Mappatura manuale")), tr("Sei sicuro di voler chiudere?"))) {
+        if (isAsking(*this) || !confirmClosing()) {
             event->ignore();
             return;
         }

@@ -93,6 +93,7 @@ private:
     void createPages();
     void restoreMainWindow();
     bool ask(const QString &title, const QString &question);
+    bool confirmClosing();
 
     QString askSaveFileName();
     QByteArray mappingText();

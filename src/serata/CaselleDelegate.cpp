@@ -25,7 +25,8 @@ QFont fontFor(const QStyleOptionViewItem &option, int characters, bool called)
 
 QString CaselleDelegate::spoken(quint32 numero, bool called)
 {
-    return called ? tr("%1, chiamato").arg(numero) : tr("%1, non chiamato").arg(numero);
+    const QString text = called ? tr("%1, chiamato") : tr("%1, non chiamato");
+    return text.arg(numero);
 }
 
 void CaselleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -56,7 +56,8 @@ bool takeGame(const QByteArray &line, Diario::Corso &corso)
 {
     const QList<QByteArray> bounds = line.mid(int(qstrlen(gameWord))).split(' ');
     const Intervallo numeri{bounds.first().toUInt(), bounds.last().toUInt()};
-    if (line != gameLine(numeri) || numeri.da > numeri.a || numeri.a > numeroPiuAlto) {
+    const bool wellFormed = line == gameLine(numeri);
+    if (!wellFormed || numeri.da > numeri.a || numeri.a > numeroPiuAlto) {
         return false;
     }
     corso.numeri = numeri;
@@ -69,11 +70,13 @@ bool takeCall(const QByteArray &line, Diario::Corso &corso)
     const quint32 numero = line.mid(1).toUInt();
     const auto found = std::find(corso.chiamate.begin(), corso.chiamate.end(), numero);
     const bool wasCalled = found != corso.chiamate.end();
-    if (line == callLine(numero) && !wasCalled && corso.numeri && contains(*corso.numeri, numero)) {
+    const bool isCall = line == callLine(numero);
+    const bool isTakenBack = line == takenBackLine(numero);
+    if (isCall && !wasCalled && corso.numeri && contains(*corso.numeri, numero)) {
         corso.chiamate.push_back(numero);
         return true;
     }
-    if (line == takenBackLine(numero) && wasCalled) {
+    if (isTakenBack && wasCalled) {
         corso.chiamate.erase(found);
         return true;
     }
@@ -111,7 +114,10 @@ Diario::Corso Diario::read(const QString &fileName)
         return unreadable(Text::tr("Non è un file."));
     }
     const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    return file.error() == QFile::NoError ? courseOf(text) : unreadable(file.errorString());
+    if (file.error() != QFile::NoError) {
+        return unreadable(file.errorString());
+    }
+    return courseOf(text);
 }
 
 Diario::Diario(const QString &fileName)

@@ -104,7 +104,10 @@ QStringList describe(const Partita &partita, size_t scheda)
                      .arg(vincita.chiamata)
                      .arg(numero);
     }
-    return lines.isEmpty() ? QStringList(Serata::tr("Nessuna vincita")) : lines;
+    if (lines.isEmpty()) {
+        lines << Serata::tr("Nessuna vincita");
+    }
+    return lines;
 }
 } // namespace
 
@@ -269,7 +272,8 @@ void Serata::toggle(quint32 numero)
         return;
     }
     refresh();
-    say(partita.turnOf(numero) > 0 ? tr("Chiamato il %1.").arg(numero) : tr("Tolto il %1.").arg(numero));
+    const QString done = partita.turnOf(numero) > 0 ? tr("Chiamato il %1.") : tr("Tolto il %1.");
+    say(done.arg(numero));
 }
 
 void Serata::draw()

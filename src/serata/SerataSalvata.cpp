@@ -11,8 +11,11 @@ QString nameAside(const QString &fileName)
 {
     const QFileInfo file(fileName);
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH.mm.ss"));
-    const QString suffix = file.suffix().isEmpty() ? QString() : QLatin1Char('.') + file.suffix();
-    return file.dir().filePath(QStringLiteral("%1 %2").arg(file.completeBaseName(), time) + suffix);
+    const QString name = QStringLiteral("%1 %2").arg(file.completeBaseName(), time);
+    if (file.suffix().isEmpty()) {
+        return file.dir().filePath(name);
+    }
+    return file.dir().filePath(name + QLatin1Char('.') + file.suffix());
 }
 
 bool renameIfThere(const QString &fileName, const QString &newName)
@@ -68,8 +71,10 @@ QString SerataSalvata::putAside(Parte parte)
 {
     const QString diario = diarioOf(m_registro);
     const QString newName = nameAside(m_registro);
-    const bool held = !QFile::exists(diario) || m_diario.resume();
-    if (!held || !renameIfThere(diario, diarioOf(newName))) {
+    if (QFile::exists(diario) && !m_diario.resume()) {
+        return QString();
+    }
+    if (!renameIfThere(diario, diarioOf(newName))) {
         return QString();
     }
     const bool whole = parte == Parte::Chiamate || renameIfThere(m_registro, newName);

@@ -66,8 +66,11 @@ int TabelloneModel::columnCount(const QModelIndex &parent) const
 QVariant TabelloneModel::data(const QModelIndex &index, int role) const
 {
     const auto numero = numberAt(index);
+    if (!numero && role == Qt::AccessibleTextRole) {
+        return tr("nessun numero");
+    }
     if (!numero) {
-        return role == Qt::AccessibleTextRole ? tr("nessun numero") : QVariant();
+        return QVariant();
     }
     const bool called = m_partita->turnOf(*numero) > 0;
     switch (role) {

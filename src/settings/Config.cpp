@@ -67,8 +67,8 @@ bool endsInLoneBackslash(const QByteArray &text)
 // be read as a list, or end at the semicolon. A backslash at its end would swallow the next line.
 QByteArray mended(const QByteArray &line)
 {
-    const int equals = line.indexOf('=');
-    if (equals < 0 || !isTextKey(QString::fromLatin1(line.left(equals).trimmed()))) {
+    const int equals = qMax(0, line.indexOf('='));
+    if (!isTextKey(QString::fromLatin1(line.left(equals).trimmed()))) {
         return line;
     }
     QByteArray text = line.mid(equals + 1).trimmed();

@@ -8,25 +8,12 @@ namespace Product {
 constexpr char name[] = "Quintra";
 constexpr char release[] = "0.704";
 
-inline QString nameText()
-{
-    return QString::fromLatin1(name);
-}
-
-inline QString releaseText()
-{
-    return QString::fromLatin1(release);
-}
+QString nameText();
+QString releaseText();
 
 // "Quintra v0.704": window titles, PDF document name.
-inline QString nameAndRelease()
-{
-    return nameText() + QStringLiteral(" v") + releaseText();
-}
+QString nameAndRelease();
 
 // "Quintra - <role>": titles of boxes and dialogs. `role` is already translated.
-inline QString titleFor(const QString &role)
-{
-    return nameText() + QStringLiteral(" - ") + role;
-}
+QString titleFor(const QString &role);
 } // namespace Product

@@ -149,7 +149,8 @@ bool WholeFile::commit()
 
 void WholeFile::leaveIncomplete()
 {
-    if (!m_beside.isEmpty() && !isTaken(QFileInfo(m_target))) {
+    const bool taken = isTaken(QFileInfo(m_target));
+    if (!m_beside.isEmpty() && !taken) {
         takeName();
     }
     m_beside.clear();

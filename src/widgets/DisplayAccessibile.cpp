@@ -7,7 +7,10 @@ namespace {
 QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 {
     auto *display = className == QLatin1String("QLCDNumber") ? qobject_cast<QLCDNumber *>(object) : nullptr;
-    return display != nullptr ? new DisplayAccessibile(display) : nullptr; // the toolkit owns it
+    if (display == nullptr) {
+        return nullptr;
+    }
+    return new DisplayAccessibile(display); // the toolkit owns it
 }
 } // namespace
 
@@ -23,8 +26,9 @@ DisplayAccessibile::DisplayAccessibile(QWidget *display)
 
 QString DisplayAccessibile::text(QAccessible::Text kind) const
 {
+    if (kind != QAccessible::Name) {
+        return QAccessibleWidget::text(kind);
+    }
     const auto *display = static_cast<const QLCDNumber *>(widget());
-    return kind == QAccessible::Name
-               ? QStringLiteral("%1 %2").arg(display->toolTip(), QString::number(display->intValue()))
-               : QAccessibleWidget::text(kind);
+    return QStringLiteral("%1 %2").arg(display->toolTip(), QString::number(display->intValue()));
 }
