@@ -211,7 +211,7 @@ void RandomUser::act()
 {
     keepSmall();
     const int kind = below(40);
-    if (kind < 1 && openEditor() == nullptr) {
+    if (kind < 1 && (openEditor() == nullptr || below(4) == 0)) {
         makePages();
     } else if (kind < 3) {
         triggerAction();
@@ -269,15 +269,17 @@ QWidget *RandomUser::openEditor() const
 }
 
 // One of the program's own: what the toolkit's dialogs do on the disk is not for a random user. The order is the same
-// in every process. While an editor is open, it is that or one of its boxes.
+// in every process. While an editor is open, it is that or one of its boxes; now and then another, as for a caller,
+// whom no window in front keeps off.
 QWidget *RandomUser::anyWindow()
 {
-    QWidget *first = openEditor() != nullptr ? openEditor() : m_window.get();
+    const bool pastTheEditor = below(8) == 0;
+    QWidget *first = openEditor() != nullptr && !pastTheEditor ? openEditor() : m_window.get();
     std::vector<QWidget *> windows;
     for (QWidget *window : QApplication::topLevelWidgets()) {
         const bool foreign = window->inherits("QFileDialog") || window->inherits("QColorDialog") ||
                              window->inherits("QFontDialog") || window->windowType() == Qt::ToolTip;
-        const bool blocked = openEditor() != nullptr && window->parentWidget() != openEditor();
+        const bool blocked = openEditor() != nullptr && !pastTheEditor && window->parentWidget() != openEditor();
         if (window->isVisible() && !foreign && !blocked) {
             windows.push_back(window);
         }
@@ -417,11 +419,10 @@ void RandomUser::pressKey()
     }
 }
 
-// One without parameters, or with one that is a number, a switch or a colour. No editor in front keeps a caller from
-// the slots of the main window.
+// One without parameters, or with one that is a number, a switch or a colour.
 void RandomUser::callSlot()
 {
-    QObject *owner = below(2) == 0 ? m_window.get() : anyWindow();
+    QObject *owner = anyWindow();
     std::vector<QMetaMethod> methods;
     const QMetaObject *meta = owner->metaObject();
     for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
