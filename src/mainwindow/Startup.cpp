@@ -52,8 +52,7 @@ int startQuintra(int &argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
     tellTheDesktopWhoWeAre();
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
-    QApplication::setStyle(new ReadableStyle);
+    QApplication::setStyle(ReadableStyle::make().release()); // the application owns it
 
     const auto forgetAll = qScopeGuard([]() {
         globalUtils = nullptr;

@@ -44,6 +44,11 @@ bool isAskedFor(const QStyleOption &option, const QWidget *widget)
 }
 } // namespace
 
+std::unique_ptr<QStyle> ReadableStyle::make()
+{
+    return std::make_unique<ReadableStyle>();
+}
+
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                   const QWidget *widget) const
 {
