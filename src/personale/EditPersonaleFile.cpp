@@ -104,7 +104,7 @@ QString EditPersonale::askSaveFileName()
     if (chosen.isEmpty()) {
         return QString();
     }
-    const QString fileName = withSuffix(chosen);
+    QString fileName = withSuffix(chosen);
     if (fileName == chosen) {
         return fileName;
     }
