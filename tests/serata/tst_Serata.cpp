@@ -958,7 +958,7 @@ void tst_Serata::aJournalWithoutAGameIsPutAside()
     e.window = std::make_unique<Serata>();
     const QByteArray calls = e.folder.read(journal).replace("numeri 1", "numeri l");
     e.folder.write(journal, calls);
-    e.boxes.expectBox(title, QMessageBox::Ok, [&e](QMessageBox *box) {
+    e.boxes.expectBox(title, QMessageBox::Ok, [](QMessageBox *box) {
         const QStringList lines = box->text().split(QLatin1Char('\n'));
         QCOMPARE(lines.first(), QStringLiteral("Le chiamate di prima sono illeggibili e sono state messe da parte:"));
         QVERIFY(QFile::exists(lines.last()));
