@@ -116,7 +116,8 @@ bool Serata::beginElsewhere(const Cartella &cartella, Intervallo numeri, const Q
         return false;
     }
     letClosedDialogsDisappear();
-    return globalConfig->rememberFolder(registerOfTheEvening(folder)) && openSet(cartella, numeri);
+    const bool there = globalConfig->rememberFolder(registerOfTheEvening(folder));
+    return there && openSet(cartella, numeri);
 }
 
 // The register of an evening that goes on may have been deleted or changed.

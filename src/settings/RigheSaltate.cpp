@@ -12,8 +12,10 @@ class Text
 
 QString skippedLinesText(int first, int last, const QString &reason)
 {
-    return first == last ? Text::tr("Riga %1: %2.").arg(first).arg(reason)
-                         : Text::tr("Righe da %1 a %2: %3.").arg(first).arg(last).arg(reason);
+    if (first == last) {
+        return Text::tr("Riga %1: %2.").arg(first).arg(reason);
+    }
+    return Text::tr("Righe da %1 a %2: %3.").arg(first).arg(last).arg(reason);
 }
 
 QString skippedLinesGoOnText(int last)

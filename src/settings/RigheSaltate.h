@@ -39,7 +39,10 @@ QString describe(const std::vector<RigheSaltatePer<Motivo>> &saltate, QString (*
         const RigheSaltatePer<Motivo> &some = saltate[i];
         text += QLatin1Char('\n') + skippedLinesText(some.prima, some.ultima, reasonText(some.motivo));
     }
-    return saltate.size() > mostEntries ? text + QLatin1Char('\n') + skippedLinesGoOnText(saltate.back().ultima) : text;
+    if (saltate.size() > mostEntries) {
+        text += QLatin1Char('\n') + skippedLinesGoOnText(saltate.back().ultima);
+    }
+    return text;
 }
 
 constexpr size_t mostEntriesDescribed = 500; // in a window of their own

@@ -193,6 +193,8 @@ void tst_Registro::aSetIsReadBack()
     QVERIFY(reading.saltate.empty());
     QVERIFY(reading.schede == schedeOf(set));
     QVERIFY(!reading.schede[1].righe.empty());
+    const Pagina &last = *set.pagine[1];
+    QVERIFY(written(set).endsWith(Registro::lineOf(last.blocchi[0], {2, 1})));
 }
 
 void tst_Registro::aDeviceThatIsFullIsToldOf()
