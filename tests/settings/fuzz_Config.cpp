@@ -33,10 +33,12 @@ QByteArray readFile()
 // What a file says of the keys.
 using Values = QMap<QByteArray, QByteArray>;
 
-// As the program reads lines to comment them: without their ends, those of Windows too.
+// As the program reads lines to comment them: without their ends, those of Windows too. Of the first line, the toolkit
+// drops every carriage return.
 QList<QByteArray> linesOf(const QByteArray &text)
 {
     QList<QByteArray> lines = text.split('\n');
+    lines.first().replace('\r', QByteArray());
     for (int i = 0; i + 1 < lines.size(); ++i) {
         if (lines[i].endsWith('\r')) {
             lines[i].chop(1);
@@ -145,11 +147,12 @@ void requireSaid(const Values &values, const Values &expected)
     }
 }
 
-// Whether a comment below a line may come to stand inside a value.
+// Whether a comment below a line may come to stand inside a value. A carriage return ends a line for those who read
+// values only, and so may be lost.
 bool mayRunOver(const QByteArray &text)
 {
     const QList<QByteArray> lines = linesOf(text);
-    return text.contains('\\') ||
+    return text.contains('\\') || text.count('\r') != text.count("\r\n") ||
            std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) { return line.count('"') % 2 != 0; });
 }
 
