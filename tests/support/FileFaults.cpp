@@ -92,6 +92,12 @@ bool failsNow(const char *call, int descriptor)
     }
     return due;
 }
+
+// Rights are given for a new file only, with a name or without.
+bool givesRights(int flags)
+{
+    return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
+}
 } // namespace
 
 // Found here before the C library, by the shared libraries too.
@@ -108,14 +114,14 @@ __attribute__((visibility("default"))) ssize_t write(int descriptor, const void 
     return real(descriptor, data, size);
 }
 
-// What the toolkit opens files with. The rights are given only for a new file.
+// What the toolkit opens files with.
 __attribute__((visibility("default"))) int open64(const char *path, int flags, ...)
 {
     static auto *real = next<int(const char *, int, ...)>("open64");
-    if ((flags & O_CREAT) == 0) {
+    if (!givesRights(flags)) {
         return real(path, flags);
     }
-    if (isBelow(path) && access(path, F_OK) != 0 && isDue(FileFaults::Calls::Creations)) {
+    if ((flags & O_CREAT) != 0 && isBelow(path) && access(path, F_OK) != 0 && isDue(FileFaults::Calls::Creations)) {
         strike("open", ENOSPC);
         return -1;
     }
