@@ -1,6 +1,7 @@
 #!/bin/sh
 # desktop_files.sh <project> <share folder of an installation>: what the desktop and its shop of programs show.
 set -eu
+export LC_ALL=C.UTF-8 # in which the checkers write their marks
 changelog=$1/CHANGELOG.md
 cd "$2"
 entry=applications/quintra.desktop
