@@ -48,7 +48,7 @@ public:
     static constexpr int selectablePaperFormats = 29;
 
 private:
-    QCoreApplication *m_application; // not owned
+    [[maybe_unused]] QCoreApplication *m_application; // not owned
     std::unique_ptr<QTranslator> m_toolkitTranslator;
     std::unique_ptr<QTranslator> m_programTranslator;
 };

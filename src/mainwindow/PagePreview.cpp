@@ -56,7 +56,7 @@ private:
 
 namespace {
 // A screen reader takes the sheet for a picture, not for just any part of a window.
-QAccessibleInterface *interfaceOf(const QString &, QObject *object)
+QAccessibleInterface *previewInterface(const QString &, QObject *object)
 {
     auto *sheet = dynamic_cast<Foglio *>(object);
     if (sheet == nullptr) {
@@ -74,7 +74,7 @@ PagePreview::PagePreview(QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowTitle(Product::titleFor(tr("Anteprima di stampa")));
-    QAccessible::installFactory(interfaceOf);
+    QAccessible::installFactory(previewInterface);
     m_sheet = new Foglio;
     ui->foglio_scrollArea->setWidget(m_sheet);
     const auto turnBack = [this]() { wantPage(m_page - 1); };

@@ -17,7 +17,7 @@
 #include <algorithm>
 
 namespace {
-class Text
+class PageTableText
 {
     Q_DECLARE_TR_FUNCTIONS(PageTable)
 };
@@ -115,7 +115,7 @@ QString cellText(const Cella &cell, const QString &emptyText)
 QString cellTip(const Cella &cell)
 {
     const bool withoutPicture = cell.tipo == CELL_IMMAGINE && cell.immagine.isNull();
-    return withoutPicture ? Text::tr("L'immagine di base non può essere letta.") : QString();
+    return withoutPicture ? PageTableText::tr("L'immagine di base non può essere letta.") : QString();
 }
 
 QString spokenCell(const Pagina &page, int row, int column, const QString &emptyText)
@@ -125,9 +125,10 @@ QString spokenCell(const Pagina &page, int row, int column, const QString &empty
     if (!position) {
         return QString();
     }
-    return Text::tr("blocco %1, riga %2, colonna %3, %4")
+    return PageTableText::tr("blocco %1, riga %2, colonna %3, %4")
         .arg(QString::number(position->block + 1), QString::number(position->row + 1), QString::number(column + 1),
-             cell != nullptr ? spokenContent(cell->tipo, cellText(*cell, emptyText)) : Text::tr("cella mancante"));
+             cell != nullptr ? spokenContent(cell->tipo, cellText(*cell, emptyText))
+                             : PageTableText::tr("cella mancante"));
 }
 
 std::optional<quint32> typedNumber(const QString &text)

@@ -7,7 +7,7 @@
 
 namespace ParameterRules {
 namespace {
-class Text
+class ParameterRulesText
 {
     Q_DECLARE_TR_FUNCTIONS(ParameterRules)
 };
@@ -20,28 +20,36 @@ QString cardLayoutProblem(const CardParameters &p)
     const int special = p.jolly + p.scritte;
 
     if (filled > numbers) {
-        return Text::tr("Non posso creare %1 celle piene con solo %2 numeri.").arg(filled).arg(numbers);
+        return ParameterRulesText::tr("Non posso creare %1 celle piene con solo %2 numeri.").arg(filled).arg(numbers);
     }
     if (p.jolly > p.columns) {
-        return Text::tr("Non posso inserire %1 jolly in sole %2 colonne.").arg(p.jolly).arg(p.columns);
+        return ParameterRulesText::tr("Non posso inserire %1 jolly in sole %2 colonne.").arg(p.jolly).arg(p.columns);
     }
     if (p.scritte > p.columns) {
-        return Text::tr("Non posso inserire %1 scritte in sole %2 colonne.").arg(p.scritte).arg(p.columns);
+        return ParameterRulesText::tr("Non posso inserire %1 scritte in sole %2 colonne.")
+            .arg(p.scritte)
+            .arg(p.columns);
     }
     if (special > p.columns) {
-        return Text::tr("Non posso inserire %1 scritte e immagini in sole %2 colonne.").arg(special).arg(p.columns);
+        return ParameterRulesText::tr("Non posso inserire %1 scritte e immagini in sole %2 colonne.")
+            .arg(special)
+            .arg(p.columns);
     }
     if (p.jolly > p.drawn) {
-        return Text::tr("Non posso inserire %1 jolly con sole %2 estrazioni.").arg(p.jolly).arg(p.drawn);
+        return ParameterRulesText::tr("Non posso inserire %1 jolly con sole %2 estrazioni.").arg(p.jolly).arg(p.drawn);
     }
     if (p.scritte > p.drawn) {
-        return Text::tr("Non posso inserire %1 scritte con sole %2 estrazioni.").arg(p.scritte).arg(p.drawn);
+        return ParameterRulesText::tr("Non posso inserire %1 scritte con sole %2 estrazioni.")
+            .arg(p.scritte)
+            .arg(p.drawn);
     }
     if (special > p.drawn) {
-        return Text::tr("Non posso inserire %1 scritte e immagini con sole %2 estrazioni.").arg(special).arg(p.drawn);
+        return ParameterRulesText::tr("Non posso inserire %1 scritte e immagini con sole %2 estrazioni.")
+            .arg(special)
+            .arg(p.drawn);
     }
     if (p.drawn > p.columns) {
-        return Text::tr("Non posso inserire %1 numeri in sole %2 colonne.").arg(p.drawn).arg(p.columns);
+        return ParameterRulesText::tr("Non posso inserire %1 numeri in sole %2 colonne.").arg(p.drawn).arg(p.columns);
     }
     return QString();
 }
@@ -57,17 +65,18 @@ Result check(const CardParameters &parameters, const CardSetSize &present)
     }
     const int pages = present.pagesToKeep + parameters.pages;
     if (pages > maxPages) {
-        return {
-            Verdict::Error,
-            Text::tr("Le pagine totali richieste (%1)\neccedono il massimo consentito (%2).").arg(pages).arg(maxPages)};
+        return {Verdict::Error,
+                ParameterRulesText::tr("Le pagine totali richieste (%1)\neccedono il massimo consentito (%2).")
+                    .arg(pages)
+                    .arg(maxPages)};
     }
     const quint64 requested = cellsRequested(parameters);
     if (present.cellsInMemory + requested > maxCells) {
-        return {Verdict::Warning, Text::tr("Si sconsiglia di proseguire per le seguenti ragioni:\n"
-                                           "%1 -> caselle totali richieste.\n"
-                                           "%2 -> caselle totali in memoria.\n"
-                                           "%3 -> caselle massime gestibili.\n"
-                                           "(eventuale crash del programma)")
+        return {Verdict::Warning, ParameterRulesText::tr("Si sconsiglia di proseguire per le seguenti ragioni:\n"
+                                                         "%1 -> caselle totali richieste.\n"
+                                                         "%2 -> caselle totali in memoria.\n"
+                                                         "%3 -> caselle massime gestibili.\n"
+                                                         "(eventuale crash del programma)")
                                       .arg(requested)
                                       .arg(present.cellsInMemory)
                                       .arg(maxCells)};
@@ -78,9 +87,9 @@ Result check(const CardParameters &parameters, const CardSetSize &present)
 QString outcome(const CardParameters &p)
 {
     if (p.manual) {
-        return Text::tr("Nuova: si apre l'editor della mappatura manuale");
+        return ParameterRulesText::tr("Nuova: si apre l'editor della mappatura manuale");
     }
-    return Text::tr("Nuova: %1 pagine × %2 blocchi = %3 blocchi")
+    return ParameterRulesText::tr("Nuova: %1 pagine × %2 blocchi = %3 blocchi")
         .arg(p.pages)
         .arg(p.blocks)
         .arg(qint64{p.pages} * p.blocks);

@@ -15,7 +15,7 @@
 #include <QStatusBar>
 
 namespace {
-QPointer<Manuale> opened; // goes with the window it belongs to
+QPointer<Manuale> openManual; // goes with the window it belongs to
 
 constexpr int pageMargin = 16;     // pixels
 constexpr int darkLightness = 128; // of a background, below it
@@ -65,12 +65,12 @@ void Manuale::openFor(QMainWindow *asker)
         asker->statusBar()->showMessage(tr("Il manuale non è in %1!").arg(QDir::toNativeSeparators(manualFolder())));
         return;
     }
-    if (opened.isNull()) {
-        opened = new Manuale(asker);
-    } else if (opened->parentWidget() != asker) {
-        opened->setParent(asker, opened->windowFlags());
+    if (openManual.isNull()) {
+        openManual = new Manuale(asker);
+    } else if (openManual->parentWidget() != asker) {
+        openManual->setParent(asker, openManual->windowFlags());
     }
-    opened->showFile(file);
+    openManual->showFile(file);
 }
 
 void Manuale::showFile(const QString &fileName)

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 
 namespace {
-class Text
+class SpokenContentText
 {
     Q_DECLARE_TR_FUNCTIONS(SpokenContent)
 };
@@ -19,13 +19,13 @@ QString spokenContent(CELL_VALUE tipo, const QString &text)
 {
     switch (tipo) {
     case CELL_NUMERO:
-        return worded(Text::tr("numero"), Text::tr("numero %1"), text);
+        return worded(SpokenContentText::tr("numero"), SpokenContentText::tr("numero %1"), text);
     case CELL_TESTO:
-        return worded(Text::tr("testo"), Text::tr("testo %1"), text);
+        return worded(SpokenContentText::tr("testo"), SpokenContentText::tr("testo %1"), text);
     case CELL_IMMAGINE:
-        return Text::tr("immagine");
+        return SpokenContentText::tr("immagine");
     case CELL_VUOTA:
         break;
     }
-    return Text::tr("vuota");
+    return SpokenContentText::tr("vuota");
 }

@@ -8,7 +8,7 @@
 #include <QMessageBox>
 
 namespace {
-class Text
+class MemoryQuestionText
 {
     Q_DECLARE_TR_FUNCTIONS(MemoryQuestion)
 };
@@ -26,13 +26,13 @@ bool confirmMemory(QWidget *parent, const QString &title, double bytes, const QS
         return true;
     }
     const QString question =
-        Text::tr("La memoria libera potrebbe non bastare, e il programma chiudersi.\nMB necessari: "
-                 "%1\nMB liberi: %2\n\nVuoi proseguire comunque?")
+        MemoryQuestionText::tr("La memoria libera potrebbe non bastare, e il programma chiudersi.\nMB necessari: "
+                               "%1\nMB liberi: %2\n\nVuoi proseguire comunque?")
             .arg(megabytes(bytes), megabytes(freeMemory()));
     return confirmLoss(parent, title, question, loss);
 }
 
 void tellOfNoMemory(QWidget *parent, const QString &title)
 {
-    QMessageBox::warning(parent, title, Text::tr("La memoria libera non è bastata: nulla è cambiato."));
+    QMessageBox::warning(parent, title, MemoryQuestionText::tr("La memoria libera non è bastata: nulla è cambiato."));
 }

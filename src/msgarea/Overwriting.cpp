@@ -6,7 +6,7 @@
 #include <QMessageBox>
 
 namespace {
-class Text
+class OverwritingText
 {
     Q_DECLARE_TR_FUNCTIONS(Overwriting)
 };
@@ -19,6 +19,6 @@ bool confirmOverwriting(QWidget *parent, const QString &title, const QString &fi
         return true;
     }
     return QMessageBox::question(parent, title,
-                                 Text::tr("Il file esiste già:\n%1\n\nSostituirlo?").arg(file.fileName()),
+                                 OverwritingText::tr("Il file esiste già:\n%1\n\nSostituirlo?").arg(file.fileName()),
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }

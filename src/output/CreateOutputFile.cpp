@@ -19,7 +19,7 @@
 namespace {
 constexpr int pdfFormatId = 0;
 constexpr int noFormatId = -1;
-constexpr int failure = -1;
+constexpr int notWritten = -1;
 
 void setUpPrinter(QPrinter &printer, const QString &fileName, const Cartella &set)
 {
@@ -68,7 +68,7 @@ CreateOutputFile::Printed CreateOutputFile::create(const QString &outputFileName
     const int id = globalConfig->outputFormatId;
     if (suffix != globalConfig->outputFormatName || id == noFormatId) {
         report += tr("Formato file sconosciuto!");
-        return {failure};
+        return {notWritten};
     }
     if (id != pdfFormatId) {
         report += tr("Formato %1 non disponibile. Creazione annullata.").arg(globalConfig->formatName(id));
@@ -91,12 +91,12 @@ CreateOutputFile::Printed CreateOutputFile::printPdf(QString &report, Numbers nu
     QPainter painter;
     if (!created || !painter.begin(&printer)) {
         report += tr("Impossibile scrivere sul file!");
-        return {failure};
+        return {notWritten};
     }
     const std::optional<int> leftOut = printInto(file, painter, printer, numbers);
     if (!leftOut) {
         report += tr("Impossibile continuare a scrivere sul file!");
-        return {failure};
+        return {notWritten};
     }
     const qint64 bytes = QFileInfo(fileName).size();
     report += successReport(bytes);

@@ -7,12 +7,12 @@
 #include <QCoreApplication>
 
 namespace {
-class Text
+class CasellaAccessibileText
 {
     Q_DECLARE_TR_FUNCTIONS(CasellaAccessibile)
 };
 
-QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
+QAccessibleInterface *checkBoxInterface(const QString &className, QObject *object)
 {
     auto *box = className == QLatin1String("PersonaleChkBox") ? qobject_cast<PersonaleChkBox *>(object) : nullptr;
     if (box == nullptr) {
@@ -24,7 +24,7 @@ QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 
 void CasellaAccessibile::install()
 {
-    QAccessible::installFactory(interfaceOf);
+    QAccessible::installFactory(checkBoxInterface);
 }
 
 CasellaAccessibile::CasellaAccessibile(PersonaleChkBox *box)
@@ -39,10 +39,10 @@ PersonaleChkBox *CasellaAccessibile::box() const
 
 QString CasellaAccessibile::name() const
 {
-    return Text::tr("riga %1, colonna %2, %3, %4")
+    return CasellaAccessibileText::tr("riga %1, colonna %2, %3, %4")
         .arg(QString::number(box()->riga + 1), QString::number(box()->colonna + 1),
              spokenContent(box()->tipo, box()->text()),
-             box()->isChecked() ? Text::tr("spuntata") : Text::tr("non spuntata"));
+             box()->isChecked() ? CasellaAccessibileText::tr("spuntata") : CasellaAccessibileText::tr("non spuntata"));
 }
 
 QString CasellaAccessibile::text(QAccessible::Text kind) const

@@ -16,7 +16,7 @@ constexpr int rowCountBase = 32;   // a page of n rows starts with the character
 constexpr int lengthModulus = 256; // of a line's length only the low 8 bits give the column count
 constexpr size_t mostPages = std::numeric_limits<U16>::max();
 
-class Text
+class MappingFileText
 {
     Q_DECLARE_TR_FUNCTIONS(MappingFile)
 };
@@ -51,13 +51,13 @@ QString reasonText(Motivo motivo)
 {
     switch (motivo) {
     case Motivo::Vuota:
-        return Text::tr("nessun contenuto");
+        return MappingFileText::tr("nessun contenuto");
     case Motivo::SenzaRighe:
-        return Text::tr("il primo carattere non indica il numero di righe della pagina");
+        return MappingFileText::tr("il primo carattere non indica il numero di righe della pagina");
     case Motivo::TroppoCorta:
-        return Text::tr("caratteri insufficienti per le celle della pagina");
+        return MappingFileText::tr("caratteri insufficienti per le celle della pagina");
     case Motivo::TroppePagine:
-        return Text::tr("oltre il numero massimo di pagine (%1)").arg(mostPages);
+        return MappingFileText::tr("oltre il numero massimo di pagine (%1)").arg(mostPages);
     }
     return QString();
 }
@@ -119,7 +119,7 @@ Lettura read(QTextStream &stream, const std::function<void(int)> &lineRead)
 
 QString describe(const std::vector<RigheSaltate> &saltate)
 {
-    return Text::tr("Queste righe del file non descrivono una pagina e sono state saltate:") +
+    return MappingFileText::tr("Queste righe del file non descrivono una pagina e sono state saltate:") +
            ::describe(saltate, reasonText, mostEntriesDescribed);
 }
 

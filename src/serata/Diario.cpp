@@ -15,7 +15,7 @@ constexpr char cardsWord[] = "schede ";
 constexpr char gameWord[] = "numeri ";
 constexpr int hexadecimal = 16;
 
-class Text
+class DiarioText
 {
     Q_DECLARE_TR_FUNCTIONS(Diario)
 };
@@ -111,7 +111,7 @@ Diario::Corso Diario::read(const QString &fileName)
         return Corso();
     }
     if (isDevice(fileName)) {
-        return unreadable(Text::tr("Non è un file."));
+        return unreadable(DiarioText::tr("Non è un file."));
     }
     const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (file.error() != QFile::NoError) {
@@ -182,7 +182,7 @@ bool Diario::open()
     }
     // The system takes the lock off when the program ends, however that happens.
     if (flock(m_file.handle(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        return fail(Text::tr("La serata è già aperta in un'altra finestra."));
+        return fail(DiarioText::tr("La serata è già aperta in un'altra finestra."));
     }
     return true;
 }

@@ -12,7 +12,7 @@ constexpr size_t wholeRow = 5;
 
 using Turns = std::vector<int>;
 
-class Text
+class PremiText
 {
     Q_DECLARE_TR_FUNCTIONS(Premi)
 };
@@ -79,17 +79,17 @@ QString premioText(Premio premio)
 {
     switch (premio) {
     case Premio::Ambo:
-        return Text::tr("Ambo");
+        return PremiText::tr("Ambo");
     case Premio::Terno:
-        return Text::tr("Terno");
+        return PremiText::tr("Terno");
     case Premio::Quaterna:
-        return Text::tr("Quaterna");
+        return PremiText::tr("Quaterna");
     case Premio::Cinquina:
-        return Text::tr("Cinquina");
+        return PremiText::tr("Cinquina");
     case Premio::DueCinquine:
-        return Text::tr("Due cinquine");
+        return PremiText::tr("Due cinquine");
     case Premio::Tombola:
-        return Text::tr("Tombola");
+        return PremiText::tr("Tombola");
     }
     return QString();
 }

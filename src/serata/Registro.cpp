@@ -29,7 +29,7 @@ constexpr int usualLine = 1 << 10;     // bytes: more than the cards of most set
 constexpr int longestLine = 1 << 24;   // bytes: of texts longer than anyone types
 constexpr size_t mostPerCard = std::numeric_limits<U8>::max();
 
-class Text
+class RegistroText
 {
     Q_DECLARE_TR_FUNCTIONS(Registro)
 };
@@ -303,25 +303,25 @@ QString reasonText(Motivo motivo)
 {
     switch (motivo) {
     case Motivo::Vuota:
-        return Text::tr("nessun contenuto");
+        return RegistroText::tr("nessun contenuto");
     case Motivo::Tronca:
-        return Text::tr("testo troncato (file incompleto)");
+        return RegistroText::tr("testo troncato (file incompleto)");
     case Motivo::TroppoLunga:
-        return Text::tr("troppi caratteri per una scheda");
+        return RegistroText::tr("troppi caratteri per una scheda");
     case Motivo::SenzaPosizione:
-        return Text::tr("all'inizio non vi sono numeri validi di pagina e di scheda");
+        return RegistroText::tr("all'inizio non vi sono numeri validi di pagina e di scheda");
     case Motivo::SenzaRiga:
-        return Text::tr("manca il segno | prima delle celle");
+        return RegistroText::tr("manca il segno | prima delle celle");
     case Motivo::Casella:
-        return Text::tr("una cella non è né un numero, né un testo tra virgolette, né la parola immagine");
+        return RegistroText::tr("una cella non è né un numero, né un testo tra virgolette, né la parola immagine");
     case Motivo::Numero:
-        return Text::tr("un numero è maggiore di %1").arg(numeroPiuAlto);
+        return RegistroText::tr("un numero è maggiore di %1").arg(numeroPiuAlto);
     case Motivo::Testo:
-        return Text::tr("le virgolette di un testo non sono chiuse, o \\ è usato male");
+        return RegistroText::tr("le virgolette di un testo non sono chiuse, o \\ è usato male");
     case Motivo::TroppeCaselle:
-        return Text::tr("righe o celle oltre il massimo di %1").arg(mostPerCard);
+        return RegistroText::tr("righe o celle oltre il massimo di %1").arg(mostPerCard);
     case Motivo::Doppia:
-        return Text::tr("numeri di pagina e di scheda già usati");
+        return RegistroText::tr("numeri di pagina e di scheda già usati");
     }
     return QString();
 }
@@ -475,7 +475,8 @@ bool save(const QString &fileName, const Cartella &cartella, QString &reason)
     }
     QFile file(whole.writtenName());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !write(file, cartella) || !isClosed(file)) {
-        reason = file.error() != QFile::NoError ? file.errorString() : Text::tr("Una scheda ha testi troppo lunghi.");
+        reason = file.error() != QFile::NoError ? file.errorString()
+                                                : RegistroText::tr("Una scheda ha testi troppo lunghi.");
         return false;
     }
     if (!whole.commit()) {
@@ -519,7 +520,7 @@ Lettura read(QIODevice &device)
 
 QString describe(const std::vector<RigheSaltate> &saltate, size_t mostEntries)
 {
-    return Text::tr("Queste righe del registro non sono schede e sono state saltate:") +
+    return RegistroText::tr("Queste righe del registro non sono schede e sono state saltate:") +
            ::describe(saltate, reasonText, mostEntries);
 }
 

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 
 namespace {
-class Text
+class RigheSaltateText
 {
     Q_DECLARE_TR_FUNCTIONS(RigheSaltate)
 };
@@ -13,12 +13,12 @@ class Text
 QString skippedLinesText(int first, int last, const QString &reason)
 {
     if (first == last) {
-        return Text::tr("Riga %1: %2.").arg(first).arg(reason);
+        return RigheSaltateText::tr("Riga %1: %2.").arg(first).arg(reason);
     }
-    return Text::tr("Righe da %1 a %2: %3.").arg(first).arg(last).arg(reason);
+    return RigheSaltateText::tr("Righe da %1 a %2: %3.").arg(first).arg(last).arg(reason);
 }
 
 QString skippedLinesGoOnText(int last)
 {
-    return Text::tr("L'elenco continua fino alla riga %1.").arg(last);
+    return RigheSaltateText::tr("L'elenco continua fino alla riga %1.").arg(last);
 }

@@ -4,7 +4,7 @@
 #include <QLCDNumber>
 
 namespace {
-QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
+QAccessibleInterface *displayInterface(const QString &className, QObject *object)
 {
     auto *display = className == QLatin1String("QLCDNumber") ? qobject_cast<QLCDNumber *>(object) : nullptr;
     if (display == nullptr) {
@@ -16,7 +16,7 @@ QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 
 void DisplayAccessibile::install()
 {
-    QAccessible::installFactory(interfaceOf);
+    QAccessible::installFactory(displayInterface);
 }
 
 DisplayAccessibile::DisplayAccessibile(QWidget *display)
