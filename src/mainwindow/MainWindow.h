@@ -201,6 +201,8 @@ private:
     void recolourCells(QColor Cella::*part, const QColor &colour, const QString &done);
     bool changeSelectedCells(const std::function<void(Cella &)> &change);
     void warnOfSkippedCells(bool complete);
+
+    // Comparison.
     void showEqualBlocks(qint64 pairs);
 
     std::unique_ptr<Ui::MainWindow> ui;
