@@ -17,10 +17,10 @@
 
 namespace {
 // A window of an evening without cards.
-class Evening final
+class EmptyEvening final
 {
 public:
-    Evening()
+    EmptyEvening()
         : config((folder.writePicture(QStringLiteral("default.png"), QSize(8, 6), Qt::red), qApp))
     {
         config.defaultSaveDir = folder.path(QString());
@@ -62,7 +62,7 @@ void tst_SerataDesktop::everyKeyReachesItsCommandFromAField_data()
 void tst_SerataDesktop::everyKeyReachesItsCommandFromAField()
 {
     QFETCH(QString, name);
-    Evening evening;
+    EmptyEvening evening;
     QVERIFY(evening.open());
     const auto *action = evening.window.findChild<QAction *>(name);
     QVERIFY(action != nullptr && !action->shortcut().isEmpty());
@@ -83,7 +83,7 @@ void tst_SerataDesktop::everyKeyReachesItsCommandFromAField()
 
 void tst_SerataDesktop::theWholeScreenIsFilled()
 {
-    Evening evening;
+    EmptyEvening evening;
     QVERIFY(evening.open());
     const QRect before = evening.window.geometry();
     QTest::keyClick(&evening.window, Qt::Key_F11);
@@ -95,7 +95,7 @@ void tst_SerataDesktop::theWholeScreenIsFilled()
 // Behind the main window it could not be answered, and the program would seem to have stopped.
 void tst_SerataDesktop::aBoxIsSeenBeforeTheWindowIs()
 {
-    Evening evening;
+    EmptyEvening evening;
     evening.config.defaultSaveDir = evening.folder.path(QStringLiteral("missing"));
     QWidget before;
     before.resize(900, 600);
