@@ -43,9 +43,7 @@ void MainWindow::on_butt_stampa_clicked()
         return;
     }
     m_unprinted = false;
-    MsgArea *window = MsgArea::makeFor(this, false);
-    window->setText(report, true);
-    window->show();
+    MsgArea *window = MsgArea::showReport(this, report);
     if (printed.numbersLeftOut > 0) {
         QMessageBox::warning(
             window, boxTitle(),

@@ -60,6 +60,14 @@ MsgArea *MsgArea::makeFor(QWidget *parent, bool fileMode)
     return window;
 }
 
+MsgArea *MsgArea::showReport(QWidget *parent, const QString &text)
+{
+    MsgArea *window = makeFor(parent, false);
+    window->setText(text, true);
+    window->show();
+    return window;
+}
+
 void MsgArea::setEditable(bool editable)
 {
     ui->textEdit->setReadOnly(!editable);

@@ -23,6 +23,8 @@ public:
 
     // A window over `parent` that goes when it is closed, for the caller to fill and show. Only a file can be edited.
     static MsgArea *makeFor(QWidget *parent, bool fileMode);
+    // Shows a report in plain text over `parent`, and returns at once.
+    static MsgArea *showReport(QWidget *parent, const QString &text);
 
     void setEditable(bool editable);
     // In file mode a path, whose content is shown (empty when it cannot be read); in message mode the text itself.

@@ -106,7 +106,6 @@ private:
     void showPagesOrReason(const QString &whyNone);
     void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);
     std::vector<PaginaPersonale> makePages(const std::vector<MappingFile::SchemaPagina> &schemes);
-    void showReport(const QString &text);
 
     std::unique_ptr<Ui::EditPersonale> ui;
     QPointer<QWidget> m_mainWindow;

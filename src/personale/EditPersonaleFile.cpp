@@ -142,17 +142,11 @@ void EditPersonale::showSaveReport(const QString &fileName)
 {
     const QFileInfo info(fileName);
     const qint64 size = info.size();
-    showReport(tr("File creato con successo!\n\nNome: %1\nEstensione: %2\nPercorso: %3\n\nPagine: %4\nDimensione: "
-                  "%5 Bytes (%6 MB)\n")
-                   .arg(info.completeBaseName(), info.suffix(), info.absolutePath(), QString::number(m_pageCount),
-                        QString::number(size), megabytesText<float>(size)));
-}
-
-void EditPersonale::showReport(const QString &text)
-{
-    m_msgArea = MsgArea::makeFor(this, false);
-    m_msgArea->setText(text, true);
-    m_msgArea->show();
+    m_msgArea = MsgArea::showReport(
+        this, tr("File creato con successo!\n\nNome: %1\nEstensione: %2\nPercorso: %3\n\nPagine: %4\nDimensione: "
+                 "%5 Bytes (%6 MB)\n")
+                  .arg(info.completeBaseName(), info.suffix(), info.absolutePath(), QString::number(m_pageCount),
+                       QString::number(size), megabytesText<float>(size)));
 }
 
 void EditPersonale::on_actionOpen_triggered()
@@ -205,7 +199,7 @@ QString EditPersonale::readMapping(const QString &fileName)
     showPagesOrReason(!failure.isEmpty() ? failure : tr("Nessuna riga del file descrive una pagina."));
     ui->statusBar->showMessage(tr("Apertura completata!"));
     if (!reading.saltate.empty()) {
-        showReport(MappingFile::describe(reading.saltate));
+        m_msgArea = MsgArea::showReport(this, MappingFile::describe(reading.saltate));
     }
     return opened ? failure : QString();
 }

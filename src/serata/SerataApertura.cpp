@@ -239,9 +239,7 @@ void Serata::chooseRegister()
 void Serata::tellOfSkippedLines(const QString &description)
 {
     show(); // the report stands before the window
-    MsgArea *window = MsgArea::makeFor(this, false);
-    window->setText(description, true);
-    window->show();
+    MsgArea::showReport(this, description);
 }
 
 // A box of a window that is not shown yet could lie behind all others.

@@ -71,6 +71,7 @@ private slots:
     void onlyAFileIsMadeForEditing_data();
     void onlyAFileIsMadeForEditing();
 
+    void aReportIsShownOverItsOwner();
     void aMessageIsShownPlainOrAsHtml();
     void aFileIsShownPlainOrAsHtml();
     void aFileIsReadAsLatin1();
@@ -208,6 +209,22 @@ void tst_MsgArea::onlyAFileIsMadeForEditing()
     QCOMPARE(!window->findChild<QMenuBar *>()->isHidden(), fileMode);
     QVERIFY(!window->isVisible()); // not yet filled
     window->show();
+    QVERIFY(window->close());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(window.isNull());
+}
+
+void tst_MsgArea::aReportIsShownOverItsOwner()
+{
+    const QString text = QStringLiteral("<b>due</b>\nrighe");
+    QWidget owner;
+    const QPointer<MsgArea> window = MsgArea::showReport(&owner, text);
+    QCOMPARE(window->parentWidget(), &owner);
+    QVERIFY(window->isVisible());
+    QCOMPARE(window->windowModality(), Qt::WindowModal);
+    const auto *edit = window->findChild<QTextEdit *>();
+    QCOMPARE(edit->toPlainText(), text);
+    QVERIFY(edit->isReadOnly());
     QVERIFY(window->close());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(window.isNull());
