@@ -140,6 +140,127 @@ Set narrowCells()
 
 Q_DECLARE_METATYPE(Set)
 
+// Rows of looksAndReadsAsIfEachCallWereMade: sets of one page, by what is unusual in them.
+namespace {
+void addColors()
+{
+    QTest::newRow("colored numbers in two fonts") << classicWithCells([](Cella &each) {
+        each.coloreTesto = each.numero % 3 == 0 ? QColor(Qt::red) : QColor(0, 0, 255, 120);
+        each.font = each.numero % 2 == 0 ? arial(12) : arial(20);
+    });
+    QTest::newRow("colored page") << classicSet([](Cartella &set) { set.pagine.first()->sfondo = Qt::cyan; });
+    QTest::newRow("cells as the page") << classicSet([](Cartella &set) {
+        set.pagine.first()->sfondo = Qt::cyan;
+        forEachCell(set, [](Cella &each) { each.coloreSfondo = Qt::cyan; });
+    });
+    QTest::newRow("one cell with a background")
+        << classicSet([](Cartella &set) { cell(set, 1, 4).coloreSfondo = QColor(255, 255, 0, 90); });
+    QTest::newRow("chequered backgrounds") << classicSet([](Cartella &set) {
+        bool odd = false;
+        forEachCell(set, [&odd](Cella &each) {
+            odd = !odd;
+            each.coloreSfondo = odd ? QColor(Qt::yellow) : QColor(0, 100, 200, 120);
+            each.coloreTesto = odd ? Qt::darkRed : Qt::darkBlue;
+        });
+    });
+}
+
+void addLines()
+{
+    for (const int width : {0, 1, 2, 3, 7, 12, 30, 60, 220}) {
+        QTest::addRow("lines of width %d", width) << classicSet([width](Cartella &set) {
+            for (int b = 0; b < SampleSets::blocks; ++b) {
+                block(set, b).spessoreLineaInterna = width;
+                block(set, b).coloreLineaInterna = Qt::darkGreen;
+                block(set, b).spessoreLineaEsterna = width / 2 + b;
+                block(set, b).coloreLineaEsterna = QColor(200, 0, 0, 128);
+            }
+        });
+    }
+    QTest::newRow("translucent separators") << classicSet([](Cartella &set) {
+        block(set).spessoreLineaInterna = 8;
+        block(set).coloreLineaInterna = QColor(0, 0, 255, 100);
+    });
+    QTest::newRow("backgrounds under thick lines") << classicSet([](Cartella &set) {
+        block(set).spessoreLineaInterna = 20;
+        forEachCell(set, [](Cella &each) { each.coloreSfondo = each.numero % 2 == 0 ? Qt::green : Qt::white; });
+    });
+    QTest::newRow("outlines that reach those of the next block") << classicSet([](Cartella &set) {
+        for (int b = 0; b < SampleSets::blocks; ++b) {
+            block(set, b).spessoreLineaEsterna = 6;
+            block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::yellow;
+        }
+    });
+    QTest::newRow("outlines that reach the next block") << classicSet([](Cartella &set) {
+        for (int b = 0; b < SampleSets::blocks; ++b) {
+            block(set, b).spessoreLineaInterna = 3;
+            block(set, b).coloreLineaInterna = Qt::yellow;
+            block(set, b).spessoreLineaEsterna = 20;
+            block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::darkBlue;
+        }
+    });
+}
+
+void addTextsAndPictures()
+{
+    QTest::newRow("texts and pictures among numbers") << classicSet([](Cartella &set) {
+        const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
+        forEachCell(set, [&](Cella &each) {
+            each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
+            each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
+            each.numero % 7 == 0 ? setPicture(each, picture) : void();
+        });
+    });
+    QTest::newRow("texts and pictures under translucent separators") << classicSet([](Cartella &set) {
+        const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
+        for (int b = 0; b < SampleSets::blocks; ++b) {
+            block(set, b).spessoreLineaInterna = 4;
+            block(set, b).coloreLineaInterna = QColor(0, 0, 255, 100);
+        }
+        forEachCell(set, [&](Cella &each) {
+            each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
+            each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
+            each.numero % 7 == 0 ? setPicture(each, picture) : void();
+        });
+    });
+    QTest::newRow("texts") << textsOfAllKinds();
+    QTest::newRow("pictures") << picturesOfAllKinds();
+}
+
+void addFonts()
+{
+    QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
+    QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
+    QTest::newRow("fonts") << fontsOfAllKinds();
+    QTest::newRow("large numbers") << classicWithCells([](Cella &each) {
+        each.numero += 4294967000U;
+        each.font = arial(8);
+    });
+}
+
+void addMarginsAndSheets()
+{
+    QTest::newRow("blocks that touch") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 0; });
+    QTest::newRow("no room left") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 50; });
+    QTest::newRow("exactly no room") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 48; });
+    QTest::newRow("margins") << classicSet([](Cartella &set) {
+        set.margineSinistro = 17.3;
+        set.margineSuperiore = 9.1;
+        set.margineDestro = 23;
+        set.margineInferiore = 31.7;
+    });
+    QTest::newRow("small sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A7; });
+    QTest::newRow("large sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A2; });
+}
+
+void addOddGrids()
+{
+    QTest::newRow("ragged rows") << raggedRows(0);
+    QTest::newRow("ragged rows, thick lines") << raggedRows(140);
+    QTest::newRow("narrow cells") << narrowCells();
+}
+} // namespace
+
 class tst_PagePainter final : public QObject
 {
     Q_OBJECT
@@ -167,100 +288,12 @@ void tst_PagePainter::looksAndReadsAsIfEachCallWereMade_data()
 {
     QTest::addColumn<Set>("set");
     QTest::newRow("classic") << classicSet();
-    QTest::newRow("colored numbers in two fonts") << classicWithCells([](Cella &each) {
-        each.coloreTesto = each.numero % 3 == 0 ? QColor(Qt::red) : QColor(0, 0, 255, 120);
-        each.font = each.numero % 2 == 0 ? arial(12) : arial(20);
-    });
-    QTest::newRow("colored page") << classicSet([](Cartella &set) { set.pagine.first()->sfondo = Qt::cyan; });
-    QTest::newRow("cells as the page") << classicSet([](Cartella &set) {
-        set.pagine.first()->sfondo = Qt::cyan;
-        forEachCell(set, [](Cella &each) { each.coloreSfondo = Qt::cyan; });
-    });
-    QTest::newRow("one cell with a background")
-        << classicSet([](Cartella &set) { cell(set, 1, 4).coloreSfondo = QColor(255, 255, 0, 90); });
-    for (const int width : {0, 1, 2, 3, 7, 12, 30, 60, 220}) {
-        QTest::addRow("lines of width %d", width) << classicSet([width](Cartella &set) {
-            for (int b = 0; b < SampleSets::blocks; ++b) {
-                block(set, b).spessoreLineaInterna = width;
-                block(set, b).coloreLineaInterna = Qt::darkGreen;
-                block(set, b).spessoreLineaEsterna = width / 2 + b;
-                block(set, b).coloreLineaEsterna = QColor(200, 0, 0, 128);
-            }
-        });
-    }
-    QTest::newRow("translucent separators") << classicSet([](Cartella &set) {
-        block(set).spessoreLineaInterna = 8;
-        block(set).coloreLineaInterna = QColor(0, 0, 255, 100);
-    });
-    QTest::newRow("backgrounds under thick lines") << classicSet([](Cartella &set) {
-        block(set).spessoreLineaInterna = 20;
-        forEachCell(set, [](Cella &each) { each.coloreSfondo = each.numero % 2 == 0 ? Qt::green : Qt::white; });
-    });
-    QTest::newRow("chequered backgrounds") << classicSet([](Cartella &set) {
-        bool odd = false;
-        forEachCell(set, [&odd](Cella &each) {
-            odd = !odd;
-            each.coloreSfondo = odd ? QColor(Qt::yellow) : QColor(0, 100, 200, 120);
-            each.coloreTesto = odd ? Qt::darkRed : Qt::darkBlue;
-        });
-    });
-    QTest::newRow("texts and pictures among numbers") << classicSet([](Cartella &set) {
-        const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
-        forEachCell(set, [&](Cella &each) {
-            each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
-            each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
-            each.numero % 7 == 0 ? setPicture(each, picture) : void();
-        });
-    });
-    QTest::newRow("texts and pictures under translucent separators") << classicSet([](Cartella &set) {
-        const QImage picture = SampleSets::twoColoredPicture({40, 30}, Qt::darkCyan, QColor(255, 0, 0, 80));
-        for (int b = 0; b < SampleSets::blocks; ++b) {
-            block(set, b).spessoreLineaInterna = 4;
-            block(set, b).coloreLineaInterna = QColor(0, 0, 255, 100);
-        }
-        forEachCell(set, [&](Cella &each) {
-            each.coloreSfondo = each.numero % 3 == 0 ? Qt::yellow : Qt::white;
-            each.numero % 5 == 0 ? setText(each, QStringLiteral("TXT")) : void();
-            each.numero % 7 == 0 ? setPicture(each, picture) : void();
-        });
-    });
-    QTest::newRow("bold") << classicWithCells([](Cella &each) { each.font.setBold(true); });
-    QTest::newRow("italic") << classicWithCells([](Cella &each) { each.font.setItalic(true); });
-    QTest::newRow("outlines that reach those of the next block") << classicSet([](Cartella &set) {
-        for (int b = 0; b < SampleSets::blocks; ++b) {
-            block(set, b).spessoreLineaEsterna = 6;
-            block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::yellow;
-        }
-    });
-    QTest::newRow("outlines that reach the next block") << classicSet([](Cartella &set) {
-        for (int b = 0; b < SampleSets::blocks; ++b) {
-            block(set, b).spessoreLineaInterna = 3;
-            block(set, b).coloreLineaInterna = Qt::yellow;
-            block(set, b).spessoreLineaEsterna = 20;
-            block(set, b).coloreLineaEsterna = b % 2 == 0 ? Qt::darkRed : Qt::darkBlue;
-        }
-    });
-    QTest::newRow("blocks that touch") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 0; });
-    QTest::newRow("no room left") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 50; });
-    QTest::newRow("exactly no room") << classicSet([](Cartella &set) { set.pagine.first()->spazioBlocchi = 48; });
-    QTest::newRow("margins") << classicSet([](Cartella &set) {
-        set.margineSinistro = 17.3;
-        set.margineSuperiore = 9.1;
-        set.margineDestro = 23;
-        set.margineInferiore = 31.7;
-    });
-    QTest::newRow("small sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A7; });
-    QTest::newRow("large sheet") << classicSet([](Cartella &set) { set.formato = QPagedPaintDevice::A2; });
-    QTest::newRow("texts") << textsOfAllKinds();
-    QTest::newRow("fonts") << fontsOfAllKinds();
-    QTest::newRow("pictures") << picturesOfAllKinds();
-    QTest::newRow("ragged rows") << raggedRows(0);
-    QTest::newRow("ragged rows, thick lines") << raggedRows(140);
-    QTest::newRow("narrow cells") << narrowCells();
-    QTest::newRow("large numbers") << classicWithCells([](Cella &each) {
-        each.numero += 4294967000U;
-        each.font = arial(8);
-    });
+    addColors();
+    addLines();
+    addTextsAndPictures();
+    addFonts();
+    addMarginsAndSheets();
+    addOddGrids();
 }
 
 void tst_PagePainter::looksAndReadsAsIfEachCallWereMade()
