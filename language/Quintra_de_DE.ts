@@ -516,6 +516,10 @@ eccedono il massimo consentito (%2).</source>
         <source>Come si usa il programma, passo per passo</source>
         <translation>Wie man das Programm benutzt, Schritt für Schritt</translation>
     </message>
+    <message>
+        <source>Copia schema annullata!</source>
+        <translation>Kopieren der Belegung abgebrochen!</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

@@ -516,6 +516,10 @@ exceeds the maximum allowed (%2).</translation>
         <source>Come si usa il programma, passo per passo</source>
         <translation>How to use the program, step by step</translation>
     </message>
+    <message>
+        <source>Copia schema annullata!</source>
+        <translation>Copying cancelled!</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

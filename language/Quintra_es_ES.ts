@@ -516,6 +516,10 @@ supera el máximo permitido (%2).</translation>
         <source>Come si usa il programma, passo per passo</source>
         <translation>Cómo se usa el programa, paso a paso</translation>
     </message>
+    <message>
+        <source>Copia schema annullata!</source>
+        <translation>¡Copia del diseño cancelada!</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

@@ -516,6 +516,10 @@ dépasse le maximum autorisé (%2).</translation>
         <source>Come si usa il programma, passo per passo</source>
         <translation>Comment utiliser le programme, pas à pas</translation>
     </message>
+    <message>
+        <source>Copia schema annullata!</source>
+        <translation>Copie de la disposition annulée&#xa0;!</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

@@ -516,6 +516,10 @@ eccedono il massimo consentito (%2).</translation>
         <source>Come si usa il programma, passo per passo</source>
         <translation>Come si usa il programma, passo per passo</translation>
     </message>
+    <message>
+        <source>Copia schema annullata!</source>
+        <translation>Copia schema annullata!</translation>
+    </message>
 </context>
 <context>
     <name>ElencoSchede</name>

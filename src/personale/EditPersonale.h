@@ -83,7 +83,8 @@ private:
     PaginaPersonale &displayedPage();
     void forEachCellInScope(const std::function<void(PersonaleChkBox &)> &action);
     std::vector<size_t> pagesToCopyTo() const;
-    void copySchemeTo(const std::vector<size_t> &pages);
+    bool copySchemeTo(const std::vector<size_t> &pages);
+    void resizePages(const std::vector<size_t> &pages);
     CELL_VALUE chosenType() const;
     void recountNumbers();
     void checkSettings();
@@ -103,6 +104,7 @@ private:
     QString readMapping(const QString &fileName);
     void warn(const QString &text);
     bool confirmPages(const std::vector<MappingFile::SchemaPagina> &pages);
+    bool confirmBoxes(double count);
     void showPagesOrReason(const QString &whyNone);
     void replacePages(const std::vector<MappingFile::SchemaPagina> &schemes);
     std::vector<PaginaPersonale> makePages(const std::vector<MappingFile::SchemaPagina> &schemes);

@@ -9,6 +9,8 @@
 
 #include <QButtonGroup>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -118,15 +120,16 @@ void EditPersonale::on_impostaschemacorrenteButton_clicked()
         return;
     }
     letClosedDialogsDisappear();
-    const bool copied = withinMemory(this, Product::titleFor(tr("Mappatura manuale")), [this]() {
-        const WaitCursor wait(this);
-        copySchemeTo(pagesToCopyTo());
-    });
-    if (copied) {
-        recountNumbers(); // the ticks of the other pages were counted too
-        checkSettings();
-        ui->statusBar->showMessage(tr("Copia schema effettuata!"));
+    bool copied = false;
+    const bool enough = withinMemory(this, Product::titleFor(tr("Mappatura manuale")),
+                                     [&]() { copied = copySchemeTo(pagesToCopyTo()); });
+    if (!enough || !copied) {
+        ui->statusBar->showMessage(tr("Copia schema annullata!"));
+        return;
     }
+    recountNumbers(); // the ticks of the other pages were counted too
+    checkSettings();
+    ui->statusBar->showMessage(tr("Copia schema effettuata!"));
 }
 
 std::vector<size_t> EditPersonale::pagesToCopyTo() const
@@ -141,22 +144,37 @@ std::vector<size_t> EditPersonale::pagesToCopyTo() const
     return pages;
 }
 
-// Pages of another size are made anew, all of them before the first old one goes: that may fail.
-void EditPersonale::copySchemeTo(const std::vector<size_t> &pages)
+// False when the user does not want to take the memory for it.
+bool EditPersonale::copySchemeTo(const std::vector<size_t> &pages)
 {
     const PaginaPersonale &from = displayedPage();
-    std::vector<std::pair<size_t, PaginaPersonale>> resized;
-    for (const size_t page : pages) {
-        if (!isOfSameSize(from, m_pages[page])) {
-            resized.emplace_back(page, makePage(from.nRighe, from.nColonne));
-            connectBoxes(resized.back().second, RightClick::CyclesType);
-        }
+    std::vector<size_t> resized;
+    std::copy_if(pages.begin(), pages.end(), std::back_inserter(resized),
+                 [&](size_t page) { return !isOfSameSize(from, m_pages[page]); });
+    if (!confirmBoxes(static_cast<double>(resized.size() * from.cellCount()))) {
+        return false;
     }
-    for (auto &[page, made] : resized) {
-        m_pages[page] = std::move(made);
-    }
+    letClosedDialogsDisappear();
+    const WaitCursor wait(this);
+    resizePages(resized);
     for (const size_t page : pages) {
         copyScheme(from, m_pages[page]);
+    }
+    return true;
+}
+
+// Gives pages the size of the one on display. All are made anew before the first old one goes: that may fail.
+void EditPersonale::resizePages(const std::vector<size_t> &pages)
+{
+    const PaginaPersonale &size = displayedPage();
+    std::vector<PaginaPersonale> made;
+    made.reserve(pages.size());
+    for (size_t i = 0; i < pages.size(); ++i) {
+        made.push_back(makePage(size.nRighe, size.nColonne));
+        connectBoxes(made.back(), RightClick::CyclesType);
+    }
+    for (size_t i = 0; i < pages.size(); ++i) {
+        m_pages[pages[i]] = std::move(made[i]);
     }
 }
 

@@ -204,14 +204,20 @@ QString EditPersonale::readMapping(const QString &fileName)
     return opened ? failure : QString();
 }
 
-// Whether the boxes of such pages may be made: they take much more memory than the file.
+// The boxes of such pages take much more memory than the file.
 bool EditPersonale::confirmPages(const std::vector<MappingFile::SchemaPagina> &pages)
 {
     double cells = 0;
     for (const MappingFile::SchemaPagina &page : pages) {
         cells += static_cast<double>(page.celle.size());
     }
-    return confirmMemory(this, Product::titleFor(tr("Mappatura manuale")), cells * PersonaleChkBox::bytes, QString());
+    return confirmBoxes(cells);
+}
+
+// Whether so many boxes may be made.
+bool EditPersonale::confirmBoxes(double count)
+{
+    return confirmMemory(this, Product::titleFor(tr("Mappatura manuale")), count * PersonaleChkBox::bytes, QString());
 }
 
 void EditPersonale::showPagesOrReason(const QString &whyNone)

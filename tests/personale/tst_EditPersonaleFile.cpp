@@ -136,6 +136,8 @@ private slots:
     void afterAFileWithoutLinesAnotherOpens();
     void theCopyRangeFollowsThePageCount();
     void copyingToAPageOfAnotherSizeRebuildsIt();
+    void aCopyThatDoesNotFitTheMemoryIsAskedAbout();
+    void aCopyToPagesOfTheSameSizeTakesNoMemory();
     void aCopyThatFindsNoMemoryChangesNoPage();
     void ticksOfARebuiltPageAreCounted();
     void loadedPagesAreCreated();
@@ -929,6 +931,45 @@ void tst_EditPersonaleFile::pagesThatComeBackCutAreNamed()
     t.trigger("actionSave");
 }
 
+void tst_EditPersonaleFile::aCopyThatDoesNotFitTheMemoryIsAskedAbout()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.open("/" + QByteArray(255, 'N') + '\n' + QByteArray("!S\n").repeated(99) + '/' + QByteArray(255, 'S') + '\n');
+    t.spin("impostaAspinBox")->setValue(101);
+    t.expectCopyQuestion(QMessageBox::Yes);
+    t.boxes.expectBox(editorTitle, QMessageBox::No, isMemoryQuestion);
+    {
+        const MemoryLimit limit(room);
+        t.click("impostaschemacorrenteButton");
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Copia schema annullata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    for (const int page : {2, 50, 100}) {
+        t.showPage(page);
+        QCOMPARE(t.drawn(), QStringLiteral("S"));
+    }
+    t.showPage(101); // nor one of the same size
+    QCOMPARE(t.box(0, 0)->tipo, CELL_TESTO);
+}
+
+// Their boxes would not fit once more.
+void tst_EditPersonaleFile::aCopyToPagesOfTheSameSizeTakesNoMemory()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.open("/" + QByteArray(255, 'N') + '\n' + ('/' + QByteArray(255, 'S') + '\n').repeated(50) + "!S\n");
+    {
+        const MemoryLimit limit(16 << 20);
+        t.copyTo(1, 52);
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Copia schema effettuata!"));
+    for (const int page : {2, 51, 52}) {
+        t.showPage(page);
+        QCOMPARE(t.drawn().count(QLatin1Char('N')), 255);
+    }
+}
+
 void tst_EditPersonaleFile::aCopyThatFindsNoMemoryChangesNoPage()
 {
     if (!MemoryLimit::isSurvived()) {
@@ -940,10 +981,12 @@ void tst_EditPersonaleFile::aCopyThatFindsNoMemoryChangesNoPage()
         const MemoryLimit limit(room);
         t.spin("impostaAspinBox")->setValue(301);
         t.expectCopyQuestion(QMessageBox::Yes);
+        t.boxes.expectBox(editorTitle, QMessageBox::Yes, isMemoryQuestion);
         t.boxes.expectBox(editorTitle, noMemory, QMessageBox::Ok, QMessageBox::Warning);
         t.click("impostaschemacorrenteButton");
     }
     QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Copia schema annullata!"));
     QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
     for (const int page : {2, 150, 301}) {
         t.showPage(page);
