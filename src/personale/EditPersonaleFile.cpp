@@ -192,7 +192,7 @@ QString EditPersonale::readMapping(const QString &fileName)
     const QString failure = file.error() != QFile::NoError ? file.errorString() : QString();
     if (!confirmPages(reading.pagine)) {
         ui->statusBar->showMessage(tr("Apertura file annullata!"));
-        return QString();
+        return failure;
     }
     letClosedDialogsDisappear();
     replacePages(reading.pagine);

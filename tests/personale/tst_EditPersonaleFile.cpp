@@ -119,6 +119,7 @@ private slots:
     void linesThatFindNoMemoryKeepWhatWasThere();
     void aDiskThatCannotBeReadIsTold_data();
     void aDiskThatCannotBeReadIsTold();
+    void aDiskThatCannotBeReadIsToldWithoutThePagesToo();
     void aDeviceIsRefusedBeforeAnythingGoes_data();
     void aDeviceIsRefusedBeforeAnythingGoes();
     void anEditorWithoutPagesSaysWhy_data();
@@ -600,6 +601,26 @@ void tst_EditPersonaleFile::aDiskThatCannotBeReadIsTold()
     const auto *reason = t.find<QLabel>("senzaPagineLabel");
     QCOMPARE(reason->isVisible(), pages == 0);
     QVERIFY(pages > 0 || reason->text() == QStringLiteral("Non vi sono pagine.\nInput/output error"));
+}
+
+// Those that could be read were too many for the memory.
+void tst_EditPersonaleFile::aDiskThatCannotBeReadIsToldWithoutThePagesToo()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.tick(0, 0, CELL_NUMERO);
+    const QString path = t.folder.path(QStringLiteral("large.QcF"));
+    expectOpenOfTooMany(t);
+    t.boxes.expectBox(editorTitle, QMessageBox::No, isMemoryQuestion);
+    t.boxes.expectBox(editorTitle, QStringLiteral("Errore nella lettura del file:\n%1\n\nInput/output error").arg(path),
+                      QMessageBox::Ok, QMessageBox::Warning);
+    {
+        const FileFaults fault(path, FileFaults::Calls::Reads, 4, FileFaults::Effect::LastingError);
+        const MemoryLimit limit(room);
+        t.trigger("actionOpen");
+    }
+    QCOMPARE(t.drawn(), QStringLiteral("No"));
+    QCOMPARE(t.find<QLCDNumber>("pageNumDisplay")->intValue(), 2);
+    QCOMPARE(t.status(), QStringLiteral("Apertura file annullata!"));
 }
 
 void tst_EditPersonaleFile::aDeviceIsRefusedBeforeAnythingGoes_data()
