@@ -15,6 +15,7 @@
 #include "support/OrdinaryUser.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFileDialog>
 #include <QTextEdit>
 #include <QtTest>
@@ -61,10 +62,38 @@ bool tellsWhy(const QString &reason)
     return !reason.isEmpty() && reason != QStringLiteral("Unknown error");
 }
 
+// Whether the thread of a dialog that lists its folder has started: without files to open that ends the program. It
+// takes its name when it has what it needs.
+bool hasListingStarted()
+{
+    const QDir tasks(QStringLiteral("/proc/self/task"));
+    for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile name(tasks.filePath(task + QStringLiteral("/comm")));
+        if (name.open(QIODevice::ReadOnly) && name.readAll() == "QFileInfoGather\n") {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Without an event of the dialog in the meantime.
+bool waitForListing()
+{
+    constexpr int longest = 5000; // ms
+    for (int waited = 0; waited < longest; ++waited) {
+        if (hasListingStarted()) {
+            return true;
+        }
+        QTest::qSleep(1);
+    }
+    return false;
+}
+
 // Strikes when the user has chosen the file and nothing has been done with it yet.
 std::function<void(QWidget *)> strikingWhenChosen(Obstacle &obstacle)
 {
     return [&obstacle](QWidget *dialog) {
+        QVERIFY(waitForListing());
         QObject::connect(qobject_cast<QFileDialog *>(dialog), &QFileDialog::fileSelected,
                          [&obstacle]() { obstacle.strike(); });
     };
