@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <new>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -40,6 +41,23 @@ QByteArray jpegLyingOnItsSide()
     segment.append(exif);
     return jpeg.insert(2, segment); // after the start marker
 }
+
+// All but the pixels.
+QByteArray headerOfAPicture(const QSize &size)
+{
+    return "P6 " + QByteArray::number(size.width()) + ' ' + QByteArray::number(size.height()) + " 255\n";
+}
+
+// The most memory that this process ever used, in MB.
+int largestSize()
+{
+    rusage usage{};
+    if (getrusage(RUSAGE_SELF, &usage) != 0) {
+        qFatal("no size of this process");
+    }
+    constexpr long kilobytesPerMegabyte = 1024;
+    return static_cast<int>(usage.ru_maxrss / kilobytesPerMegabyte);
+}
 } // namespace
 
 class tst_CellImage final : public QObject
@@ -52,6 +70,9 @@ private slots:
     void whatIsNoPictureIsANullImage();
     void aPipeIsNoPicture();
     void aPictureThatIsTooLargeIsReadSmaller();
+    void aLargePictureTakesTheMemoryOfItsOwnColors_data();
+    void aLargePictureTakesTheMemoryOfItsOwnColors();
+    void aLargePictureThatDoesNotFitIsNotTried();
     void aPictureWhoseHeaderLiesCostsNothing();
     void aPictureWithoutMemoryIsNoDamagedOne();
 };
@@ -105,20 +126,58 @@ void tst_CellImage::aPictureThatIsTooLargeIsReadSmaller()
     QCOMPARE(loadCellImage(folder.path(QStringLiteral("largest.png"))).size(), QSize(10000, 2));
 }
 
+void tst_CellImage::aLargePictureTakesTheMemoryOfItsOwnColors_data()
+{
+    QTest::addColumn<QImage::Format>("format");
+    QTest::addColumn<int>("megabytes");
+    // In 32 bits a pixel each takes 96 MB.
+    QTest::newRow("black and white") << QImage::Format_Mono << 16;
+    QTest::newRow("grey") << QImage::Format_Grayscale8 << 64;
+    QTest::newRow("256 colors") << QImage::Format_Indexed8 << 64;
+}
+
+void tst_CellImage::aLargePictureTakesTheMemoryOfItsOwnColors()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    QFETCH(QImage::Format, format);
+    QFETCH(int, megabytes);
+    const ScratchFolder folder;
+    const QString path = folder.path(QStringLiteral("large.png"));
+    {
+        QImage large(12000, 2000, format);
+        large.setColorTable({qRgb(255, 0, 0), qRgb(0, 0, 255)});
+        large.fill(0);
+        QVERIFY(large.save(path));
+    }
+    const MemoryLimit limit(rlim_t(megabytes) << 20);
+    QCOMPARE(loadCellImage(path).size(), QSize(10000, 1666));
+}
+
+void tst_CellImage::aLargePictureThatDoesNotFitIsNotTried()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    const ScratchFolder folder;
+    const QString path = folder.path(QStringLiteral("large.ppm"));
+    folder.write(QStringLiteral("large.ppm"), headerOfAPicture(QSize(20000, 4000)));
+    QVERIFY(loadCellImage(path).isNull()); // the picture itself is missing
+    const MemoryLimit limit(150 << 20);    // 320 MB are needed, and 80 for the reduced one
+    QVERIFY_EXCEPTION_THROWN(loadCellImage(path), std::bad_alloc);
+}
+
 void tst_CellImage::aPictureWhoseHeaderLiesCostsNothing()
 {
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("the sanitizer takes memory for every byte that could be used");
+    }
     const ScratchFolder folder;
-    folder.writePicture(QStringLiteral("small.bmp"), QSize(4, 4), Qt::red);
-    QImage small(4, 4, QImage::Format_RGB32);
-    small.fill(Qt::red);
-    QVERIFY(small.save(folder.path(QStringLiteral("lying.bmp")), "BMP"));
-    QFile file(folder.path(QStringLiteral("lying.bmp")));
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    file.seek(18); // width and height
-    file.write(QByteArray("\xff\xff\0\0\xff\xff\0\0", 8));
-    file.close();
-    const QImage read = loadCellImage(folder.path(QStringLiteral("lying.bmp")));
-    QVERIFY(read.width() <= 10000 && read.height() <= 10000);
+    folder.write(QStringLiteral("lying.ppm"), headerOfAPicture(QSize(30000, 20000)) + "0123456789");
+    const int before = largestSize();
+    QVERIFY(loadCellImage(folder.path(QStringLiteral("lying.ppm"))).isNull());
+    QVERIFY(largestSize() - before < 20);
 }
 
 void tst_CellImage::aPictureWithoutMemoryIsNoDamagedOne()
