@@ -7,7 +7,10 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 constexpr int mostLinks = 40;
@@ -40,6 +43,17 @@ bool isTaken(const QFileInfo &file)
     return file.exists() || file.isSymLink();
 }
 
+// Where many may write, as in /tmp, a file is replaced by its owner or that of the folder only.
+bool isReplacedByOthersOnly(const QFileInfo &file)
+{
+    struct stat folder
+    {
+    };
+    const uid_t user = geteuid();
+    return user != 0 && stat(QFile::encodeName(file.path()).constData(), &folder) == 0 &&
+           (folder.st_mode & S_ISVTX) != 0 && folder.st_uid != user && file.ownerId() != user;
+}
+
 // A file that cannot be written is not replaced either: its own opening tells why.
 bool isReplaceable(const QFileInfo &file)
 {
@@ -47,7 +61,7 @@ bool isReplaceable(const QFileInfo &file)
         return false;
     }
     if (file.isFile()) {
-        return opensForWriting(file.filePath());
+        return opensForWriting(file.filePath()) && !isReplacedByOthersOnly(file);
     }
     return !isTaken(file) && byteCount(file.fileName()) <= longestName;
 }
@@ -122,11 +136,26 @@ WholeFile::~WholeFile()
 bool WholeFile::create()
 {
     const QFileInfo file(m_target);
+    if (isDevice(m_target) && !holdDevice()) {
+        return false;
+    }
     if (isReplaceable(file)) {
         m_beside = createBeside(file, m_error);
     }
     // An old file is not written on because the disk has no room for another.
     return !m_beside.isEmpty() || m_error.isEmpty() || !file.exists();
+}
+
+// A pipe waits for its reader to be opened, and this program would wait with it. Held open, a reader that has come does
+// not see the end before all is written.
+bool WholeFile::holdDevice()
+{
+    const int descriptor = ::open(QFile::encodeName(m_target).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor >= 0) {
+        return m_device.open(descriptor, QIODevice::WriteOnly, QFile::AutoCloseHandle);
+    }
+    m_error = qt_error_string(errno);
+    return errno != ENXIO;
 }
 
 QString WholeFile::writtenName() const

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QIODevice>
+#include <QFile>
 #include <QString>
 
 // The new content of a file, written beside it under a name of its own until it is whole: a failure, or the end of the
 // program in between, leaves the old file as it was. Links are followed to their end and stay links. What is no regular
-// file, and what lies in a folder that takes no new file, is written on directly.
+// file, and what its folder does not let this user replace, is written on directly.
 //
 // It is not QSaveFile: a printer writes to a name, not to a device, and a commit of that class succeeds although the
 // last bytes did not reach the file, or the disk.
@@ -30,11 +30,13 @@ public:
     QString errorString() const { return m_error; }
 
 private:
+    bool holdDevice();
     bool takeName();
 
     QString m_target; // behind links
     QString m_beside; // empty when the file itself is written on
     QString m_error;
+    QFile m_device; // open as long as it is written on
 };
 
 enum class Written {

@@ -8,10 +8,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QtTest>
 
 #include <cerrno>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 const QString name = QStringLiteral("a.txt");
@@ -45,7 +47,10 @@ private slots:
     void whatCannotBeWrittenIsRefused();
     void aReadOnlyFileIsRefused();
     void aFolderThatTakesNoNewFileHasItsFileWritten();
+    void aFileThatOnlyItsOwnerMayReplaceIsWritten();
     void aDeviceIsWrittenOn();
+    void aPipeThatNobodyReadsIsRefused();
+    void aPipeThatIsReadIsWrittenOn();
     void withoutFilesToOpenNothingIsTried();
     void afterAnyFaultTheOldFileOrTheNewOneIsWhole_data();
     void afterAnyFaultTheOldFileOrTheNewOneIsWhole();
@@ -199,6 +204,26 @@ void tst_WholeFile::aFolderThatTakesNoNewFileHasItsFileWritten()
     QCOMPARE(filesHere(), QStringList(name));
 }
 
+void tst_WholeFile::aFileThatOnlyItsOwnerMayReplaceIsWritten()
+{
+    if (geteuid() != 0) {
+        QSKIP("needs a file of another user");
+    }
+    const ScratchFolder shared;
+    QVERIFY(QDir().mkdir(QStringLiteral("common")));
+    const QString path = shared.path(QStringLiteral("common/a.txt"));
+    shared.write(path, oldContent);
+    const mode_t everybody = S_IRWXU | S_IRWXG | S_IRWXO;
+    QCOMPARE(chmod("common", everybody | S_ISVTX), 0);
+    QCOMPARE(chmod("common/a.txt", everybody), 0);
+    {
+        const OrdinaryUser user(shared);
+        QCOMPARE(writeWhole(path, newContent), Written::Whole);
+    }
+    QCOMPARE(shared.read(path), newContent);
+    QCOMPARE(QDir(QStringLiteral("common")).entryList(QDir::Files), QStringList(name));
+}
+
 void tst_WholeFile::aDeviceIsWrittenOn()
 {
     QVERIFY(QFile::link(QStringLiteral("/dev/full"), QStringLiteral("full")));
@@ -209,6 +234,27 @@ void tst_WholeFile::aDeviceIsWrittenOn()
     QCOMPARE(writeWhole(QStringLiteral("null"), "x"), Written::Whole);
     QCOMPARE(filesHere(), (QStringList{QStringLiteral("full"), QStringLiteral("null")}));
     QVERIFY(!QFileInfo(QStringLiteral("/dev/null")).isFile());
+}
+
+void tst_WholeFile::aPipeThatNobodyReadsIsRefused()
+{
+    QCOMPARE(mkfifo("pipe", S_IRUSR | S_IWUSR), 0);
+    QString reason;
+    QCOMPARE(writeWhole(QStringLiteral("pipe"), newContent, {}, &reason), Written::Incomplete);
+    QVERIFY(!reason.isEmpty());
+    QCOMPARE(filesHere(), QStringList(QStringLiteral("pipe")));
+}
+
+void tst_WholeFile::aPipeThatIsReadIsWrittenOn()
+{
+    QCOMPARE(mkfifo("pipe", S_IRUSR | S_IWUSR), 0);
+    QProcess reader;
+    reader.setStandardOutputFile(QStringLiteral("read"));
+    reader.start(QStringLiteral("cat"), {QStringLiteral("pipe")});
+    QVERIFY(reader.waitForStarted());
+    QVERIFY(QTest::qWaitFor([]() { return writeWhole(QStringLiteral("pipe"), newContent) == Written::Whole; }));
+    QVERIFY(reader.waitForFinished());
+    QCOMPARE(m_folder->read(QStringLiteral("read")), newContent);
 }
 
 void tst_WholeFile::withoutFilesToOpenNothingIsTried()
