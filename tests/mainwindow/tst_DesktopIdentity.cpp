@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
+#include "mainwindow/PagePreview.h"
 #include "mainwindow/WholeProgram.h"
+#include "manuale/Manuale.h"
 #include "msgarea/MsgArea.h"
 #include "personale/EditPersonale.h"
+#include "serata/NuovaPartita.h"
+#include "serata/Serata.h"
 #include "settings/Config.h"
 #include "settings/FormatSelection.h"
 #include "settings/Options.h"
@@ -43,11 +47,25 @@ QString expected(const char *title)
     return QStringLiteral("\"%1\" \"quintra\", \"Quintra\" icon").arg(QString::fromUtf8(title));
 }
 
+void trigger(QWidget *window, const char *actionName)
+{
+    window->findChild<QAction *>(QString::fromLatin1(actionName))->trigger();
+}
+
 template<class Window>
 QString seenAfter(MainWindow *window, const char *actionName)
 {
-    window->findChild<QAction *>(QString::fromLatin1(actionName))->trigger();
+    trigger(window, actionName);
     return seen(shown<Window>());
+}
+
+// The same of a window that is closed again.
+template<class Window>
+QString seenFor(MainWindow *window, const char *actionName)
+{
+    const QString found = seenAfter<Window>(window, actionName);
+    shown<Window>()->close();
+    return found;
 }
 } // namespace
 
@@ -60,6 +78,7 @@ private slots:
     void theApplicationHasItsNames();
     void windowsOfTheFirstStart();
     void windowsOfLaterStarts();
+    void windowsOfTheEvening();
     void boxes();
 };
 
@@ -94,20 +113,41 @@ void tst_DesktopIdentity::windowsOfTheFirstStart()
 void tst_DesktopIdentity::windowsOfLaterStarts()
 {
     const ScratchFolder folder;
+    folder.write(QStringLiteral("manual/manual_en.html"), "<h1>Quintra</h1>");
     Config(nullptr).resetDefaults();
     QStringList titles;
     run([&]() {
         auto *window = shown<MainWindow>();
-        titles.append(seenAfter<MsgArea>(window, "actionInformazioni"));
-        shown<MsgArea>()->close();
-        titles.append(seenAfter<Options>(window, "actionOpzioni"));
-        shown<Options>()->close();
+        titles.append(seenFor<MsgArea>(window, "actionInformazioni"));
+        titles.append(seenFor<Options>(window, "actionOpzioni"));
+        titles.append(seenFor<Manuale>(window, "actionManuale"));
+        titles.append(seenFor<PagePreview>(window, "actionAnteprima"));
         window->findChild<QCheckBox *>(QStringLiteral("MappaManuale"))->setChecked(true);
         titles.append(seenAfter<EditPersonale>(window, "actionCrea"));
         leave(window);
     });
     QCOMPARE(titles, QStringList({expected("Quintra - Informazioni"), expected("Quintra - Opzioni"),
+                                  expected("Quintra - Manuale"), expected("Quintra - Anteprima di stampa"),
                                   expected("Quintra v0.704 - MAPPATURA MANUALE")}));
+}
+
+void tst_DesktopIdentity::windowsOfTheEvening()
+{
+    const ScratchFolder folder;
+    Config(nullptr).resetDefaults();
+    QStringList titles;
+    run([&]() {
+        auto *window = shown<MainWindow>();
+        titles.append(seenAfter<Serata>(window, "actionSerata"));
+        whenShown<NuovaPartita>([&](NuovaPartita *dialog) {
+            titles.append(seen(dialog));
+            dialog->reject();
+        });
+        trigger(shown<Serata>(), "actionNuovaPartita");
+        shown<Serata>()->close();
+        leave(window);
+    });
+    QCOMPARE(titles, QStringList({expected("Quintra - Serata"), expected("Quintra - Nuova partita")}));
 }
 
 void tst_DesktopIdentity::boxes()
