@@ -43,6 +43,10 @@ links_are_ours_in() {
     is "$(readlink "$1/default.png")" "$shared/default.png"
 }
 
+link_to_the_folder() {
+    readlink "$HOME/.local/state/quintra"
+}
+
 # The launcher ends without the program and says so; all that follows is part of what it says.
 is_refused() {
     rm -f "$here/started"
@@ -118,6 +122,33 @@ folder_thrown_away() {
     rm -r "$HOME/Quintra"
     starts_in "$HOME/Documents/Quintra"
     starts_in "$HOME/Documents/Quintra"
+}
+
+folder_on_a_disk_that_is_not_there_today() {
+    mkdir -p "$HOME/disk/Documents"
+    documents_are "$HOME/disk/Documents"
+    starts_in "$HOME/disk/Documents/Quintra"
+    mv "$HOME/disk" "$HOME/elsewhere"
+    is_refused "$HOME/disk/Documents/Quintra" "$HOME/.local/state/quintra"
+    is "$(link_to_the_folder)" "$HOME/disk/Documents/Quintra"
+    is "$(ls "$HOME")" elsewhere
+    mkdir "$HOME/Quintra" # left from another time
+    is_refused "$HOME/disk/Documents/Quintra"
+    mv "$HOME/elsewhere" "$HOME/disk"
+    starts_in "$HOME/disk/Documents/Quintra"
+    rm "$HOME/.local/state/quintra" # as the message advises who will not see that disk again
+    rm -r "$HOME/disk"
+    starts_in "$HOME/Quintra"
+}
+
+folder_that_moved_with_the_documents() {
+    mkdir "$HOME/Documents"
+    documents_are "$HOME/Documents"
+    starts_in "$HOME/Documents/Quintra"
+    mv "$HOME/Documents" "$HOME/Dokumente"
+    documents_are "$HOME/Dokumente"
+    starts_in "$HOME/Dokumente/Quintra"
+    is "$(link_to_the_folder)" "$HOME/Dokumente/Quintra"
 }
 
 untouched_copy_of_the_picture() {
@@ -275,6 +306,16 @@ message_in_the_users_language() {
     LC_ALL='' LANG=de_DE.UTF-8 is_refused "kann in diesem Ordner nicht arbeiten"
 }
 
+missing_disk_in_the_users_language() {
+    mkdir -p "$HOME/.local/state"
+    ln -s "$HOME/disk/Quintra" "$HOME/.local/state/quintra"
+    LC_ALL=de_AT.UTF-8 is_refused "kann in diesem Ordner nicht arbeiten" "Der Ordner fehlt."
+    LC_ALL=fr_FR.UTF-8 is_refused "ne peut pas travailler dans ce dossier" "Le dossier manque."
+    LC_ALL=es_MX.UTF-8 is_refused "no puede trabajar en esta carpeta" "Falta la carpeta."
+    LC_ALL=en_US.UTF-8 is_refused "cannot work in this folder" "The folder is missing."
+    LC_ALL=it_IT.UTF-8 is_refused "non riesce a lavorare in questa cartella" "La cartella manca."
+}
+
 # The first-start dialog comments config.ini as soon as it has found a translation.
 the_program_itself() {
     mv "$program" "$program.stub"
@@ -337,11 +378,13 @@ sh=$(command -v sh)
 the_program_is_a_stub
 [ $# -gt 0 ] || set -- documents_folder no_documents_folder documents_folder_that_is_gone folder_of_an_earlier_release \
     folder_of_an_earlier_release_elsewhere documents_folder_of_another_name folder_thrown_away \
+    folder_on_a_disk_that_is_not_there_today folder_that_moved_with_the_documents \
     untouched_copy_of_the_picture picture_cut_off_by_a_full_disk picture_of_the_users_own \
     translations_of_the_users_own manual_of_the_users_own links_of_the_users_own upgrade missing_home read_only_home \
     read_only_folder_with_settings read_only_folder_of_an_earlier_release read_only_folder_without_settings \
     documents_folder_that_is_closed \
-    message_on_the_screen message_without_a_screen message_in_the_users_language the_program_itself
+    message_on_the_screen message_without_a_screen message_in_the_users_language \
+    missing_disk_in_the_users_language the_program_itself
 failed=0
 set +e # in the condition of || it would hold for the case too
 for name in "$@"; do
