@@ -46,6 +46,7 @@ for language in it en; do
         fails "There is no manual in the language $language."
 done
 sh "$project/tests/packaging/desktop_files.sh" "$project" "$root/usr/share"
+sh "$project/tests/packaging/translations.sh" "$project" "$root/usr/share"
 
 program=$root/usr/libexec/quintra/quintra
 readelf --wide --file-header --segments --sections --dynamic --dyn-syms --notes "$program" >"$scratch/elf"
