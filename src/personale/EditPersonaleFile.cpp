@@ -189,7 +189,7 @@ QString EditPersonale::readMapping(const QString &fileName)
     QTextStream stream(&file);
     const MappingFile::Lettura reading = MappingFile::read(
         stream, [this](int lines) { ui->statusBar->showMessage(tr("Sto leggendo la pagina %1").arg(lines)); });
-    const QString failure = file.error() != QFile::NoError ? file.errorString() : QString();
+    QString failure = file.error() != QFile::NoError ? file.errorString() : QString();
     if (!confirmPages(reading.pagine)) {
         ui->statusBar->showMessage(tr("Apertura file annullata!"));
         return failure;
