@@ -2,6 +2,7 @@
 #include "manuale/ManualFile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 QString manualFolder()
@@ -9,14 +10,18 @@ QString manualFolder()
     return QDir::current().filePath(QStringLiteral("manual"));
 }
 
-QString manualFile(const QString &locale)
+ManualFile readManual(const QString &fileName)
 {
-    const QString language = locale.section(QLatin1Char('_'), 0, 0);
-    for (const QString &one : {language, QStringLiteral("en")}) {
-        const QFileInfo file(manualFolder() + QStringLiteral("/manual_%1.html").arg(one));
-        if (file.isFile() && file.isReadable()) {
-            return file.filePath();
-        }
-    }
-    return QString();
+    QFile file(fileName);
+    const bool opened = QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly);
+    const QByteArray page = opened ? file.readAll() : QByteArray();
+    // The toolkit tells of no error when the disk fails in the midst of a file.
+    return {fileName, page.size() == file.size() ? page : QByteArray()};
+}
+
+ManualFile manualFor(const QString &locale)
+{
+    const QString name = manualFolder() + QStringLiteral("/manual_%1.html");
+    const ManualFile manual = readManual(name.arg(locale.section(QLatin1Char('_'), 0, 0)));
+    return manual.page.isEmpty() ? readManual(name.arg(QStringLiteral("en"))) : manual;
 }

@@ -60,8 +60,8 @@ void Manuale::connectCommands()
 
 void Manuale::openFor(QMainWindow *asker)
 {
-    const QString file = manualFile(shownLanguage());
-    if (file.isEmpty()) {
+    const ManualFile manual = manualFor(shownLanguage());
+    if (manual.page.isEmpty()) {
         asker->statusBar()->showMessage(tr("Il manuale non è in %1!").arg(QDir::toNativeSeparators(manualFolder())));
         return;
     }
@@ -70,16 +70,14 @@ void Manuale::openFor(QMainWindow *asker)
     } else if (openManual->parentWidget() != asker) {
         openManual->setParent(asker, openManual->windowFlags());
     }
-    openManual->showFile(file);
+    openManual->showManual(manual);
 }
 
-void Manuale::showFile(const QString &fileName)
+void Manuale::showManual(const ManualFile &manual)
 {
-    const QUrl url = QUrl::fromLocalFile(fileName);
-    if (ui->testo_browser->source().adjusted(QUrl::RemoveFragment) != url) {
+    if (!ui->testo_browser->shows(manual.name)) {
         colourLinks();
-        ui->testo_browser->setSource(url);
-        ui->testo_browser->clearHistory();
+        ui->testo_browser->setManual(manual);
         ui->testo_browser->setFocus();
     }
     show();

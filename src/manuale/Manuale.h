@@ -6,6 +6,7 @@
 #include <memory>
 
 class QMainWindow;
+struct ManualFile;
 
 namespace Ui {
 class Manuale;
@@ -23,11 +24,11 @@ public:
 
     // Shows the manual, in the language of the texts, over the window that asks for it. There is one for all windows;
     // it goes to the one that asked last, so that no modal one blocks it. Where there is no manual the window's status
-    // bar says where it was looked for.
+    // bar says where it was looked for, and the window stays as it is.
     static void openFor(QMainWindow *asker);
 
-    // Shows a manual, which manualFile() has found, in front of the other windows.
-    void showFile(const QString &fileName);
+    // Shows a manual that could be read, in front of the other windows.
+    void showManual(const ManualFile &manual);
 
 protected:
     void changeEvent(QEvent *event) override;

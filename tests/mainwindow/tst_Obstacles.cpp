@@ -2,6 +2,7 @@
 // Every file that is written or read, and everything that may be in its way, for an ordinary user.
 #include "generation/CellImage.h"
 #include "generation/GUtils.h"
+#include "manuale/Manuale.h"
 #include "msgarea/MsgArea.h"
 #include "output/CreateOutputFile.h"
 #include "output/SampleSets.h"
@@ -17,6 +18,9 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFileDialog>
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QTextBrowser>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -89,6 +93,33 @@ bool waitForListing()
     return false;
 }
 
+// A window that asks for the manual, which lies in the folder of an obstacle.
+class ManualBehindObstacle final
+{
+public:
+    explicit ManualBehindObstacle(const ScratchFolder &folder)
+        : obstacle(folder, kindNow(), QStringLiteral("manual_it.html"),
+                   "<p>the manual</p><p><a name=\"far\"></a>far</p>")
+    {
+        QVERIFY(QFile::link(QStringLiteral("there"), QStringLiteral("manual")));
+    }
+    bool isReadable() const { return obstacle.onReading() == Obstacle::Effect::None; }
+    QString status() const { return asker.statusBar()->currentMessage(); }
+    // What the status bar says where the manual cannot be read.
+    QString expectedStatus() const
+    {
+        return isReadable() ? QString() : QStringLiteral("Il manuale non è in %1/manual!").arg(QDir::currentPath());
+    }
+    QTextBrowser *text() const { return asker.findChild<QTextBrowser *>(); }
+    bool isShown() const
+    {
+        return text() != nullptr && text()->isVisible() && text()->toPlainText() == QStringLiteral("the manual\nfar");
+    }
+
+    QMainWindow asker;
+    Obstacle obstacle;
+};
+
 // Strikes when the user has chosen the file and nothing has been done with it yet.
 std::function<void(QWidget *)> strikingWhenChosen(Obstacle &obstacle)
 {
@@ -127,6 +158,10 @@ private slots:
     void aJournalIsRead();
     void aTranslationIsLoaded_data();
     void aTranslationIsLoaded();
+    void theManualIsOpened_data();
+    void theManualIsOpened();
+    void theOpenManualStays_data();
+    void theOpenManualStays();
 };
 
 void tst_Obstacles::aSetIsPrinted_data()
@@ -402,6 +437,47 @@ void tst_Obstacles::aTranslationIsLoaded()
     const bool read = obstacle.onReading() == Obstacle::Effect::None;
     QCOMPARE(QCoreApplication::translate("FormatSelection", "Lingua di default"),
              read ? QStringLiteral("translated") : QStringLiteral("Lingua di default"));
+}
+
+void tst_Obstacles::theManualIsOpened_data()
+{
+    aTranslationIsLoaded_data();
+}
+
+void tst_Obstacles::theManualIsOpened()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    ManualBehindObstacle t(folder);
+    t.obstacle.strike();
+    Manuale::openFor(&t.asker);
+    t.obstacle.lift();
+    QCOMPARE(t.isShown(), t.isReadable());
+    QCOMPARE(t.text() != nullptr, t.isReadable());
+    QCOMPARE(t.status(), t.expectedStatus());
+}
+
+void tst_Obstacles::theOpenManualStays_data()
+{
+    theManualIsOpened_data();
+}
+
+void tst_Obstacles::theOpenManualStays()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    ManualBehindObstacle t(folder);
+    Manuale::openFor(&t.asker);
+    QVERIFY(t.isShown());
+    t.obstacle.strike();
+    Manuale::openFor(&t.asker);
+    QEvent otherColours(QEvent::PaletteChange);
+    QCoreApplication::sendEvent(t.text()->window(), &otherColours);
+    t.text()->setSource(QUrl(QStringLiteral("#far")));
+    t.text()->backward();
+    t.obstacle.lift();
+    QVERIFY(t.isShown());
+    QCOMPARE(t.status(), t.expectedStatus());
 }
 
 QTEST_MAIN(tst_Obstacles)

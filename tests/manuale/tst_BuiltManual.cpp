@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The manual that the program opens, as the text browser of its window reads it.
 #include "ManualPages.h"
+#include "manuale/ManualFile.h"
 #include "manuale/Manuale.h"
 
 #include <QDir>
@@ -49,7 +50,7 @@ QVector<QTextCharFormat> formatsOf(const QTextDocument &document)
 class OpenManual final
 {
 public:
-    explicit OpenManual(const QString &language) { window.showFile(fileOf(language)); }
+    explicit OpenManual(const QString &language) { window.showManual(readManual(fileOf(language))); }
 
     QTextBrowser *text() const { return window.findChild<QTextBrowser *>(); }
 

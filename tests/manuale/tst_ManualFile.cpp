@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "manuale/ManualFile.h"
 
+#include "support/FileFaults.h"
 #include "support/ScratchFolder.h"
 
 #include <QDir>
 #include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 const QString italian = QStringLiteral("manual/manual_it.html");
@@ -20,6 +24,9 @@ private slots:
     void itIsInTheLanguageOrInEnglish();
     void withoutTheEnglishOneThereIsNone();
     void aFolderIsNoManual();
+    void oneThatBreaksOffGivesWayToTheEnglishOne();
+    void aPipeIsNoManual();
+    void aFolderThatIsNotUtf8HasNone();
     void theFolderIsThatOfTheProgram();
 };
 
@@ -42,23 +49,62 @@ void tst_ManualFile::itIsInTheLanguageOrInEnglish()
     const ScratchFolder folder;
     folder.write(italian, "it");
     folder.write(english, "en");
-    QCOMPARE(manualFile(locale), folder.path(file));
+    const ManualFile found = manualFor(locale);
+    QCOMPARE(found.name, folder.path(file));
+    QCOMPARE(found.page, folder.read(file));
 }
 
 void tst_ManualFile::withoutTheEnglishOneThereIsNone()
 {
     const ScratchFolder folder;
-    QCOMPARE(manualFile(QStringLiteral("it_IT")), QString());
+    QCOMPARE(manualFor(QStringLiteral("it_IT")).page, QByteArray());
     folder.write(italian, "it");
-    QCOMPARE(manualFile(QStringLiteral("de_DE")), QString());
-    QCOMPARE(manualFile(QStringLiteral("it_IT")), folder.path(italian));
+    QCOMPARE(manualFor(QStringLiteral("de_DE")).page, QByteArray());
+    QCOMPARE(manualFor(QStringLiteral("it_IT")).page, QByteArray("it"));
 }
 
 void tst_ManualFile::aFolderIsNoManual()
 {
     const ScratchFolder folder;
     QVERIFY(QDir::current().mkpath(italian));
-    QCOMPARE(manualFile(QStringLiteral("it_IT")), QString());
+    QCOMPARE(manualFor(QStringLiteral("it_IT")).page, QByteArray());
+}
+
+void tst_ManualFile::oneThatBreaksOffGivesWayToTheEnglishOne()
+{
+    const ScratchFolder folder;
+    folder.write(italian, QByteArray(100000, 'i'));
+    folder.write(english, "en");
+    int calls = 1;
+    for (bool broken = true; broken; ++calls) {
+        const FileFaults faults(folder.path(italian), FileFaults::Calls::ReadsOfBlocks, calls,
+                                FileFaults::Effect::LastingError);
+        const QByteArray page = manualFor(QStringLiteral("it_IT")).page;
+        broken = FileFaults::struck() != nullptr;
+        QCOMPARE(page, broken ? QByteArray("en") : QByteArray(100000, 'i'));
+    }
+    QVERIFY(calls > 20);
+}
+
+// It would be waited for without end.
+void tst_ManualFile::aPipeIsNoManual()
+{
+    const ScratchFolder folder;
+    QVERIFY(QDir().mkdir(manualFolder()));
+    QCOMPARE(mkfifo(qPrintable(italian), S_IRUSR | S_IWUSR), 0);
+    QCOMPARE(manualFor(QStringLiteral("it_IT")).page, QByteArray());
+}
+
+// No text of the program can name it.
+void tst_ManualFile::aFolderThatIsNotUtf8HasNone()
+{
+    const ScratchFolder folder;
+    folder.write(italian, "it");
+    QCOMPARE(mkdir("odd\xff", S_IRWXU), 0);
+    QCOMPARE(chdir("odd\xff"), 0);
+    QCOMPARE(symlink("../manual", "manual"), 0);
+    QVERIFY(QFile::exists(italian));
+    QCOMPARE(manualFor(QStringLiteral("it_IT")).page, QByteArray());
 }
 
 void tst_ManualFile::theFolderIsThatOfTheProgram()

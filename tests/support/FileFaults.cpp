@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -135,11 +136,16 @@ __attribute__((visibility("default"))) int open64(const char *path, int flags, .
 __attribute__((visibility("default"))) ssize_t read(int descriptor, void *data, size_t size)
 {
     static auto *real = next<ssize_t(int, void *, size_t)>("read");
-    if (isBelow(descriptor) && isDue(FileFaults::Calls::Reads)) {
+    const bool inBlocks = plan().calls == FileFaults::Calls::ReadsOfBlocks;
+    if (!isBelow(descriptor)) {
+        return real(descriptor, data, size);
+    }
+    if (isDue(inBlocks ? FileFaults::Calls::ReadsOfBlocks : FileFaults::Calls::Reads)) {
         strike("read", EIO);
         return -1;
     }
-    return real(descriptor, data, size);
+    constexpr size_t block = 4096;
+    return real(descriptor, data, inBlocks ? std::min(size, block) : size);
 }
 
 __attribute__((visibility("default"))) int fsync(int descriptor)

@@ -14,6 +14,7 @@ public:
     enum class Calls {
         Changes, // every write, sync, close and rename
         Reads,
+        ReadsOfBlocks, // as a disk that fails in the midst of a file gives what comes before
         All,
         Creations // every opening that makes a new file; not among All
     };

@@ -4,6 +4,7 @@
 #include "generation/GeneraCartellaClassica.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/PagePreview.h"
+#include "manuale/ManualFile.h"
 #include "manuale/Manuale.h"
 #include "model/Positions.h"
 #include "msgarea/MsgArea.h"
@@ -119,7 +120,7 @@ Window manual(Stage &stage)
     const QString file = QStringLiteral("manual.html");
     stage.folder.write(file, "<h1>Quintra</h1><p>0.704 <a href='other'>2</a></p>");
     auto window = std::make_unique<Manuale>();
-    window->showFile(stage.folder.path(file));
+    window->showManual(readManual(stage.folder.path(file)));
     return window;
 }
 
