@@ -32,6 +32,98 @@ int numberMaximum(const MainWindow *window)
 {
     return window->findChild<QSpinBox *>(QStringLiteral("box_classica_numeromassimo"))->value();
 }
+
+// The way of a new user, who has the translations in the folder of the program. Each start that comes to its end is
+// appended to the steps.
+
+void copyTranslations()
+{
+    const QDir translations(QStringLiteral(QUINTRA_LANGUAGE_FOLDER));
+    QVERIFY(QDir().mkdir(QStringLiteral("language")));
+    for (const QString &file : translations.entryList({QStringLiteral("*.qm")})) {
+        QVERIFY(QFile::copy(translations.filePath(file), QStringLiteral("language/") + file));
+    }
+}
+
+// Chooses a language; the tool tip of the button of the defaults in it.
+QString okTipIn(const QString &language, const FormatSelection *dialog)
+{
+    dialog->findChild<QComboBox *>(QStringLiteral("lang_selection"))->setCurrentText(language);
+    return dialog->findChild<QPushButton *>(QStringLiteral("default_settings"))->toolTip();
+}
+
+void lowerTheHighestNumber(const FormatSelection *dialog)
+{
+    QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("default_settings")), Qt::LeftButton);
+    auto *editor = dialog->findChild<MsgArea *>();
+    auto *text = editor->findChild<QTextEdit *>();
+    text->setPlainText(text->toPlainText().replace(QStringLiteral("NMAX=90"), QStringLiteral("NMAX=75")));
+    boxes->expectBox(translated("MsgArea", "Salva"), translated("MsgArea", "File salvato con successo."),
+                     QMessageBox::Ok);
+    action(editor, "actionSalva")->trigger();
+    editor->close();
+}
+
+// What a user reads who has chosen English.
+struct FirstStart
+{
+    QString okTip;
+    QByteArray comments; // with all that is in config.ini
+    QString printText;
+};
+
+FirstStart startInEnglish(const ScratchFolder &folder, QStringList &steps)
+{
+    FirstStart seen;
+    run([&]() {
+        auto *dialog = shown<FormatSelection>();
+        const QString italian = okTipIn(QStringLiteral("it_IT"), dialog);
+        seen.okTip = okTipIn(QStringLiteral("en_GB"), dialog);
+        QCOMPARE(italian, QStringLiteral("Impostazioni di default"));
+        seen.comments = folder.read(QStringLiteral("config.ini"));
+        lowerTheHighestNumber(dialog);
+        pressOk(dialog);
+        whenShown<MainWindow>([&](MainWindow *window) {
+            seen.printText = window->findChild<QPushButton *>(QStringLiteral("butt_stampa"))->text();
+            QCOMPARE(numberMaximum(window), 75);
+            steps.append(QStringLiteral("first"));
+            leave(window);
+        });
+    });
+    return seen;
+}
+
+void resetAndLeave(QStringList &steps)
+{
+    run([&]() {
+        MainWindow *window = shown<MainWindow>();
+        QVERIFY(window != nullptr);
+        QCOMPARE(numberMaximum(window), 75);
+        action(window, "actionOpzioni")->trigger();
+        const QString title = QStringLiteral("Quintra - Opzioni");
+        boxes->expectBox(title,
+                         QStringLiteral("Proseguire con la cancellazionede del file di configurazione e l'uscita dal "
+                                        "programma?"),
+                         QMessageBox::Yes);
+        boxes->expectBox(title, QStringLiteral("File di configurazione eliminato correttamente."), QMessageBox::Ok);
+        boxes->expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"), QMessageBox::Yes);
+        steps.append(QStringLiteral("second"));
+        shown<Options>()->findChild<QPushButton *>(QStringLiteral("butt_azzeraesci"))->click();
+    });
+}
+
+void startAnew(QStringList &steps)
+{
+    run([&]() {
+        QVERIFY(shown<FormatSelection>() != nullptr);
+        steps.append(QStringLiteral("third"));
+        shown<FormatSelection>()->close();
+        whenShown<MainWindow>([&](MainWindow *window) {
+            QCOMPARE(numberMaximum(window), 90);
+            leave(window);
+        });
+    });
+}
 } // namespace
 
 class tst_Startup final : public QObject
@@ -203,72 +295,22 @@ void tst_Startup::leavingWithOtherWindowsOpenEndsCleanly()
 void tst_Startup::aNewUserFindsTheWayInEnglish()
 {
     const ScratchFolder folder;
-    const QDir translations(QStringLiteral(QUINTRA_LANGUAGE_FOLDER));
-    QVERIFY(QDir().mkdir(QStringLiteral("language")));
-    for (const QString &file : translations.entryList({QStringLiteral("*.qm")})) {
-        QVERIFY(QFile::copy(translations.filePath(file), QStringLiteral("language/") + file));
+    copyTranslations();
+    if (QTest::currentTestFailed()) {
+        return;
     }
-    QString okTip;
-    QByteArray comments;
-    QString printText;
     QStringList steps;
 
-    run([&]() {
-        auto *dialog = shown<FormatSelection>();
-        auto *languages = dialog->findChild<QComboBox *>(QStringLiteral("lang_selection"));
-        languages->setCurrentText(QStringLiteral("it_IT"));
-        const QString italian = dialog->findChild<QPushButton *>(QStringLiteral("default_settings"))->toolTip();
-        languages->setCurrentText(QStringLiteral("en_GB"));
-        okTip = dialog->findChild<QPushButton *>(QStringLiteral("default_settings"))->toolTip();
-        QCOMPARE(italian, QStringLiteral("Impostazioni di default"));
-        comments = folder.read(QStringLiteral("config.ini"));
+    const FirstStart seen = startInEnglish(folder, steps);
+    QVERIFY2(seen.okTip != QStringLiteral("Impostazioni di default"), qPrintable(seen.okTip));
+    QVERIFY2(!seen.comments.contains(";Numeri - Massimo\n") && seen.comments.contains("\n;"),
+             seen.comments.constData());
+    QVERIFY2(seen.printText != QStringLiteral("STAMPA"), qPrintable(seen.printText));
 
-        QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("default_settings")), Qt::LeftButton);
-        auto *editor = dialog->findChild<MsgArea *>();
-        auto *text = editor->findChild<QTextEdit *>();
-        text->setPlainText(text->toPlainText().replace(QStringLiteral("NMAX=90"), QStringLiteral("NMAX=75")));
-        boxes->expectBox(translated("MsgArea", "Salva"), translated("MsgArea", "File salvato con successo."),
-                         QMessageBox::Ok);
-        action(editor, "actionSalva")->trigger();
-        editor->close();
-        pressOk(dialog);
-        whenShown<MainWindow>([&](MainWindow *window) {
-            printText = window->findChild<QPushButton *>(QStringLiteral("butt_stampa"))->text();
-            QCOMPARE(numberMaximum(window), 75);
-            steps.append(QStringLiteral("first"));
-            leave(window);
-        });
-    });
-    QVERIFY2(okTip != QStringLiteral("Impostazioni di default"), qPrintable(okTip));
-    QVERIFY2(!comments.contains(";Numeri - Massimo\n") && comments.contains("\n;"), comments.constData());
-    QVERIFY2(printText != QStringLiteral("STAMPA"), qPrintable(printText));
-
-    run([&]() {
-        MainWindow *window = shown<MainWindow>();
-        QVERIFY(window != nullptr);
-        QCOMPARE(numberMaximum(window), 75);
-        action(window, "actionOpzioni")->trigger();
-        const QString title = QStringLiteral("Quintra - Opzioni");
-        boxes->expectBox(title,
-                         QStringLiteral("Proseguire con la cancellazionede del file di configurazione e l'uscita dal "
-                                        "programma?"),
-                         QMessageBox::Yes);
-        boxes->expectBox(title, QStringLiteral("File di configurazione eliminato correttamente."), QMessageBox::Ok);
-        boxes->expectBox(QStringLiteral("Quintra"), QStringLiteral("Sei sicuro di voler uscire?"), QMessageBox::Yes);
-        steps.append(QStringLiteral("second"));
-        shown<Options>()->findChild<QPushButton *>(QStringLiteral("butt_azzeraesci"))->click();
-    });
+    resetAndLeave(steps);
     QVERIFY(!QFileInfo::exists(QStringLiteral("config.ini")));
 
-    run([&]() {
-        QVERIFY(shown<FormatSelection>() != nullptr);
-        steps.append(QStringLiteral("third"));
-        shown<FormatSelection>()->close();
-        whenShown<MainWindow>([&](MainWindow *window) {
-            QCOMPARE(numberMaximum(window), 90);
-            leave(window);
-        });
-    });
+    startAnew(steps);
     QCOMPARE(steps, QStringList({QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")}));
 }
 
