@@ -18,6 +18,7 @@
 
 namespace {
 const QString name = QStringLiteral("config.ini");
+const QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
 bool comment(Config &config)
 {
@@ -100,6 +101,9 @@ private slots:
     void whatIsNoFileGivesTheDefaults_data();
     void whatIsNoFileGivesTheDefaults();
     void aFolderInItsPlaceGivesTheDefaults();
+    void aLinkToItselfGivesTheDefaults();
+    void aFolderWithoutReadableNameGivesTheDefaults();
+    void aFolderOfTheLongestNameIsAsAnyOther();
     void aFolderThatIsGoneGivesTheDefaults();
     void withoutRightsThereAreTheDefaults();
     void withoutFilesToOpenThereAreTheDefaults();
@@ -238,6 +242,63 @@ void tst_ConfigFaults::aFolderInItsPlaceGivesTheDefaults()
     compareWithDefaults(config);
     QVERIFY(!comment(config));
     QVERIFY(QFileInfo(name).isDir());
+}
+
+// It held nothing, and a file takes its place.
+void tst_ConfigFaults::aLinkToItselfGivesTheDefaults()
+{
+    const ScratchFolder folder;
+    QVERIFY(QFile::link(name, name));
+    Config config(nullptr);
+    QVERIFY(config.isFirstStart());
+    compareWithDefaults(config);
+    QVERIFY(comment(config));
+    QCOMPARE(folder.read(name), commentedDefaults());
+    QVERIFY(!Config(nullptr).isFirstStart());
+    QCOMPARE(QDir().entryList(everything), QStringList(name));
+}
+
+// The program can name no file in it. The toolkit makes a folder with the nearest name, which the next start finds.
+void tst_ConfigFaults::aFolderWithoutReadableNameGivesTheDefaults()
+{
+    const ScratchFolder folder;
+    const OrdinaryUser user(folder);
+    const QByteArray text = plainDefaults().replace("NMIN=1\n", "NMIN=7\n");
+    QCOMPARE(mkdir("odd\xff", S_IRWXU), 0);
+    QCOMPARE(chdir("odd\xff"), 0);
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    Config config(nullptr);
+    QVERIFY(config.isFirstStart());
+    compareWithDefaults(config);
+    comment(config);
+    const Config next(nullptr);
+    QVERIFY(!next.isFirstStart());
+    compareWithDefaults(next);
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), text);
+}
+
+void tst_ConfigFaults::aFolderOfTheLongestNameIsAsAnyOther()
+{
+    constexpr int mostBytes = 255;
+    const ScratchFolder folder;
+    const QString longest(mostBytes, QLatin1Char('x'));
+    QVERIFY(QDir().mkdir(longest) && QDir::setCurrent(longest));
+    Config config(nullptr);
+    QVERIFY(config.isFirstStart());
+    compareWithDefaults(config);
+    QVERIFY(comment(config));
+    const QString path = folder.path(longest + QLatin1Char('/') + name);
+    QCOMPARE(folder.read(path), commentedDefaults());
+    folder.write(path, plainDefaults().replace("NMIN=1\n", "NMIN=7\n"));
+    const Config next(nullptr);
+    QVERIFY(!next.isFirstStart());
+    QCOMPARE(next.nMin, 7);
+    QCOMPARE(QDir().entryList(everything), QStringList(name));
 }
 
 void tst_ConfigFaults::aFolderThatIsGoneGivesTheDefaults()

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,10 +23,20 @@ QString tooLongName(const QString &suffix)
     return QLatin1Char('x') + longestName(suffix);
 }
 
-// In a folder that no text of the program can name.
+// Names that no text of the program can spell: the toolkit puts another character in the place of the byte.
+QByteArray oddName(const QString &suffix)
+{
+    return "odd\xff" + QFile::encodeName(suffix);
+}
+
+QString nameSeenFor(const QString &suffix)
+{
+    return QFile::decodeName(oddName(suffix));
+}
+
 QString nameInOddFolder(const QString &suffix)
 {
-    const QByteArray odd = "odd\xff";
+    const QByteArray odd = oddName(QString());
     if (!QDir().exists(QFile::decodeName(odd)) && mkdir(odd.constData(), S_IRWXU) != 0 && errno != EEXIST) {
         qFatal("Obstacle: no folder of that name");
     }
@@ -49,6 +60,7 @@ const std::vector<Obstacle::Kind> &Obstacle::kinds()
         {"dying disk", Effect::Broken, Effect::Broken, killDisk, nullptr},
         {"longest name", Effect::None, Effect::None, strikeName, longestName},
         {"too long a name", Effect::Refused, Effect::Refused, strikeName, tooLongName},
+        {"name that is not UTF-8", Effect::None, Effect::Refused, giveOddName, nameSeenFor},
         {"folder that is not UTF-8", Effect::Refused, Effect::Refused, strikeName, nameInOddFolder},
     };
     return all;
@@ -126,6 +138,15 @@ void Obstacle::linkToItself(Obstacle &o)
 {
     QFile::remove(o.m_path);
     QFile::link(o.m_path, o.m_path);
+}
+
+void Obstacle::giveOddName(Obstacle &o)
+{
+    const QFileInfo file(o.m_path);
+    const QByteArray odd = QFile::encodeName(file.path()) + '/' + oddName(QLatin1Char('.') + file.suffix());
+    if (std::rename(QFile::encodeName(o.m_path).constData(), odd.constData()) != 0) {
+        qFatal("Obstacle: no file of that name");
+    }
 }
 
 void Obstacle::takeOpenFiles(Obstacle &o)

@@ -54,6 +54,7 @@ private:
     static void makeFolderOfThatName(Obstacle &o);
     static void removeFolder(Obstacle &o);
     static void linkToItself(Obstacle &o);
+    static void giveOddName(Obstacle &o);
     static void takeOpenFiles(Obstacle &o);
     static void fillDisk(Obstacle &o);
     static void killDisk(Obstacle &o);

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include <filesystem>
+
 ScratchFolder::ScratchFolder()
     : m_before(QDir::currentPath())
 {
@@ -18,6 +20,9 @@ ScratchFolder::ScratchFolder()
 ScratchFolder::~ScratchFolder()
 {
     QDir::setCurrent(m_before);
+    // The toolkit would leave names that are not UTF-8.
+    std::error_code ignored;
+    std::filesystem::remove_all(QFile::encodeName(m_folder.path()).toStdString(), ignored);
 }
 
 QString ScratchFolder::path(const QString &fileName) const
