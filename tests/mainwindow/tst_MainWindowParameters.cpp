@@ -84,6 +84,8 @@ private slots:
     void byHandOnlyTheSizeIsChecked();
     void leavingTheHandReloadsTheConfiguration();
     void valuesOfTheConfigurationThatWereChangedAreNamed();
+    void theyAreNamedUntilAParameterIsEdited_data();
+    void theyAreNamedUntilAParameterIsEdited();
     void nothingIsSaidOfAConfigurationTakenAsItIs();
 };
 
@@ -451,7 +453,30 @@ void tst_MainWindowParameters::valuesOfTheConfigurationThatWereChangedAreNamed()
     QCOMPARE(changed->text(),
              QStringLiteral("Valori di config.ini cambiati:\nCLASSIC_NCOLS: 500 > 99\nNMIN: 101 > 90"));
     QCOMPARE(window.findChild<QSpinBox *>(QStringLiteral("box_classica_numerominimo"))->value(), 90);
-    window.findChild<QSpinBox *>(QStringLiteral("box_classica_numeropagine"))->setValue(2);
+}
+
+void tst_MainWindowParameters::theyAreNamedUntilAParameterIsEdited_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"numeropagine", "numeroblocchi", "numerorighexblocco", "numeroestrazionixriga", "numerojollyxriga",
+          "numeroscrittexriga", "numerocolonne", "numerominimo", "numeromassimo"}) {
+        QTest::newRow(name) << QStringLiteral("box_classica_") + QLatin1String(name);
+    }
+}
+
+void tst_MainWindowParameters::theyAreNamedUntilAParameterIsEdited()
+{
+    QFETCH(QString, name);
+    ScratchFolder folder;
+    folder.write(QStringLiteral("config.ini"), "[General]\nNMIN=10\nNMAX=80\nCLASSIC_NCOLS=500\n");
+    Config config(qApp);
+    const QScopedValueRollback<Config *> global(globalConfig, &config);
+    MainWindow window;
+    const auto *changed = window.findChild<QLabel *>(QStringLiteral("label_valoricambiati"));
+    QVERIFY(!changed->isHidden());
+    auto *box = window.findChild<QSpinBox *>(name);
+    box->setValue(box->value() == box->maximum() ? box->value() - 1 : box->value() + 1);
     QVERIFY(changed->isHidden());
 }
 
