@@ -107,11 +107,19 @@ bool RandomUser::step(int number)
     act();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    breakIfPlanted(number);
     const QString wrong = problem();
     if (!wrong.isEmpty()) {
         std::printf("step %d: %s\n", number, qPrintable(wrong));
     }
     return wrong.isEmpty();
+}
+
+void RandomUser::breakIfPlanted(int step)
+{
+    if (m_stepsToFault.erase(step) > 0 && m_stepsToFault.empty()) {
+        m_window->setCursor(Qt::WaitCursor);
+    }
 }
 
 QString RandomUser::problem() const

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <random>
+#include <set>
 #include <vector>
 
 class MainWindow;
@@ -24,6 +25,9 @@ public:
     RandomUser(unsigned seed, bool telling);
     ~RandomUser() override;
     Q_DISABLE_COPY_MOVE(RandomUser)
+
+    // A fault to try the search with: the last of these steps is a finding when all others were played before it.
+    void plantFault(const std::set<int> &steps) { m_stepsToFault = steps; }
 
     // False when it was a finding. A step does the same thing whatever others are left out before it, as far as the
     // windows are the same.
@@ -60,6 +64,7 @@ private:
     void answer(QWidget *dialog);
     void answerBox(QMessageBox *box);
     void chooseFile(QFileDialog *dialog);
+    void breakIfPlanted(int step);
     QString problem() const;
 
     unsigned m_seed;
@@ -67,5 +72,6 @@ private:
     std::mt19937 m_random;
     int m_depth = 0;
     bool m_painting = true;
+    std::set<int> m_stepsToFault;
     std::unique_ptr<MainWindow> m_window;
 };

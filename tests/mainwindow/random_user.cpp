@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // A user who does anything at any time, also while a box waits for an answer, and answers the boxes anyhow.
 //
-//     random_user <seed> <sessions>            plays that many sessions, each in a process of its own
+//     random_user <seed> <sessions> [<steps>]  plays that many sessions, each in a process of its own
 //     random_user <seed> --replay <step>...    plays some steps of one session and tells them
+//
+// RANDOM_USER_FAULT=<step>[,<step>...] plants a fault: the last of these steps is a finding when all were played.
 //
 // A finding is a session that ends by itself, does not end, or leaves the program in a state that must not be. It is
 // told by its seed and the steps that are needed for it.
@@ -19,13 +21,14 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <numeric>
+#include <set>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 namespace {
-constexpr int stepsOfASession = 1000;
+constexpr int usualSteps = 1000;
 // Seconds after which a session counts as one that never ends: of the processor, and of one that waits for ever.
 constexpr rlim_t longestWork = 240;
 constexpr unsigned longestWait = 3600;
@@ -40,6 +43,17 @@ public:
     }
     QIcon standardIcon(StandardPixmap, const QStyleOption *, const QWidget *) const override { return QIcon(); }
 };
+
+std::set<int> plantedSteps()
+{
+    std::set<int> steps;
+    for (const QByteArray &step : qgetenv("RANDOM_USER_FAULT").split(',')) {
+        if (!step.isEmpty()) {
+            steps.insert(step.toInt());
+        }
+    }
+    return steps;
+}
 
 // In a process of its own, for it ends the process at the first finding.
 int play(unsigned seed, const std::vector<int> &steps, bool telling)
@@ -59,6 +73,7 @@ int play(unsigned seed, const std::vector<int> &steps, bool telling)
     CurrentConfig config(&app);
     config.defaultSaveDir = folder.path(QString());
     RandomUser user(seed, telling);
+    user.plantFault(plantedSteps());
     return std::all_of(steps.begin(), steps.end(), [&user](int step) { return user.step(step); }) ? 0 : 1;
 }
 
@@ -113,23 +128,15 @@ void report(unsigned seed, const std::vector<int> &steps)
     std::printf("\n");
     endsWell(seed, needed, true);
 }
-} // namespace
 
-int main(int argc, char **argv)
+int replay(unsigned seed, const std::vector<int> &steps)
 {
-    if (argc < 3) {
-        std::fputs("usage: random_user <seed> <sessions>\n       random_user <seed> --replay <step>...\n", stderr);
-        return 2;
-    }
-    const unsigned seed = QByteArray(argv[1]).toUInt();
-    if (qstrcmp(argv[2], "--replay") == 0) {
-        std::vector<int> steps;
-        std::transform(argv + 3, argv + argc, std::back_inserter(steps),
-                       [](const char *step) { return std::atoi(step); });
-        return endsWell(seed, steps, true) ? 0 : 1;
-    }
-    const unsigned sessions = QByteArray(argv[2]).toUInt();
-    std::vector<int> steps(stepsOfASession);
+    return endsWell(seed, steps, true) ? 0 : 1;
+}
+
+int playSessions(unsigned seed, unsigned sessions, int stepsOfEach)
+{
+    std::vector<int> steps(static_cast<size_t>(stepsOfEach));
     std::iota(steps.begin(), steps.end(), 0);
     unsigned findings = 0;
     for (unsigned session = seed; session < seed + sessions; ++session) {
@@ -138,6 +145,26 @@ int main(int argc, char **argv)
             report(session, steps);
         }
     }
-    std::printf("%u sessions of %d steps, %u with a finding\n", sessions, stepsOfASession, findings);
+    std::printf("%u sessions of %d steps, %u with a finding\n", sessions, stepsOfEach, findings);
     return findings == 0 ? 0 : 1;
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc < 3) {
+        std::fputs("usage: random_user <seed> <sessions> [<steps>]\n"
+                   "       random_user <seed> --replay <step>...\n"
+                   "RANDOM_USER_FAULT=<step>[,<step>...] plants a fault that needs all these steps\n",
+                   stderr);
+        return 2;
+    }
+    const unsigned seed = QByteArray(argv[1]).toUInt();
+    if (qstrcmp(argv[2], "--replay") == 0) {
+        std::vector<int> steps;
+        std::transform(argv + 3, argv + argc, std::back_inserter(steps),
+                       [](const char *step) { return std::atoi(step); });
+        return replay(seed, steps);
+    }
+    return playSessions(seed, QByteArray(argv[2]).toUInt(), argc > 3 ? QByteArray(argv[3]).toInt() : usualSteps);
 }
