@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "manuale/ManualFile.h"
 
+#include "settings/DiskFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +16,8 @@ ManualFile readManual(const QString &fileName)
 {
     QFile file(fileName);
     const bool opened = QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly);
-    const QByteArray page = opened ? file.readAll() : QByteArray();
-    // The toolkit tells of no error when the disk fails in the midst of a file.
-    return {fileName, page.size() == file.size() ? page : QByteArray()};
+    const QByteArray page = opened ? readToEnd(file) : QByteArray();
+    return {fileName, file.error() == QFile::NoError ? page : QByteArray()};
 }
 
 ManualFile manualFor(const QString &locale)

@@ -25,9 +25,10 @@ QString readLatin1(QFile &file)
     if (device || !file.open(QIODevice::ReadOnly)) {
         return QString();
     }
-    QString text = QString::fromLatin1(file.readAll());
+    const QByteArray text = readToEnd(file);
+    const bool whole = file.error() == QFile::NoError;
     file.close();
-    return text;
+    return whole ? QString::fromLatin1(text) : QString();
 }
 } // namespace
 

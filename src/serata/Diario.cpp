@@ -113,7 +113,7 @@ Diario::Corso Diario::read(const QString &fileName)
     if (isDevice(fileName)) {
         return unreadable(DiarioText::tr("Non è un file."));
     }
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? readToEnd(file) : QByteArray();
     if (file.error() != QFile::NoError) {
         return unreadable(file.errorString());
     }
@@ -145,7 +145,7 @@ std::optional<Diario::Corso> Diario::resume()
     if (!open()) {
         return std::nullopt;
     }
-    const QByteArray text = m_file.readAll();
+    const QByteArray text = readToEnd(m_file);
     if (m_file.error() != QFile::NoError) {
         fail(m_file.errorString());
         return std::nullopt;

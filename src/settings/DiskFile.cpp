@@ -14,6 +14,15 @@ bool isDevice(const QString &fileName)
     return file.exists() && !file.isFile() && !file.isDir();
 }
 
+QByteArray readToEnd(QFile &file)
+{
+    QByteArray content;
+    for (QByteArray part = file.readAll(); !part.isEmpty(); part = file.readAll()) {
+        content += part;
+    }
+    return content;
+}
+
 bool isSynced(int descriptor)
 {
     return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;

@@ -23,6 +23,7 @@ class tst_TextFaults final : public QObject
 private slots:
     void afterAnyFaultTheOldTextOrTheNewOneIsWhole_data();
     void afterAnyFaultTheOldTextOrTheNewOneIsWhole();
+    void aTextThatBreaksOffIsNotShown();
 };
 
 void tst_TextFaults::afterAnyFaultTheOldTextOrTheNewOneIsWhole_data()
@@ -74,6 +75,20 @@ void tst_TextFaults::afterAnyFaultTheOldTextOrTheNewOneIsWhole()
         QVERIFY2(found == after || (reached && found == before), qPrintable(QString::number(call)));
     }
     QVERIFY(call > 4);
+}
+
+// Saving it would cut the file.
+void tst_TextFaults::aTextThatBreaksOffIsNotShown()
+{
+    const ScratchFolder folder;
+    folder.write(name, after);
+    MsgArea area(nullptr, true);
+    for (const int block : {0, 1, 2}) {
+        const FileFaults fault(folder.path(name), FileFaults::Calls::ReadsOfBlocks, block,
+                               FileFaults::Effect::LastingError);
+        area.setText(folder.path(name), true);
+        QCOMPARE(area.findChild<QTextEdit *>()->toPlainText(), block == 0 ? QString::fromLatin1(after) : QString());
+    }
 }
 
 QTEST_MAIN(tst_TextFaults)

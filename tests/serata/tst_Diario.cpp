@@ -159,13 +159,16 @@ void tst_Diario::aJournalThatCannotBeReadIsToldOf()
 
 void tst_Diario::aJournalThatCannotBeReadStaysAsItIs()
 {
-    const QByteArray text("schede 5\nnumeri 1 90\n+34\n");
+    const QByteArray text = "schede 5\nnumeri 1 90\n" + QByteArray("+34\n-34\n").repeated(1000) + "+34\n";
     m_folder->write(name, text);
     Diario diario(m_folder->path(name));
-    {
-        const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::Reads, 1, FileFaults::Effect::Error);
+    for (const int block : {1, 2}) {
+        const FileFaults faults(m_folder->path(QString()), FileFaults::Calls::ReadsOfBlocks, block,
+                                FileFaults::Effect::LastingError);
+        const QString reason = qt_error_string(EIO);
         QVERIFY(!diario.resume());
-        QVERIFY(!diario.errorString().isEmpty());
+        QCOMPARE(diario.errorString(), reason);
+        QCOMPARE(Diario::read(m_folder->path(name)).errore, reason);
     }
     QCOMPARE(m_folder->read(name), text);
     const auto corso = diario.resume();
