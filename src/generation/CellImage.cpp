@@ -66,7 +66,7 @@ QImage loadCellImage(const QString &path)
     if (isTooLarge) {
         size = size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
     }
-    const QImage image = isTooLarge ? readReduced(reader, size) : reader.read();
+    QImage image = isTooLarge ? readReduced(reader, size) : reader.read();
     if (image.isNull() && !hasRoomInMemory(size)) {
         throw std::bad_alloc(); // a reader does not tell this from a picture that is damaged
     }
