@@ -103,6 +103,8 @@ void tst_CellImage::whatIsNoPictureIsANullImage()
     const ScratchFolder folder;
     folder.write(QStringLiteral("text.png"), QByteArrayLiteral("no picture"));
     QVERIFY(loadCellImage(folder.path(QStringLiteral("text.png"))).isNull());
+    folder.write(QStringLiteral("grey.pgm"), "P5 12000 2 255\n"); // without pixels
+    QVERIFY(loadCellImage(folder.path(QStringLiteral("grey.pgm"))).isNull());
     QVERIFY(loadCellImage(folder.path(QStringLiteral("missing.png"))).isNull());
     QVERIFY(loadCellImage(QString()).isNull());
 }
@@ -122,6 +124,11 @@ void tst_CellImage::aPictureThatIsTooLargeIsReadSmaller()
     wide.fill(Qt::red);
     QVERIFY(wide.save(folder.path(QStringLiteral("wide.png"))));
     QCOMPARE(loadCellImage(folder.path(QStringLiteral("wide.png"))).size(), QSize(10000, 5));
+    QVERIFY(wide.save(folder.path(QStringLiteral("wide.jpg"))));
+    QCOMPARE(loadCellImage(folder.path(QStringLiteral("wide.jpg"))).size(), QSize(10000, 5));
+    const QImage grey = wide.convertToFormat(QImage::Format_Grayscale8);
+    QVERIFY(grey.save(folder.path(QStringLiteral("grey.png"))));
+    QCOMPARE(loadCellImage(folder.path(QStringLiteral("grey.png"))).size(), QSize(10000, 5));
     folder.writePicture(QStringLiteral("largest.png"), QSize(10000, 2), Qt::red);
     QCOMPARE(loadCellImage(folder.path(QStringLiteral("largest.png"))).size(), QSize(10000, 2));
 }

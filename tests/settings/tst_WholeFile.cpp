@@ -47,7 +47,8 @@ private slots:
     void whatCannotBeWrittenIsRefused();
     void aReadOnlyFileIsRefused();
     void aFolderThatTakesNoNewFileHasItsFileWritten();
-    void aFileThatOnlyItsOwnerMayReplaceIsWritten();
+    void inASharedFolderOwnersReplaceAndOthersWrite_data();
+    void inASharedFolderOwnersReplaceAndOthersWrite();
     void aDeviceIsWrittenOn();
     void aPipeThatNobodyReadsIsRefused();
     void aPipeThatIsReadIsWrittenOn();
@@ -204,22 +205,47 @@ void tst_WholeFile::aFolderThatTakesNoNewFileHasItsFileWritten()
     QCOMPARE(filesHere(), QStringList(name));
 }
 
-void tst_WholeFile::aFileThatOnlyItsOwnerMayReplaceIsWritten()
+void tst_WholeFile::inASharedFolderOwnersReplaceAndOthersWrite_data()
+{
+    QTest::addColumn<bool>("ownsFolder");
+    QTest::addColumn<bool>("ownsFile");
+    QTest::addColumn<bool>("replaced");
+    QTest::newRow("another's file") << false << false << false;
+    QTest::newRow("an own file") << false << true << true;
+    QTest::newRow("another's file in an own folder") << true << false << true;
+}
+
+void tst_WholeFile::inASharedFolderOwnersReplaceAndOthersWrite()
 {
     if (geteuid() != 0) {
         QSKIP("needs a file of another user");
     }
+    QFETCH(bool, ownsFolder);
+    QFETCH(bool, ownsFile);
+    QFETCH(bool, replaced);
+    const uid_t user = 65534;
+    const uid_t root = 0;
     const ScratchFolder shared;
-    QVERIFY(QDir().mkdir(QStringLiteral("common")));
     const QString path = shared.path(QStringLiteral("common/a.txt"));
     shared.write(path, oldContent);
     const mode_t everybody = S_IRWXU | S_IRWXG | S_IRWXO;
+    QCOMPARE(chown("common", ownsFolder ? user : root, static_cast<gid_t>(-1)), 0);
+    QCOMPARE(chown("common/a.txt", ownsFile ? user : root, static_cast<gid_t>(-1)), 0);
     QCOMPARE(chmod("common", everybody | S_ISVTX), 0);
     QCOMPARE(chmod("common/a.txt", everybody), 0);
+    struct stat before
     {
-        const OrdinaryUser user(shared);
+    };
+    QCOMPARE(stat("common/a.txt", &before), 0);
+    {
+        const OrdinaryUser nobody(shared);
         QCOMPARE(writeWhole(path, newContent), Written::Whole);
     }
+    struct stat after
+    {
+    };
+    QCOMPARE(stat("common/a.txt", &after), 0);
+    QCOMPARE(before.st_ino != after.st_ino, replaced);
     QCOMPARE(shared.read(path), newContent);
     QCOMPARE(QDir(QStringLiteral("common")).entryList(QDir::Files), QStringList(name));
 }
