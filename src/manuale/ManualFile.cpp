@@ -14,8 +14,9 @@ QString manualFolder()
 
 ManualFile readManual(const QString &fileName)
 {
+    const QFileInfo there(fileName);
     QFile file(fileName);
-    const bool opened = QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly);
+    const bool opened = there.isFile() && file.open(QIODevice::ReadOnly);
     const QByteArray page = opened ? readToEnd(file) : QByteArray();
     return {fileName, file.error() == QFile::NoError ? page : QByteArray()};
 }
@@ -23,6 +24,9 @@ ManualFile readManual(const QString &fileName)
 ManualFile manualFor(const QString &locale)
 {
     const QString name = manualFolder() + QStringLiteral("/manual_%1.html");
-    const ManualFile manual = readManual(name.arg(locale.section(QLatin1Char('_'), 0, 0)));
-    return manual.page.isEmpty() ? readManual(name.arg(QStringLiteral("en"))) : manual;
+    ManualFile manual = readManual(name.arg(locale.section(QLatin1Char('_'), 0, 0)));
+    if (manual.page.isEmpty()) {
+        manual = readManual(name.arg(QStringLiteral("en")));
+    }
+    return manual;
 }

@@ -46,12 +46,11 @@ bool isTaken(const QFileInfo &file)
 // Where many may write, as in /tmp, a file is replaced by its owner or that of the folder only.
 bool isReplacedByOthersOnly(const QFileInfo &file)
 {
-    struct stat folder
-    {
-    };
+    const QByteArray name = QFile::encodeName(file.path());
     const uid_t user = geteuid();
-    return user != 0 && stat(QFile::encodeName(file.path()).constData(), &folder) == 0 &&
-           (folder.st_mode & S_ISVTX) != 0 && folder.st_uid != user && file.ownerId() != user;
+    struct stat folder = {};
+    return user != 0 && stat(name.constData(), &folder) == 0 && (folder.st_mode & S_ISVTX) != 0 &&
+           folder.st_uid != user && file.ownerId() != user;
 }
 
 // A file that cannot be written is not replaced either: its own opening tells why.

@@ -233,17 +233,13 @@ void tst_WholeFile::inASharedFolderOwnersReplaceAndOthersWrite()
     QCOMPARE(chown("common/a.txt", ownsFile ? user : root, static_cast<gid_t>(-1)), 0);
     QCOMPARE(chmod("common", everybody | S_ISVTX), 0);
     QCOMPARE(chmod("common/a.txt", everybody), 0);
-    struct stat before
-    {
-    };
+    struct stat before = {};
     QCOMPARE(stat("common/a.txt", &before), 0);
     {
         const OrdinaryUser nobody(shared);
         QCOMPARE(writeWhole(path, newContent), Written::Whole);
     }
-    struct stat after
-    {
-    };
+    struct stat after = {};
     QCOMPARE(stat("common/a.txt", &after), 0);
     QCOMPARE(before.st_ino != after.st_ino, replaced);
     QCOMPARE(shared.read(path), newContent);
