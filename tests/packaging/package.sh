@@ -2,6 +2,7 @@
 # package.sh <project> <folder of the packages>: what the packages hold, how they were built, and that the program starts
 # once it is installed. Needs lintian.
 set -eu
+export PATH="$PATH:/usr/sbin:/sbin" # an ordinary user does not have what dpkg looks for
 project=$1
 deb=$(ls "$2"/quintra_*.deb)
 dbgsym=$(ls "$2"/quintra-dbgsym_*.ddeb)
