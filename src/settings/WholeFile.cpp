@@ -153,8 +153,11 @@ bool WholeFile::holdDevice()
     if (descriptor >= 0) {
         return m_device.open(descriptor, QIODevice::WriteOnly, QFile::AutoCloseHandle);
     }
-    m_error = qt_error_string(errno);
-    return errno != ENXIO;
+    if (errno != ENXIO) {
+        return true; // whoever opens it is told why it cannot be
+    }
+    m_error = qt_error_string(ENXIO);
+    return false;
 }
 
 QString WholeFile::writtenName() const

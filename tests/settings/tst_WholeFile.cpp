@@ -51,6 +51,7 @@ private slots:
     void inASharedFolderOwnersReplaceAndOthersWrite();
     void aDeviceIsWrittenOn();
     void aPipeThatNobodyReadsIsRefused();
+    void aPipeWithoutRightsIsNotOpened();
     void aPipeThatIsReadIsWrittenOn();
     void withoutFilesToOpenNothingIsTried();
     void afterAnyFaultTheOldFileOrTheNewOneIsWhole_data();
@@ -265,6 +266,13 @@ void tst_WholeFile::aPipeThatNobodyReadsIsRefused()
     QCOMPARE(writeWhole(QStringLiteral("pipe"), newContent, {}, &reason), Written::Incomplete);
     QVERIFY(!reason.isEmpty());
     QCOMPARE(filesHere(), QStringList(QStringLiteral("pipe")));
+}
+
+void tst_WholeFile::aPipeWithoutRightsIsNotOpened()
+{
+    const OrdinaryUser user(*m_folder);
+    QCOMPARE(mkfifo("pipe", 0), 0);
+    QCOMPARE(writeWhole(QStringLiteral("pipe"), newContent), Written::NotOpened);
 }
 
 void tst_WholeFile::aPipeThatIsReadIsWrittenOn()
