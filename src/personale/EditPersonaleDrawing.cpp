@@ -119,7 +119,6 @@ void EditPersonale::on_impostaschemacorrenteButton_clicked()
              tr("Le pagine selezionate verranno sovrascritte con lo schema corrente. Proseguire?"))) {
         return;
     }
-    letClosedDialogsDisappear();
     bool copied = false;
     const bool enough = withinMemory(this, Product::titleFor(tr("Mappatura manuale")),
                                      [&]() { copied = copySchemeTo(pagesToCopyTo()); });
