@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Schemes are drawn: selection, ticks and types, the numbers counted meanwhile, the copy to other pages.
+#include "EditorMemory.h"
 #include "EditorUnderTest.h"
 #include "support/FatalMessage.h"
 
@@ -49,6 +50,11 @@ private slots:
     void copyingTakesTickTypeAndFlag();
     void decliningTheCopyChangesNothing();
     void copyingAGoodSchemeToManyPagesLeavesTheCreationAllowed();
+    void copyingToAPageOfAnotherSizeRebuildsIt();
+    void aCopyThatDoesNotFitTheMemoryIsAskedAbout();
+    void aCopyToPagesOfTheSameSizeTakesNoMemory();
+    void aCopyThatFindsNoMemoryChangesNoPage();
+    void ticksOfARebuiltPageAreCounted();
 };
 
 void tst_EditPersonaleDrawing::aRowStartAboveThePageIsTheLastRow()
@@ -512,6 +518,117 @@ void tst_EditPersonaleDrawing::copyingAGoodSchemeToManyPagesLeavesTheCreationAll
     t.copyTo(1, 11);
     t.tick(0, 0, CELL_NUMERO);
     QVERIFY(t.canCreate()); // 3 numbers, not more
+}
+
+void tst_EditPersonaleDrawing::copyingToAPageOfAnotherSizeRebuildsIt()
+{
+    EditorUnderTest t(1, 1, 1, 1, 6);
+    t.open("\"NsIo\n!SSSSS\n\"nnnn\n");
+    t.copyTo(1, 3);
+    for (int number = 2; number <= 3; ++number) {
+        t.showPage(number);
+        QCOMPARE(t.grid()->count(), 4);
+        QCOMPARE(t.drawn(), QStringLiteral("Ns Io"));
+        QCOMPARE(t.box(1, 0)->toolTip(), QStringLiteral("2,1"));
+        QCOMPARE(int(t.box(1, 0)->riga), 1);
+        QCOMPARE(int(t.box(1, 0)->colonna), 0);
+    }
+    t.showPage(2);
+    QTest::mouseClick(t.box(0, 1), Qt::RightButton); // its boxes were made by the editor
+    QCOMPARE(t.drawn(), QStringLiteral("Ni Io"));
+    t.showPage(3);
+    QTest::mouseClick(t.box(0, 1), Qt::RightButton); // those of the same size are still the loaded ones
+    QCOMPARE(t.drawn(), QStringLiteral("Ns Io"));
+
+    t.showPage(2);
+    t.selectAll(true);
+    t.click("setNumTxtImgButton");
+    t.click("riempiButton");
+    QVERIFY(t.canCreate());
+    t.open("!N\n!NNNNNNN\n");
+    t.showPage(2);
+    t.copyTo(1, 1);
+    QVERIFY(!t.canCreate()); // counted anew: seven
+    QTest::mouseClick(t.box(0, 0), Qt::LeftButton);
+    QVERIFY(t.canCreate());
+    t.showPage(1);
+    QCOMPARE(t.drawn(), QStringLiteral("NNNNNNN"));
+}
+
+void tst_EditPersonaleDrawing::aCopyThatDoesNotFitTheMemoryIsAskedAbout()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.open("/" + QByteArray(255, 'N') + '\n' + QByteArray("!S\n").repeated(99) + '/' + QByteArray(255, 'S') + '\n');
+    t.spin("impostaAspinBox")->setValue(101);
+    t.expectCopyQuestion(QMessageBox::Yes);
+    t.boxes.expectBox(editorTitle, QMessageBox::No, isMemoryQuestion);
+    {
+        const MemoryLimit limit(room);
+        t.click("impostaschemacorrenteButton");
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Copia schema annullata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    for (const int page : {2, 50, 100}) {
+        t.showPage(page);
+        QCOMPARE(t.drawn(), QStringLiteral("S"));
+    }
+    t.showPage(101); // nor one of the same size
+    QCOMPARE(t.box(0, 0)->tipo, CELL_TESTO);
+}
+
+// Their boxes would not fit once more.
+void tst_EditPersonaleDrawing::aCopyToPagesOfTheSameSizeTakesNoMemory()
+{
+    EditorUnderTest t(1, 2, 2);
+    t.open("/" + QByteArray(255, 'N') + '\n' + ('/' + QByteArray(255, 'S') + '\n').repeated(50) + "!S\n");
+    {
+        const MemoryLimit limit(16 << 20);
+        t.copyTo(1, 52);
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Copia schema effettuata!"));
+    for (const int page : {2, 51, 52}) {
+        t.showPage(page);
+        QCOMPARE(t.drawn().count(QLatin1Char('N')), 255);
+    }
+}
+
+void tst_EditPersonaleDrawing::aCopyThatFindsNoMemoryChangesNoPage()
+{
+    if (!MemoryLimit::isSurvived()) {
+        QSKIP("no allocation may fail");
+    }
+    EditorUnderTest t(1, 2, 2);
+    t.open("/" + QByteArray(255, 'N') + '\n' + QByteArray("!S\n").repeated(300));
+    {
+        const MemoryLimit limit(room);
+        t.spin("impostaAspinBox")->setValue(301);
+        t.expectCopyQuestion(QMessageBox::Yes);
+        t.boxes.expectBox(editorTitle, QMessageBox::Yes, isMemoryQuestion);
+        t.boxes.expectBox(editorTitle, noMemory, QMessageBox::Ok, QMessageBox::Warning);
+        t.click("impostaschemacorrenteButton");
+    }
+    QCOMPARE(t.boxes.problems(), QStringList());
+    QCOMPARE(t.status(), QStringLiteral("Copia schema annullata!"));
+    QCOMPARE(t.editor->cursor().shape(), Qt::ArrowCursor);
+    for (const int page : {2, 150, 301}) {
+        t.showPage(page);
+        QCOMPARE(t.drawn(), QStringLiteral("S"));
+    }
+}
+
+void tst_EditPersonaleDrawing::ticksOfARebuiltPageAreCounted()
+{
+    EditorUnderTest t(1, 1, 1, 1, 1);
+    t.open("!Nn\n!SSS\n");
+    t.copyTo(2, 2);
+    t.showPage(2);
+    QVERIFY(t.canCreate());
+    QTest::mouseClick(t.box(0, 1), Qt::LeftButton);
+    QCOMPARE(t.drawn(), QStringLiteral("NN"));
+    QCOMPARE(t.verdict(), QStringLiteral("I numeri da generare (2) sono maggiori di quelli disponibili (1)."));
+    QVERIFY(!t.canCreate());
 }
 
 QTEST_MAIN(tst_EditPersonaleDrawing)
