@@ -19,6 +19,18 @@
 
 #include <cstdio>
 
+namespace {
+// The question about the evening that is saved, of which one number was called.
+void expectOtherCards(Evening &e, QMessageBox::StandardButton answer)
+{
+    e.boxes.expectBox(title,
+                      QStringLiteral("In %1 c'è una serata con altre schede (numeri chiamati: 1).\n\nContinuare "
+                                     "quella? Con No ne comincia una nuova, e quella viene messa da parte.")
+                          .arg(e.folder.path(journal)),
+                      answer);
+}
+} // namespace
+
 class tst_SerataApertura final : public QObject
 {
     Q_OBJECT
@@ -234,11 +246,7 @@ void tst_SerataApertura::anEveningOfOtherCardsGoesOnIfWanted()
     QVERIFY(e.openSet());
     e.call(7);
     const Cartella other(1, 1, 3, 9);
-    e.boxes.expectBox(title,
-                      QStringLiteral("In %1 c'è una serata con altre schede (numeri chiamati: 1).\n\nContinuare "
-                                     "quella? Con No ne comincia una nuova, e quella viene messa da parte.")
-                          .arg(e.folder.path(journal)),
-                      QMessageBox::Yes);
+    expectOtherCards(e, QMessageBox::Yes);
     QVERIFY(e.openAgain(other));
     QVERIFY(e.isMarked(7));
     e.check(QStringLiteral("2.2"));
@@ -254,11 +262,7 @@ void tst_SerataApertura::anEveningOfOtherCardsIsPutAsideIfNotWanted()
     const QByteArray cards = e.folder.read(evening);
     const QByteArray calls = e.folder.read(journal);
     const Cartella other(1, 1, 3, 9);
-    e.boxes.expectBox(title,
-                      QStringLiteral("In %1 c'è una serata con altre schede (numeri chiamati: 1).\n\nContinuare "
-                                     "quella? Con No ne comincia una nuova, e quella viene messa da parte.")
-                          .arg(e.folder.path(journal)),
-                      QMessageBox::No);
+    expectOtherCards(e, QMessageBox::No);
     QVERIFY(e.openAgain(other));
     QVERIFY(!e.isMarked(7));
     QCOMPARE(e.saved(), Numbers{});
@@ -298,11 +302,7 @@ void tst_SerataApertura::anEveningOfOtherCardsIsLeftAloneWithoutAnAnswer()
     e.call(7);
     const QByteArray calls = e.folder.read(journal);
     const Cartella other(1, 1, 3, 9);
-    e.boxes.expectBox(title,
-                      QStringLiteral("In %1 c'è una serata con altre schede (numeri chiamati: 1).\n\nContinuare "
-                                     "quella? Con No ne comincia una nuova, e quella viene messa da parte.")
-                          .arg(e.folder.path(journal)),
-                      QMessageBox::Escape);
+    expectOtherCards(e, QMessageBox::Escape);
     QVERIFY(!e.openAgain(other));
     QCOMPARE(e.folder.read(journal), calls);
     QCOMPARE(e.files(), (QStringList{evening, journal}));
