@@ -457,26 +457,26 @@ void tst_MainWindowParameters::valuesOfTheConfigurationThatWereChangedAreNamed()
 
 void tst_MainWindowParameters::theyAreNamedUntilAParameterIsEdited_data()
 {
-    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("name");
     for (const char *name :
          {"numeropagine", "numeroblocchi", "numerorighexblocco", "numeroestrazionixriga", "numerojollyxriga",
           "numeroscrittexriga", "numerocolonne", "numerominimo", "numeromassimo"}) {
-        QTest::newRow(name) << QStringLiteral("box_classica_") + QLatin1String(name);
+        QTest::newRow(name) << QByteArray(name);
     }
 }
 
 void tst_MainWindowParameters::theyAreNamedUntilAParameterIsEdited()
 {
-    QFETCH(QString, name);
-    ScratchFolder folder;
-    folder.write(QStringLiteral("config.ini"), "[General]\nNMIN=10\nNMAX=80\nCLASSIC_NCOLS=500\n");
-    Config config(qApp);
-    const QScopedValueRollback<Config *> global(globalConfig, &config);
-    MainWindow window;
-    const auto *changed = window.findChild<QLabel *>(QStringLiteral("label_valoricambiati"));
+    QFETCH(QByteArray, name);
+    const ConfiguredWindow window([](Config &config) {
+        config.nMin = 10;
+        config.nMax = 80;
+        config.classicNCols = 500; // more than there may be
+    });
+    const auto *changed = window.page.find<QLabel>("label_valoricambiati");
     QVERIFY(!changed->isHidden());
-    auto *box = window.findChild<QSpinBox *>(name);
-    box->setValue(box->value() == box->maximum() ? box->value() - 1 : box->value() + 1);
+    auto *edited = box(window.page, name.constData());
+    edited->setValue(edited->value() == edited->maximum() ? edited->value() - 1 : edited->value() + 1);
     QVERIFY(changed->isHidden());
 }
 
