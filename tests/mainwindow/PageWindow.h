@@ -5,6 +5,7 @@
 #include "model/Positions.h"
 #include "settings/Config.h"
 #include "support/BoxScript.h"
+#include "support/Find.h"
 #include "support/ScratchFolder.h"
 
 #include <QColorDialog>
@@ -56,11 +57,7 @@ public:
     template<class Widget>
     Widget *find(const char *name) const
     {
-        auto *found = window->findChild<Widget *>(QString::fromLatin1(name));
-        if (found == nullptr) {
-            qFatal("no widget %s", name);
-        }
-        return found;
+        return findIn<Widget>(window.get(), name);
     }
     void press(const char *name) const { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
     void check(const char *name) const { find<QAbstractButton>(name)->click(); }

@@ -119,7 +119,7 @@ MainWindow *PictureScene::mainWindow()
 
 void PictureScene::type(const QWidget *window, const char *spinBox, int value)
 {
-    auto *box = find<QSpinBox>(window, spinBox);
+    auto *box = findIn<QSpinBox>(window, spinBox);
     box->setFocus();
     box->selectAll();
     QTest::keyClicks(box, QString::number(value));
@@ -136,13 +136,13 @@ void PictureScene::type(QWidget *lineEdit, const QString &text)
 
 void PictureScene::press(const QWidget *window, const char *button)
 {
-    auto *pressed = find<QAbstractButton>(window, button);
+    auto *pressed = findIn<QAbstractButton>(window, button);
     QTest::mouseClick(pressed, Qt::LeftButton, Qt::NoModifier, QPoint(10, pressed->height() / 2));
 }
 
 void PictureScene::choose(const QWidget *window, const char *comboBox, int index)
 {
-    find<QComboBox>(window, comboBox)->setCurrentIndex(index);
+    findIn<QComboBox>(window, comboBox)->setCurrentIndex(index);
 }
 
 void PictureScene::makePages(int pages)

@@ -5,6 +5,7 @@
 #include "mainwindow/MainWindow.h"
 #include "settings/Config.h"
 #include "support/BoxScript.h"
+#include "support/Find.h"
 #include "support/ScratchFolder.h"
 
 #include <QAbstractButton>
@@ -40,21 +41,12 @@ public:
         }
         return window;
     }
-    template<class Widget>
-    static Widget *find(const QWidget *window, const char *name)
-    {
-        auto *found = window->findChild<Widget *>(QString::fromLatin1(name));
-        if (found == nullptr) {
-            qFatal("PictureScene: no %s", name);
-        }
-        return found;
-    }
 
     static void type(const QWidget *window, const char *spinBox, int value);
     static void type(QWidget *lineEdit, const QString &text);
     static void press(const QWidget *window, const char *button);
     static void choose(const QWidget *window, const char *comboBox, int index);
-    void trigger(const char *action) { find<QAction>(mainWindow(), action)->trigger(); }
+    void trigger(const char *action) { findIn<QAction>(mainWindow(), action)->trigger(); }
     // Types the number of pages and makes them.
     void makePages(int pages);
     // The colour that the open dialog for colours is to have.

@@ -69,7 +69,7 @@ void takeNumberedPage(PictureScene &scene)
 void takeParameters(PictureScene &scene)
 {
     PictureScene::type(scene.mainWindow(), "box_classica_numeroestrazionixriga", 6);
-    scene.take(PictureScene::find<QDockWidget>(scene.mainWindow(), "parametriDock"));
+    scene.take(findIn<QDockWidget>(scene.mainWindow(), "parametriDock"));
 }
 
 void clickCell(QTableWidget *table, int row, int column)
@@ -81,7 +81,7 @@ void clickCell(QTableWidget *table, int row, int column)
 // A new one after every page shown.
 QTableWidget *tableOf(PictureScene &scene)
 {
-    return PictureScene::find<QTableWidget>(scene.mainWindow(), "tableWidget");
+    return findIn<QTableWidget>(scene.mainWindow(), "tableWidget");
 }
 
 int firstEmptyColumn(const QTableWidget *table)
@@ -180,9 +180,9 @@ void takeEvening(PictureScene &scene)
     }
     calls.removeDuplicates(); // calling a number again takes it back
     for (const QString &number : qAsConst(calls)) {
-        PictureScene::type(PictureScene::find<QLineEdit>(evening, "numero_edit"), number);
+        PictureScene::type(findIn<QLineEdit>(evening, "numero_edit"), number);
     }
-    PictureScene::type(PictureScene::find<QLineEdit>(evening, "scheda_edit"), QStringLiteral("1.1"));
+    PictureScene::type(findIn<QLineEdit>(evening, "scheda_edit"), QStringLiteral("1.1"));
     scene.take(evening, QSize(1024, 700));
 }
 
@@ -209,7 +209,7 @@ void takeConfig(PictureScene &scene)
 {
     {
         FormatSelection dialog;
-        QTest::mouseClick(PictureScene::find<QAbstractButton>(&dialog, "procedi"), Qt::LeftButton);
+        QTest::mouseClick(findIn<QAbstractButton>(&dialog, "procedi"), Qt::LeftButton);
     }
     QFile file(Config::filePath());
     QVERIFY(file.open(QIODevice::ReadWrite));

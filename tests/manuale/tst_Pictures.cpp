@@ -128,7 +128,7 @@ void tst_Pictures::aTextThatIsNotInThePictureIsFound()
 {
     PictureScene scene(QStringLiteral("it_IT")); // whatever the environment says
     const QStringList before = textsSeen(scene.mainWindow());
-    auto *label = PictureScene::find<QAbstractButton>(scene.mainWindow(), "butt_stampa");
+    auto *label = findIn<QAbstractButton>(scene.mainWindow(), "butt_stampa");
     label->setText(QStringLiteral("Stampa subito"));
     const QStringList after = textsSeen(scene.mainWindow());
     QCOMPARE(difference(after, before),

@@ -4,6 +4,7 @@
 #include "personale/EditPersonale.h"
 #include "settings/Config.h"
 #include "support/BoxScript.h"
+#include "support/Find.h"
 #include "support/ScratchFolder.h"
 
 #include <QAbstractButton>
@@ -34,9 +35,7 @@ struct EditorUnderTest
     template<typename T>
     T *find(const char *name) const
     {
-        auto *found = editor->findChild<T *>(QLatin1String(name));
-        Q_ASSERT(found != nullptr);
-        return found;
+        return findIn<T>(editor, name);
     }
     QSpinBox *spin(const char *name) const { return find<QSpinBox>(name); }
     QAbstractButton *button(const char *name) const { return find<QAbstractButton>(name); }

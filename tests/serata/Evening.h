@@ -9,6 +9,7 @@
 #include "serata/Tabellone.h"
 #include "settings/Config.h"
 #include "support/BoxScript.h"
+#include "support/Find.h"
 #include "support/ScratchFolder.h"
 
 #include <QAction>
@@ -91,11 +92,7 @@ public:
     template<class Widget>
     Widget *find(const char *name) const
     {
-        auto *found = window->findChild<Widget *>(QString::fromLatin1(name));
-        if (found == nullptr) {
-            qFatal("no widget %s", name);
-        }
-        return found;
+        return findIn<Widget>(window.get(), name);
     }
     void press(const char *button) const { QTest::mouseClick(find<QPushButton>(button), Qt::LeftButton); }
     void trigger(const char *action) const { find<QAction>(action)->trigger(); }

@@ -13,6 +13,7 @@
 #include "serata/Serata.h"
 #include "settings/FormatSelection.h"
 #include "settings/Options.h"
+#include "support/Find.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -37,16 +38,6 @@ const QSize smallestScreen(1024, 700); // device-independent pixels
 constexpr U8 columns = 9;
 constexpr int depthOfLayouts = 3;
 
-template<class Widget>
-Widget *find(const QWidget *window, const char *name)
-{
-    auto *found = window->findChild<Widget *>(QString::fromLatin1(name));
-    if (found == nullptr) {
-        qFatal("no widget %s", name);
-    }
-    return found;
-}
-
 void fillPages(Cartella &cartella)
 {
     constexpr int drawn = 5;
@@ -65,9 +56,9 @@ Window mainWindow(Stage &)
 {
     constexpr int lastRow = 17;
     auto window = std::make_unique<MainWindow>();
-    find<QSpinBox>(window.get(), "box_classica_numeropagine")->setValue(2);
-    find<QSpinBox>(window.get(), "box_classica_numerojollyxriga")->setValue(1);
-    find<QSpinBox>(window.get(), "box_classica_numeroscrittexriga")->setValue(1);
+    findIn<QSpinBox>(window.get(), "box_classica_numeropagine")->setValue(2);
+    findIn<QSpinBox>(window.get(), "box_classica_numerojollyxriga")->setValue(1);
+    findIn<QSpinBox>(window.get(), "box_classica_numeroscrittexriga")->setValue(1);
     if (!window->generate(false)) {
         qFatal("no pages");
     }
@@ -75,7 +66,7 @@ Window mainWindow(Stage &)
     const auto position = rowPosition(page, lastRow);
     page.blocchi[size_t(position->block)].righe[size_t(position->row)].nCelle = columns - 2;
     window->loadPagina(0);
-    find<QTableWidget>(window.get(), "tableWidget")->setCurrentCell(0, 0);
+    findIn<QTableWidget>(window.get(), "tableWidget")->setCurrentCell(0, 0);
     return window;
 }
 
@@ -84,18 +75,18 @@ Window editor(Stage &stage)
 {
     constexpr U8 rows = 3;
     auto window = std::make_unique<EditPersonale>(nullptr, &stage.cartella, rows, columns, U16(1), 1, 90, 0);
-    find<QSpinBox>(window.get(), "row_to_spinBox")->setValue(rows);
+    findIn<QSpinBox>(window.get(), "row_to_spinBox")->setValue(rows);
     int column = 0;
     for (const char *type : {"num_radioButton", "txt_radioButton", "img_radioButton"}) {
-        find<QSpinBox>(window.get(), "col_to_spinBox")->setValue(++column);
-        find<QSpinBox>(window.get(), "col_from_spinBox")->setValue(column);
-        find<QAbstractButton>(window.get(), type)->click();
-        find<QPushButton>(window.get(), "setNumTxtImgButton")->click();
-        find<QPushButton>(window.get(), "riempiButton")->click();
+        findIn<QSpinBox>(window.get(), "col_to_spinBox")->setValue(++column);
+        findIn<QSpinBox>(window.get(), "col_from_spinBox")->setValue(column);
+        findIn<QAbstractButton>(window.get(), type)->click();
+        findIn<QPushButton>(window.get(), "setNumTxtImgButton")->click();
+        findIn<QPushButton>(window.get(), "riempiButton")->click();
     }
     stage.boxes->expectBox(QStringLiteral("Quintra - ") + EditPersonale::tr("Mappatura manuale"), QMessageBox::Ok,
                            [](QMessageBox *) {});
-    find<QPushButton>(window.get(), "creapagineButton")->click();
+    findIn<QPushButton>(window.get(), "creapagineButton")->click();
     return window;
 }
 
@@ -140,7 +131,7 @@ Window preview(Stage &stage)
 
 void call(const Serata &window, quint32 number)
 {
-    auto *edit = find<QLineEdit>(&window, "numero_edit");
+    auto *edit = findIn<QLineEdit>(&window, "numero_edit");
     edit->setText(QString::number(number));
     QTest::keyClick(edit, Qt::Key_Return);
 }
@@ -164,7 +155,7 @@ Window evening(Stage &stage)
         }
     }
     call(*window, last); // taken back
-    auto *card = find<QLineEdit>(window.get(), "scheda_edit");
+    auto *card = findIn<QLineEdit>(window.get(), "scheda_edit");
     card->setText(QStringLiteral("1.1"));
     QTest::keyClick(card, Qt::Key_Return);
     return window;
